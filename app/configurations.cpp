@@ -1,0 +1,11 @@
+#include "app/configurations.h"
+
+namespace corvane {
+
+std::optional<AppSettings> EditConfigurations(toolkit::WindowHandle /*owner*/,
+                                              const AppSettings& /*settings*/) {
+    // The program has no dialog for this yet, so the command ends like a cancelled one.
+    return std::nullopt;
+}
+
+}  // namespace corvane

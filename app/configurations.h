@@ -1,0 +1,15 @@
+#pragma once
+
+#include <optional>
+
+#include "config/records.h"
+#include "toolkit/window_handle.h"
+
+namespace corvane {
+
+/// Lets the user edit the file name extensions of the settings. Returns the settings with the new
+/// extensions, or none when the user cancels.
+[[nodiscard]] std::optional<AppSettings> EditConfigurations(toolkit::WindowHandle owner,
+                                                            const AppSettings& settings);
+
+}  // namespace corvane

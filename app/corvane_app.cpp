@@ -1,0 +1,66 @@
+#include "app/corvane_app.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "app/main_window_dialog.h"
+#include "app/reporting/app_title.h"
+#include "app/reporting/message_styles.h"
+#include "app/reporting/system_messages_windows.h"
+#include "app/services.h"
+#include "app/start_texts.h"
+#include "certs/provider/provider_library_windows.h"
+#include "config/registry_calls_windows.h"
+#include "toolkit/file_calls_windows.h"
+#include "toolkit/message_presenter_windows.h"
+#include "toolkit/named_mutex.h"
+#include "toolkit/shell_manager.h"
+#include "toolkit/system_text_windows.h"
+
+namespace corvane {
+
+bool CCorvaneApp::InitInstance() {
+    INITCOMMONCONTROLSEX classes = {};
+    classes.dwSize = sizeof classes;
+    // All classes of the first generation of common controls.
+    classes.dwICC = 0xFF;
+    InitCommonControlsEx(&classes);
+    Application::InitInstance();
+    SetRegistryKey(L"Local AppWizard-Generated Applications");
+
+    toolkit::WindowsMessagePresenter messages;
+    const toolkit::WindowsSystemText text;
+    const WindowsSystemMessages systemMessages;
+    SystemProviderLibrary provider;
+    ErrorReporter reporter(messages, systemMessages, provider, text);
+
+    // Two copies started at the same instant may both get past this question; that is accepted.
+    if (toolkit::NamedMutex::Exists(AppTitle)) {
+        reporter.ShowMessage(nullptr, AlreadyStartedText(), kRefusalStyle);
+        return true;
+    }
+    const toolkit::NamedMutex instance(AppTitle);
+    if (!instance.IsHeld()) {
+        reporter.ReportError(nullptr, 0, kShowReport, instance.FailureCode(), kCreateMutexOperation, nullptr,
+                             nullptr);
+        return true;
+    }
+    toolkit::ShellManager shell;
+    toolkit::WindowsFileCalls files;
+    WindowsRegistryCalls registry;
+    const Services services = {
+        .messages = messages, .files = files, .shell = shell, .registry = registry, .reporter = reporter};
+    CCorvaneDlg(services).RunModal();
+    return true;
+}
+
+int CCorvaneApp::ExitInstance() {
+    return Application::ExitInstance();
+}
+
+std::wstring CCorvaneApp::Title() const {
+    return AppTitle;
+}
+
+}  // namespace corvane

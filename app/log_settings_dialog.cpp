@@ -1,0 +1,74 @@
+#include "app/log_settings_dialog.h"
+
+#include <optional>
+
+#include "res/ids.h"
+#include "toolkit/window_text.h"
+
+namespace corvane {
+
+CConflictDlg::CConflictDlg(HWND owner, const std::wstring& logPath, std::int32_t logFileSize,
+                           const Services& services)
+    : Dialog(IDD_LOG_SETTINGS, owner),
+      services_(services),
+      form_(logPath, logFileSize),
+      sizeLabel_(kLogSizeLabelText) {}
+
+bool CConflictDlg::OnInitDialog() {
+    SetWindowTextW(Window(), kLogSettingsTitle);
+    SetControlText(IDCANCEL, kLogSettingsExitText);
+    SetControlText(IDC_LOG_FOLDER_BUTTON, kLogFolderButtonText);
+    PutData();
+    return true;
+}
+
+bool CConflictDlg::OnCommand(int controlId, UINT notificationCode) {
+    if (controlId == IDC_LOG_FOLDER_BUTTON && notificationCode == BN_CLICKED) {
+        ChooseFolder();
+        return true;
+    }
+    if (controlId == IDC_LOG_SIZE_EDIT && notificationCode == EN_CHANGE) {
+        OnSizeChanged();
+        return true;
+    }
+    return Dialog::OnCommand(controlId, notificationCode);
+}
+
+void CConflictDlg::ChooseFolder() {
+    const std::optional<std::wstring> folder = services_.shell.PickFolder(Window());
+    if (!folder) {
+        return;
+    }
+    TakeData();
+    form_.ChooseFolder(*folder, services_.files, services_.reporter, Window());
+    PutData();
+}
+
+void CConflictDlg::OnSizeChanged() {
+    TakeData();
+    const HWND edit = Control(IDC_LOG_SIZE_EDIT);
+    const std::optional<std::wstring> correction = form_.OnSizeTextChanged(toolkit::WindowText(edit));
+    if (!correction) {
+        return;
+    }
+    PutData();
+    // The caret goes behind the corrected number, where typing goes on.
+    const std::size_t end = correction->size();
+    SendMessageW(edit, EM_SETSEL, end, static_cast<LPARAM>(end));
+}
+
+void CConflictDlg::OnOk() {
+    TakeData();
+    if (form_.Confirm(services_.files, services_.reporter, services_.messages, Window())) {
+        PutData();
+        EndModal(IDOK);
+    }
+}
+
+void CConflictDlg::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_LOG_FOLDER_EDIT, form_.editedPath);
+    exchange.Text(IDC_LOG_SIZE_LABEL, sizeLabel_);
+    exchange.Number(IDC_LOG_SIZE_EDIT, form_.logFileSize);
+}
+
+}  // namespace corvane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "app/log_settings_form.h"
+#include "app/services.h"
+#include "toolkit/dialog.h"
+
+namespace corvane {
+
+/// The log settings: the folder of the client's log and the largest size of its files, in KB.
+class CConflictDlg final : public toolkit::Dialog {
+  public:
+    /// Shows the settings that are in force.
+    CConflictDlg(HWND owner, const std::wstring& logPath, std::int32_t logFileSize, const Services& services);
+
+    /// The results, to be taken after a run that ended with OK.
+    [[nodiscard]] const std::wstring& LogPath() const { return form_.LogPath(); }
+    [[nodiscard]] std::int32_t LogFileSize() const { return form_.logFileSize; }
+
+  protected:
+    bool OnInitDialog() override;
+    bool OnCommand(int controlId, UINT notificationCode) override;
+    void OnOk() override;
+    void ExchangeFields(toolkit::DataExchange& exchange) override;
+
+  private:
+    void ChooseFolder();
+    void OnSizeChanged();
+
+    const Services& services_;
+    LogSettingsForm form_;
+    std::wstring sizeLabel_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,83 @@
+#include "app/log_settings_form.h"
+
+#include <limits>
+#include <utility>
+
+#include "app/reporting/message_styles.h"
+#include "config/records.h"
+#include "toolkit/format_text.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr std::uint32_t kPathNotFound = 3;
+constexpr std::uint32_t kFileExists = 80;
+
+void ReportBadPath(std::uint32_t code, const std::wstring& path, ErrorReporter& reporter,
+                   toolkit::WindowHandle dialog) {
+    std::wstring detail = L"Bad Log path.";
+    reporter.ReportError(dialog, 0, kShowReport, code, "Opening file %s", &detail,
+                         reporter.Text().Narrow(path).c_str());
+}
+
+/// Tells whether a folder may be used as far as the file system is concerned; if not, that was reported.
+bool IsFolderThere(const std::wstring& path, toolkit::FileCalls& files, ErrorReporter& reporter,
+                   toolkit::WindowHandle dialog) {
+    const std::uint32_t code = files.CheckExists(path);
+    // Deliberate: "file exists" as the reason why a path does not exist lets it pass.
+    if (code == 0 || code == kFileExists) {
+        return true;
+    }
+    ReportBadPath(code, path, reporter, dialog);
+    return false;
+}
+
+bool IsDriveOrNetworkPath(const std::wstring& path) {
+    return path.find(L':') != std::wstring::npos || path.find(L"\\\\") != std::wstring::npos;
+}
+
+}  // namespace
+
+LogSettingsForm::LogSettingsForm(std::wstring logPath, std::int32_t sizeInForce)
+    : editedPath(logPath), logFileSize(sizeInForce), logPath_(std::move(logPath)) {}
+
+std::optional<std::wstring> LogSettingsForm::OnSizeTextChanged(const std::wstring& text) {
+    constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+    logFileSize = toolkit::ParseDecimal(text);
+    if (logFileSize < kSmallestLogFileSize) {
+        // Deliberate: the correction comes at once, even while the user is still typing.
+        logFileSize = kSmallestLogFileSize;
+        return toolkit::DecimalText(kSmallestLogFileSize);
+    }
+    // The largest number may stand for one that is larger still; the field must not show what is not kept.
+    const std::wstring largest = toolkit::DecimalText(kLargest);
+    return logFileSize == kLargest && text != largest ? std::optional(largest) : std::nullopt;
+}
+
+void LogSettingsForm::ChooseFolder(const std::wstring& folder, toolkit::FileCalls& files,
+                                   ErrorReporter& reporter, toolkit::WindowHandle dialog) {
+    // Whether it is there only decides about the report; the choice is the user's.
+    static_cast<void>(IsFolderThere(folder, files, reporter, dialog));
+    editedPath = folder;
+}
+
+bool LogSettingsForm::Confirm(toolkit::FileCalls& files, ErrorReporter& reporter,
+                              toolkit::MessagePresenter& messages, toolkit::WindowHandle dialog) {
+    if (!IsFolderThere(editedPath, files, reporter, dialog)) {
+        return false;
+    }
+    if (logFileSize < kSmallestLogFileSize) {
+        messages.Show(dialog, L"Log files size must be bigger than 400 KB.",
+                      L"QENT automized client Velmaris", kRefusalStyle);
+        return false;
+    }
+    if (!IsDriveOrNetworkPath(editedPath)) {
+        ReportBadPath(kPathNotFound, editedPath, reporter, dialog);
+        return false;
+    }
+    logPath_ = editedPath;
+    return true;
+}
+
+}  // namespace corvane

@@ -1,0 +1,398 @@
+#include "app/main_window_dialog.h"
+
+#include <exception>
+#include <optional>
+#include <utility>
+
+#include "app/about_dialog.h"
+#include "app/check_box_sync.h"
+#include "app/configurations.h"
+#include "app/leave_decision.h"
+#include "app/log_settings_dialog.h"
+#include "app/profile_commands.h"
+#include "app/reporting/app_title.h"
+#include "app/reporting/message_styles.h"
+#include "app/rule_columns.h"
+#include "app/rules_file_commands.h"
+#include "config/load_configuration.h"
+#include "config/save_configuration.h"
+#include "res/ids.h"
+#include "toolkit/control_place.h"
+#include "toolkit/window_scale.h"
+#include "toolkit/wrapped_caption.h"
+
+namespace corvane {
+
+namespace {
+
+// The size of the icons on buttons, in pixels at 96 dots per inch.
+constexpr int kButtonIconSize = 32;
+
+/// Tells whether a button's caption is too long for one line.
+bool HasWrappedCaption(UINT_PTR controlId) {
+    return controlId == IDC_SAVE_BUTTON || controlId == IDOK || controlId == IDCANCEL;
+}
+
+constexpr wchar_t kUnsavedChangesReason[] = L"Some changes has not been saved.";
+
+}  // namespace
+
+CCorvaneDlg::CCorvaneDlg(const Services& services)
+    : Dialog(IDD_MAIN_WINDOW, nullptr),
+      services_(services),
+      registry_(services.registry, services.reporter),
+      ruleList_(state_) {}
+
+bool CCorvaneDlg::OnInitDialog() {
+    RememberSize();
+    SetUpMenu();
+    SetUpToolTips();
+    SetWindowTextW(Window(), AppTitle);
+    const HMENU systemMenu = GetSystemMenu(Window(), FALSE);
+    if (systemMenu != nullptr) {
+        AppendMenuW(systemMenu, MF_SEPARATOR, 0, nullptr);
+        AppendMenuW(systemMenu, MF_STRING, static_cast<UINT_PTR>(kAboutItem.id), kAboutItem.text);
+    }
+    SetUpCaptions();
+    SetUpIcons();
+
+    state_.isDirty = false;
+    ruleList_.Attach(Control(IDC_RULE_LIST));
+    profileList_.Attach(Control(IDC_PROFILE_LIST));
+    profileList_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
+    profileList_.InsertColumn(0, kProfileColumnTitle);
+    LayOutColumns(true);
+
+    if (!LoadConfiguration(state_, registry_, services_.reporter, Window())) {
+        EndModal(IDCANCEL);
+        return true;
+    }
+    RestorePlacement();
+    FillProfileList();
+    profileList_.Focus();
+    profileList_.SelectOnly(0);
+    OpenProfile();
+    return false;
+}
+
+void CCorvaneDlg::SetUpMenu() const {
+    const HMENU menu = GetMenu(Window());
+    for (const IdText& item : kMenuItemTexts) {
+        MENUITEMINFOW info = {};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_STRING | MIIM_STATE;
+        info.fState = MFS_ENABLED;
+        // The menu copies the text; its structure only has no const.
+        info.dwTypeData = const_cast<wchar_t*>(item.text);
+        SetMenuItemInfoW(menu, static_cast<UINT>(item.id), FALSE, &info);
+    }
+    DrawMenuBar(Window());
+}
+
+void CCorvaneDlg::SetUpToolTips() {
+    toolTip_.Create(Window());
+    for (const IdText& tip : kToolTips) {
+        toolTip_.Add(Control(tip.id), tip.text);
+    }
+    toolTip_.Activate(true);
+}
+
+void CCorvaneDlg::SetUpCaptions() {
+    for (const IdText& caption : kInitialCaptions) {
+        SetControlText(caption.id, caption.text);
+    }
+    TakeData();
+}
+
+void CCorvaneDlg::SetUpIcons() {
+    toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
+    const int size = MulDiv(kButtonIconSize, static_cast<int>(DotsPerInch()), USER_DEFAULT_SCREEN_DPI);
+    std::vector<toolkit::UniqueIcon> icons;
+    for (const ButtonIcon& button : kButtonIcons) {
+        icons.push_back(toolkit::LoadIconResource(button.iconId, size));
+        SendDlgItemMessageW(Window(), button.buttonId, BM_SETIMAGE, IMAGE_ICON,
+                            reinterpret_cast<LPARAM>(icons.back().get()));
+    }
+    buttonIcons_ = std::move(icons);
+}
+
+void CCorvaneDlg::RememberSize() {
+    RECT client = {};
+    GetClientRect(Window(), &client);
+    tracker_.Remember(client.right, client.bottom);
+}
+
+void CCorvaneDlg::RestorePlacement() const {
+    const WindowRectangle& stored = state_.settings.window;
+    if (!ShouldRestoreWindow(stored)) {
+        return;
+    }
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(Window(), &placement);
+    placement.rcNormalPosition = {stored.left, stored.top, stored.right, stored.bottom};
+    // The window is shown when all of it is ready. A rectangle on a screen that is no longer there is moved
+    // by the system to where it can be seen.
+    placement.showCmd = SW_HIDE;
+    SetWindowPlacement(Window(), &placement);
+}
+
+bool CCorvaneDlg::OnCommand(int controlId, UINT notificationCode) {
+    if (controlId == IDC_SEARCH_EDIT && notificationCode == EN_CHANGE) {
+        TakeData();
+        RefillRuleList(RuleListView::Keep::kScrollAndSelection);
+        return true;
+    }
+    // A menu sends 0 like a button, an accelerator key 1.
+    const std::optional<MainCommand> command =
+        notificationCode <= 1 ? FindMainCommand(controlId) : std::nullopt;
+    if (!command) {
+        return false;
+    }
+    Execute(*command);
+    return true;
+}
+
+void CCorvaneDlg::Execute(MainCommand command) {
+    switch (command) {
+        case MainCommand::kSave:
+            return Save();
+        case MainCommand::kLogPath:
+            return EditLogSettings();
+        case MainCommand::kConfigurations:
+            return EditExtensions();
+        case MainCommand::kExitWithoutSaving:
+            return OnCancel();
+        case MainCommand::kSaveAndExit:
+            return OnOk();
+        case MainCommand::kAddProfile:
+            return AddProfile();
+        case MainCommand::kEditProfile:
+            return EditCurrentProfile();
+        case MainCommand::kDeleteProfile:
+            return DeleteSelectedProfile();
+        case MainCommand::kImportRules:
+            return ImportRules();
+        case MainCommand::kExportRules:
+            return ExportProfileRules(state_, Window(), services_);
+        case MainCommand::kOpenProfile:
+            return OpenProfile();
+        case MainCommand::kAddRule:
+            return AddRule();
+        case MainCommand::kCopyRule:
+            return CopySelectedRule();
+        case MainCommand::kEditRule:
+            return EditSelectedRule();
+        case MainCommand::kDeleteRule:
+            return DeleteSelectedRules();
+        case MainCommand::kMakeFirst:
+        case MainCommand::kMoveUp:
+        case MainCommand::kMoveDown:
+        case MainCommand::kMakeLast:
+            return MoveSelectedRule(command);
+    }
+}
+
+bool CCorvaneDlg::OnNotify(NMHDR& header, LRESULT& result) {
+    if (header.code == NM_CUSTOMDRAW && HasWrappedCaption(header.idFrom)) {
+        result = toolkit::DrawWrappedCaption(reinterpret_cast<const NMCUSTOMDRAW&>(header));
+        return true;
+    }
+    if (header.hwndFrom == profileList_.Window()) {
+        OnProfileListNotification(header);
+        return false;
+    }
+    return header.hwndFrom == ruleList_.Control().Window() && OnRuleListNotification(header);
+}
+
+void CCorvaneDlg::OnProfileListNotification(const NMHDR& header) {
+    if (header.code == NM_CLICK) {
+        OpenProfile();
+    } else if (header.code == NM_DBLCLK) {
+        EditCurrentProfile();
+    }
+}
+
+bool CCorvaneDlg::OnRuleListNotification(NMHDR& header) {
+    switch (header.code) {
+        case LVN_GETDISPINFOW:
+            ruleList_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
+            return true;
+        case NM_DBLCLK:
+            EditSelectedRule();
+            return true;
+        case NM_RCLICK:
+            DescribeCell(reinterpret_cast<const NMITEMACTIVATE&>(header));
+            return true;
+        case NM_KILLFOCUS:
+            CopyCheckBoxes();
+            return true;
+        case LVN_KEYDOWN:
+            if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == VK_DELETE) {
+                DeleteSelectedRules();
+            }
+            return true;
+        default:
+            return false;
+    }
+}
+
+void CCorvaneDlg::Save() {
+    CopyCheckBoxesOfFocusedList();
+    SaveConfiguration(state_, RestoredRectangle(), registry_, services_.reporter, Window());
+}
+
+WindowRectangle CCorvaneDlg::RestoredRectangle() const {
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(Window(), &placement);
+    const RECT& restored = placement.rcNormalPosition;
+    return {.top = restored.top, .bottom = restored.bottom, .left = restored.left, .right = restored.right};
+}
+
+void CCorvaneDlg::OnOk() {
+    Save();
+    if (MayLeave(state_.isDirty, services_.reporter, Window())) {
+        Leave(IDOK);
+    }
+}
+
+void CCorvaneDlg::OnCancel() {
+    CopyCheckBoxesOfFocusedList();
+    if (MayLeave(state_.isDirty, services_.reporter, Window())) {
+        Leave(IDCANCEL);
+    }
+}
+
+void CCorvaneDlg::Leave(int result) {
+    TakeData();
+    ruleList_.Clear();
+    EndModal(result);
+}
+
+void CCorvaneDlg::EditLogSettings() {
+    CConflictDlg dialog(Window(), state_.settings.logPath, state_.settings.logFileSize, services_);
+    if (dialog.RunModal() != IDOK) {
+        return;
+    }
+    state_.settings.logPath = dialog.LogPath();
+    state_.settings.logFileSize = dialog.LogFileSize();
+    state_.isDirty = true;
+}
+
+void CCorvaneDlg::EditExtensions() {
+    std::optional<AppSettings> edited = EditConfigurations(Window(), state_.settings);
+    if (edited) {
+        state_.settings = std::move(*edited);
+        state_.isDirty = true;
+    }
+}
+
+void CCorvaneDlg::ShowAbout() {
+    CAboutDlg(Window()).RunModal();
+}
+
+void CCorvaneDlg::OnSize(WPARAM kind, int width, int height) {
+    if (kind != SIZE_RESTORED) {
+        return;
+    }
+    const toolkit::ResizeTracker::Change change = tracker_.ChangeTo(width, height);
+    if (Control(kSaveAndExitButton) == nullptr) {
+        return;
+    }
+    for (const ControlChange& control : kControlChanges) {
+        toolkit::ChangePlace(Control(control.id), {.moveX = control.moveX ? change.width : 0,
+                                                   .moveY = control.moveY ? change.height : 0,
+                                                   .growX = control.growX ? change.width : 0,
+                                                   .growY = control.growY ? change.height : 0});
+    }
+    LayOutColumns(false);
+    InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void CCorvaneDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
+    const HWND button = Control(kSaveAndExitButton);
+    if (button == nullptr) {
+        return;
+    }
+    RECT place = {};
+    GetWindowRect(button, &place);
+    const Size size = MinimumTrackingSize(place.right - place.left, place.bottom - place.top,
+                                          toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch()),
+                                          toolkit::SystemMetric(SM_CYVSCROLL, DotsPerInch()));
+    info.ptMinTrackSize.x = size.width;
+    info.ptMinTrackSize.y = size.height;
+}
+
+bool CCorvaneDlg::OnSystemCommand(WPARAM command) {
+    if (!IsAboutCommand(command)) {
+        return false;
+    }
+    ShowAbout();
+    return true;
+}
+
+bool CCorvaneDlg::OnPaint() {
+    if (IsIconic(Window()) == FALSE) {
+        return false;
+    }
+    PAINTSTRUCT paint = {};
+    const HDC context = BeginPaint(Window(), &paint);
+    SendMessageW(Window(), WM_ICONERASEBKGND, reinterpret_cast<WPARAM>(context), 0);
+    RECT client = {};
+    GetClientRect(Window(), &client);
+    const Size iconSize = {.width = toolkit::SystemMetric(SM_CXICON, DotsPerInch()),
+                           .height = toolkit::SystemMetric(SM_CYICON, DotsPerInch())};
+    const Point position = MinimisedIconPosition({.width = client.right, .height = client.bottom}, iconSize);
+    DrawIcon(context, position.x, position.y, largeIcon_.get());
+    EndPaint(Window(), &paint);
+    return true;
+}
+
+HICON CCorvaneDlg::OnQueryDragIcon() {
+    return largeIcon_.get();
+}
+
+bool CCorvaneDlg::OnQueryEndSession() {
+    CopyCheckBoxesOfFocusedList();
+    if (!state_.isDirty) {
+        return true;
+    }
+    // Windows names the reason to the user, who may end all the same or come back and save.
+    ShutdownBlockReasonCreate(Window(), kUnsavedChangesReason);
+    return false;
+}
+
+void CCorvaneDlg::OnEndSession(bool /*isEnding*/) {
+    ShutdownBlockReasonDestroy(Window());
+}
+
+void CCorvaneDlg::OnScaleChanged() {
+    RememberSize();
+    SetUpIcons();
+    LayOutColumns(false);
+}
+
+bool CCorvaneDlg::PreTranslateMessage(MSG& message) {
+    toolTip_.Relay(message);
+    return Dialog::PreTranslateMessage(message);
+}
+
+void CCorvaneDlg::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_PROFILE_CAPTION_EDIT, profileCaption_);
+    exchange.Text(IDC_RULE_LIST_CAPTION_EDIT, ruleListCaption_);
+    exchange.Text(IDC_SEARCH_EDIT, searchText_);
+}
+
+void CCorvaneDlg::ReportException(const std::exception& exception) {
+    services_.reporter.ShowMessage(Window(), exception.what(), kErrorStyle);
+}
+
+void CCorvaneDlg::LayOutColumns(bool isFirstTime) {
+    const int scrollBarWidth = toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch());
+    ruleList_.LayOutColumns(scrollBarWidth, isFirstTime);
+    profileList_.SetColumnWidth(0,
+                                LayOutProfileColumn(profileList_.ClientWidth(), scrollBarWidth, isFirstTime));
+}
+
+}  // namespace corvane

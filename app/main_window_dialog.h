@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "app/main_window_layout.h"
+#include "app/rule_list_view.h"
+#include "app/services.h"
+#include "config/records.h"
+#include "config/registry_access.h"
+#include "toolkit/dialog.h"
+#include "toolkit/icon.h"
+#include "toolkit/list_view.h"
+#include "toolkit/resize_tracker.h"
+#include "toolkit/tool_tip.h"
+
+namespace corvane {
+
+/// The program's only top-level window. It owns the configuration from its loading at the start to its own
+/// end, shows it in two lists, and passes every command on to the code that decides.
+class CCorvaneDlg final : public toolkit::Dialog {
+  public:
+    explicit CCorvaneDlg(const Services& services);
+
+  protected:
+    bool OnInitDialog() override;
+    bool OnCommand(int controlId, UINT notificationCode) override;
+    bool OnNotify(NMHDR& header, LRESULT& result) override;
+    void OnOk() override;
+    void OnCancel() override;
+    void OnSize(WPARAM kind, int width, int height) override;
+    void OnMinimumMaximumInfo(MINMAXINFO& info) override;
+    bool OnSystemCommand(WPARAM command) override;
+    bool OnPaint() override;
+    HICON OnQueryDragIcon() override;
+    bool OnQueryEndSession() override;
+    void OnEndSession(bool isEnding) override;
+    void OnScaleChanged() override;
+    bool PreTranslateMessage(MSG& message) override;
+    void ExchangeFields(toolkit::DataExchange& exchange) override;
+    void ReportException(const std::exception& exception) override;
+
+  private:
+    // Initialisation.
+    void SetUpMenu() const;
+    void SetUpToolTips();
+    void SetUpCaptions();
+    void SetUpIcons();
+    void RememberSize();
+    void RestorePlacement() const;
+
+    // The window's own commands.
+    void Execute(MainCommand command);
+    void Save();
+    void EditLogSettings();
+    void EditExtensions();
+    void ShowAbout();
+    void Leave(int result);
+    [[nodiscard]] WindowRectangle RestoredRectangle() const;
+
+    // Profiles.
+    void FillProfileList();
+    void OpenProfile();
+    void AddProfile();
+    void EditCurrentProfile();
+    void DeleteSelectedProfile();
+    void ImportRules();
+    void EnableProfileCommands(bool isEnabled);
+
+    // Rules.
+    void AddRule();
+    void EditSelectedRule();
+    void CopySelectedRule();
+    void DeleteSelectedRules();
+    void MoveSelectedRule(MainCommand command);
+    void DescribeCell(const NMITEMACTIVATE& click);
+    void RefillRuleList(RuleListView::Keep keep);
+    void SelectRow(int row);
+    void CopyCheckBoxes();
+    void CopyCheckBoxesOfFocusedList();
+
+    void LayOutColumns(bool isFirstTime);
+    void OnProfileListNotification(const NMHDR& header);
+    bool OnRuleListNotification(NMHDR& header);
+
+    const Services& services_;
+    ConfigurationState state_;
+    RegistryAccess registry_;
+    RuleListView ruleList_;
+    toolkit::ListView profileList_;
+    toolkit::ToolTip toolTip_;
+    toolkit::ResizeTracker tracker_;
+    toolkit::UniqueIcon largeIcon_;
+    toolkit::UniqueIcon smallIcon_;
+    std::vector<toolkit::UniqueIcon> buttonIcons_;
+
+    // The fields of the controls.
+    std::wstring profileCaption_;
+    std::wstring ruleListCaption_;
+    std::wstring searchText_;
+};
+
+}  // namespace corvane

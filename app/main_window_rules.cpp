@@ -1,0 +1,157 @@
+// The rule commands of the main window.
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "app/check_box_sync.h"
+#include "app/command_texts.h"
+#include "app/main_window_dialog.h"
+#include "app/reporting/message_styles.h"
+#include "app/reporting/warning_box.h"
+#include "app/rule_commands.h"
+#include "app/rule_description.h"
+#include "app/rule_row.h"
+#include "editors/mask_suggestions.h"
+#include "editors/rule_editor.h"
+#include "res/ids.h"
+
+namespace corvane {
+
+void CCorvaneDlg::RefillRuleList(RuleListView::Keep keep) {
+    const Profile* const current = FindCurrentProfile(state_);
+    if (current == nullptr) {
+        ruleList_.Clear();
+        return;
+    }
+    ruleList_.Fill(static_cast<std::size_t>(current - state_.profiles.data()), searchText_,
+                   services_.reporter.Text(), keep);
+}
+
+void CCorvaneDlg::SelectRow(int row) {
+    ruleList_.Control().Focus();
+    ruleList_.Control().SelectOnly(row);
+    ruleList_.Control().ScrollIntoView(row);
+}
+
+void CCorvaneDlg::AddRule() {
+    const Profile* const current = FindCurrentProfile(state_);
+    if (state_.currentProfileName.empty() || current == nullptr) {
+        return;
+    }
+    std::optional<Rule> rule =
+        EditRule(Window(), *current, BuildMaskSuggestions(state_.settings, current->rules), Rule());
+    if (!rule) {
+        return;
+    }
+    AppendRule(state_, std::move(*rule));
+    RefillRuleList(RuleListView::Keep::kScrollAndSelection);
+    ruleList_.Control().ScrollIntoView(ruleList_.Control().RowCount() - 1);
+}
+
+void CCorvaneDlg::EditSelectedRule() {
+    const int row = ruleList_.Control().FirstSelectedRow();
+    const Rule* const selected = RuleAtRow(state_, row);
+    const Profile* const current = FindCurrentProfile(state_);
+    if (selected == nullptr || current == nullptr) {
+        return;
+    }
+    std::optional<Rule> rule =
+        EditRule(Window(), *current, BuildMaskSuggestions(state_.settings, current->rules), *selected);
+    if (!rule) {
+        return;
+    }
+    ReplaceRule(state_, row, std::move(*rule));
+    RefillRuleList(RuleListView::Keep::kScroll);
+    SelectRow(row);
+}
+
+void CCorvaneDlg::CopySelectedRule() {
+    const std::optional<std::size_t> copy = CopyRule(state_, ruleList_.Control().FirstSelectedRow());
+    if (copy) {
+        RefillRuleList(RuleListView::Keep::kScroll);
+        SelectRow(static_cast<int>(*copy));
+    }
+}
+
+void CCorvaneDlg::DeleteSelectedRules() {
+    const std::vector<std::size_t> asked = ruleList_.Control().SelectedRows();
+    if (asked.empty() || services_.reporter.ShowMessage(Window(), DeleteRulesQuestion(asked.size()),
+                                                        kConfirmationStyle) != kAnswerYes) {
+        return;
+    }
+    const std::vector<std::size_t> rows = ruleList_.Control().SelectedRows();
+    if (DeleteRules(state_, rows)) {
+        RefillRuleList(RuleListView::Keep::kScroll);
+        ruleList_.Control().MarkFocus(
+            std::min(static_cast<int>(rows.front()), ruleList_.Control().RowCount() - 1));
+    }
+}
+
+void CCorvaneDlg::MoveSelectedRule(MainCommand command) {
+    const int row = ruleList_.Control().FirstSelectedRow();
+    const auto rowCount = static_cast<std::size_t>(ruleList_.Control().RowCount());
+    std::optional<std::size_t> moved;
+    if (command == MainCommand::kMakeFirst) {
+        moved = MakeRuleFirst(state_, row);
+    } else if (command == MainCommand::kMoveUp) {
+        moved = MoveRuleUp(state_, row);
+    } else if (command == MainCommand::kMoveDown) {
+        moved = MoveRuleDown(state_, row, rowCount);
+    } else {
+        moved = MakeRuleLast(state_, row);
+    }
+    if (!moved) {
+        return;
+    }
+    RefillRuleList(RuleListView::Keep::kScroll);
+    SelectRow(command == MainCommand::kMakeLast ? ruleList_.Control().RowCount() - 1
+                                                : static_cast<int>(*moved));
+}
+
+void CCorvaneDlg::DescribeCell(const NMITEMACTIVATE& click) {
+    if (click.iItem < 0 || click.iSubItem < 0) {
+        return;
+    }
+    const auto row = static_cast<std::size_t>(click.iItem);
+    const auto column = static_cast<std::size_t>(click.iSubItem);
+    const Profile* const current = FindCurrentProfile(state_);
+    std::wstring text = ruleList_.CellText(row, column);
+    if (column == kExtraColumn || column == kMasksColumn) {
+        const std::optional<std::size_t> position =
+            current == nullptr
+                ? std::nullopt
+                : RulePositionFromNumberCell(ruleList_.CellText(row, kNumberColumn), current->rules.size());
+        if (!position) {
+            return;
+        }
+        const Rule& rule = current->rules[*position];
+        if (column == kExtraColumn) {
+            WarningBox box(Window(), false);
+            box.isInfoMode = true;
+            box.text = DescribeRule(rule);
+            box.title = ruleList_.ColumnTitleAt(column);
+            box.RunModal();
+            return;
+        }
+        text = DescribeMasks(rule);
+    }
+    services_.messages.Show(Window(), text, ruleList_.ColumnTitleAt(column), kInformationStyle);
+}
+
+void CCorvaneDlg::CopyCheckBoxes() {
+    TakeData();
+    SyncCheckBoxes(state_,
+                   [this](std::size_t row) { return ruleList_.Control().CheckState(static_cast<int>(row)); });
+}
+
+void CCorvaneDlg::CopyCheckBoxesOfFocusedList() {
+    // Saving and leaving by the keyboard or the menu take no focus from the list. What was just ticked in it
+    // must not be lost; only while the search hides rules, whose missing rows would count as ticked, it has
+    // to wait until the list really loses the focus.
+    if (GetFocus() == ruleList_.Control().Window() && ruleList_.ShowsEveryRule()) {
+        CopyCheckBoxes();
+    }
+}
+
+}  // namespace corvane

@@ -1,0 +1,121 @@
+#include "app/profile_commands.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "toolkit/format_text.h"
+
+namespace corvane {
+
+namespace {
+
+/// Removes the element at `position`, which exists.
+template <typename Element>
+void EraseAt(std::vector<Element>& list, std::size_t position) {
+    list.erase(list.begin() + static_cast<std::ptrdiff_t>(position));
+}
+
+std::size_t PositionOf(const ConfigurationState& state, const Profile& profile) {
+    return static_cast<std::size_t>(&profile - state.profiles.data());
+}
+
+void RequirePosition(std::size_t position, std::size_t count) {
+    if (position >= count) {
+        throw std::invalid_argument("There is no profile for this row.");
+    }
+}
+
+void PointRulesElsewhere(Profile& profile, const std::wstring& deletedCsProfile) {
+    const std::wstring& replacement = profile.csProfiles.front();
+    for (Rule& rule : profile.rules) {
+        if (rule.csProfile == deletedCsProfile) {
+            rule.csProfile = replacement;
+        }
+        if (rule.resignProfile == deletedCsProfile) {
+            rule.resignProfile = replacement;
+        }
+    }
+}
+
+}  // namespace
+
+std::optional<OpenedProfile> OpenProfileNamed(ConfigurationState& state, const std::wstring& rowText) {
+    state.currentProfileName = rowText;
+    const Profile* const profile = FindCurrentProfile(state);
+    if (profile == nullptr) {
+        return std::nullopt;
+    }
+    return OpenedProfile{.name = profile->name,
+                         .csProfileCount = profile->csProfiles.size(),
+                         .position = PositionOf(state, *profile)};
+}
+
+DeleteProfileResult DeleteProfile(ConfigurationState& state, TextList& rowTexts, std::size_t selectedRow) {
+    RequirePosition(selectedRow, rowTexts.size());
+    RequirePosition(selectedRow, state.profiles.size());
+    RequirePosition(selectedRow, state.profileNames.size());
+    // Deliberate: the walk goes on behind the deleted row, and its index is not corrected for it, so the name
+    // of a later row may be the current one although no profile is shown. Programs that drive this one find
+    // the state so; a user clicks a row next, which sets the name anew.
+    for (std::size_t row = 0; row < rowTexts.size(); ++row) {
+        state.currentProfileName = rowTexts[row];
+        if (row != selectedRow) {
+            continue;
+        }
+        if (rowTexts.size() < 2) {
+            return DeleteProfileResult::kRefusedLast;
+        }
+        EraseAt(rowTexts, row);
+        EraseAt(state.profiles, row);
+        EraseAt(state.profileNames, row);
+        state.currentProfileName.clear();
+        state.isDirty = true;
+    }
+    return DeleteProfileResult::kDeleted;
+}
+
+void AppendProfile(ConfigurationState& state, Profile profile) {
+    state.profileNames.push_back(profile.name);
+    state.profiles.push_back(std::move(profile));
+    state.isDirty = true;
+}
+
+bool HasNoProfileToEdit(ConfigurationState& state) {
+    if (!state.profiles.empty()) {
+        return false;
+    }
+    // Deliberate: an edit that finds nothing to edit counts as a change, so that leaving asks.
+    state.isDirty = true;
+    return true;
+}
+
+std::optional<std::size_t> ReplaceCurrentProfile(ConfigurationState& state, Profile edited,
+                                                 const TextList& deletedCsProfiles) {
+    Profile* const profile = FindCurrentProfile(state);
+    if (profile == nullptr) {
+        return std::nullopt;
+    }
+    const std::size_t position = PositionOf(state, *profile);
+    RequirePosition(position, state.profileNames.size());
+    if (!deletedCsProfiles.empty() && edited.csProfiles.empty()) {
+        throw std::invalid_argument("The edited profile has no CS profile left.");
+    }
+    for (const std::wstring& deleted : deletedCsProfiles) {
+        PointRulesElsewhere(edited, deleted);
+    }
+    state.currentProfileName = edited.name;
+    state.profileNames[position] = edited.name;
+    *profile = std::move(edited);
+    state.isDirty = true;
+    return position;
+}
+
+std::wstring RuleListCaption(std::size_t csProfileCount) {
+    return toolkit::FormatText(L"CS profile's num: %d", {static_cast<std::int64_t>(csProfileCount)});
+}
+
+std::wstring ProfileCaption(const std::wstring& name) {
+    return L"Profile: " + name;
+}
+
+}  // namespace corvane

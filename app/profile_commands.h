@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "config/records.h"
+
+namespace corvane {
+
+/// What the main window shows of a profile that was opened.
+struct OpenedProfile {
+    std::wstring name;
+    std::size_t csProfileCount = 0;  ///< Number of the profile's CS profile entries.
+    std::size_t position = 0;        ///< Position of the profile in the configuration.
+
+    bool operator==(const OpenedProfile&) const = default;
+};
+
+/// Makes the text of a profile row the current profile name and finds the first profile of that name; none
+/// where no profile has it, the name being the current one all the same.
+std::optional<OpenedProfile> OpenProfileNamed(ConfigurationState& state, const std::wstring& rowText);
+
+enum class DeleteProfileResult {
+    kRefusedLast,  ///< It was the only one; nothing was removed, the dirty flag stays.
+    kDeleted,
+};
+
+/// Deletes the profile of the selected row, once the user has confirmed it. `rowTexts` are the rows of the
+/// profile list and lose the deleted one. No profile is opened; which name is the current one afterwards
+/// depends on where the walk over the rows ends. A row that the list or the configuration lacks throws
+/// std::invalid_argument, with nothing changed.
+DeleteProfileResult DeleteProfile(ConfigurationState& state, TextList& rowTexts, std::size_t selectedRow);
+
+/// Appends a new profile; the current one stays.
+void AppendProfile(ConfigurationState& state, Profile profile);
+
+/// Tells whether there is no profile at all that could be edited, and in that case marks the configuration
+/// as changed.
+[[nodiscard]] bool HasNoProfileToEdit(ConfigurationState& state);
+
+/// Puts an edited profile in the place of the current one; it may have a new name, which then is the current
+/// one. Rules that name a CS profile that was deleted meanwhile, as their own or as the one to resign to,
+/// get the profile's first CS profile instead. Returns the profile's position in the configuration, or none
+/// where there is no current profile and nothing happened. Deleted CS profiles with none left throw
+/// std::invalid_argument, with nothing changed: the profile editor keeps the last one.
+std::optional<std::size_t> ReplaceCurrentProfile(ConfigurationState& state, Profile edited,
+                                                 const TextList& deletedCsProfiles);
+
+/// The caption over the rule list.
+[[nodiscard]] std::wstring RuleListCaption(std::size_t csProfileCount);
+
+/// The caption over the profile list; with an empty name while no profile is open.
+[[nodiscard]] std::wstring ProfileCaption(const std::wstring& name);
+
+}  // namespace corvane

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "config/records.h"
+#include "toolkit/list_view.h"
+#include "toolkit/system_text.h"
+
+namespace corvane {
+
+/// The list of the current profile's rules. Its rows hold no texts; the control asks for the text of a cell
+/// when it needs it, so filling it with thousands of rules takes no longer than a blink.
+class RuleListView {
+  public:
+    /// What a refill keeps: nothing, the scroll position, or the selected rules too, as far as they are
+    /// still listed. The last is only for rules that stayed at their positions.
+    enum class Keep { kNothing, kScroll, kScrollAndSelection };
+
+    explicit RuleListView(const ConfigurationState& state) : state_(state) {}
+
+    /// Takes over the control and makes its columns.
+    void Attach(HWND control);
+    /// Shares its width out among the columns. `scrollBarWidth` in pixels.
+    void LayOutColumns(int scrollBarWidth, bool isFirstTime) const;
+
+    void Clear();
+    /// Shows the rules of the profile at this position of the configuration that match the search text.
+    void Fill(std::size_t profilePosition, const std::wstring& searchText, const toolkit::SystemText& text,
+              Keep keep);
+    /// Tells whether every rule of the profile has its row.
+    [[nodiscard]] bool ShowsEveryRule() const;
+
+    /// Answers the control's question for a cell's text (LVN_GETDISPINFO).
+    void AnswerDisplayRequest(NMLVDISPINFOW& request);
+    [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const;
+    [[nodiscard]] std::wstring ColumnTitleAt(std::size_t column) const;
+
+    [[nodiscard]] toolkit::ListView& Control() { return list_; }
+    [[nodiscard]] const toolkit::ListView& Control() const { return list_; }
+
+  private:
+    [[nodiscard]] const std::vector<Rule>* ShownRules() const;
+    void Select(const std::vector<std::size_t>& rulePositions) const;
+
+    const ConfigurationState& state_;
+    toolkit::ListView list_;
+    TextList columnNames_;
+    std::size_t profilePosition_ = 0;
+    std::vector<std::size_t> rows_;  ///< The rule position of each row.
+    // An answered text must outlive the next two questions.
+    std::array<std::wstring, 4> answers_;
+    std::size_t nextAnswer_ = 0;
+};
+
+}  // namespace corvane

@@ -1,0 +1,280 @@
+// Prints how the program compares with what can be had: each figure is a ratio, measured turn by turn in this
+// one run. bench_ratios CORVANE EMPTY_DIALOG
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/reporting/error_reporter.h"
+#include "app/reporting/system_messages_windows.h"
+#include "app/rule_list_view.h"
+#include "app/rule_row.h"
+#include "bench/bare_registry.h"
+#include "bench/program_measure.h"
+#include "bench/ratio.h"
+#include "bench/sample_configuration.h"
+#include "certs/provider/provider_library_windows.h"
+#include "config/load_configuration.h"
+#include "config/registry_calls_windows.h"
+#include "config/rule_key_order.h"
+#include "config/save_configuration.h"
+#include "toolkit/format_text.h"
+#include "toolkit/message_presenter_windows.h"
+#include "toolkit/system_text_windows.h"
+
+namespace {
+
+using corvane::ConfigurationState;
+
+constexpr int kTurns = 7;
+constexpr std::size_t kListedRules = 10000;
+
+/// The stored configuration, as the program reads and writes it.
+class Store {
+  public:
+    Store() : reporter_(messages_, systemMessages_, provider_, text_) {}
+
+    void Load() {
+        ConfigurationState state;
+        corvane::RegistryAccess registry(calls_, reporter_);
+        if (!corvane::LoadConfiguration(state, registry, reporter_, nullptr)) {
+            throw std::runtime_error("the sample does not load");
+        }
+    }
+
+    void Save(ConfigurationState& state) {
+        corvane::RegistryAccess registry(calls_, reporter_);
+        corvane::SaveConfiguration(state, {}, registry, reporter_, nullptr);
+    }
+
+  private:
+    toolkit::WindowsMessagePresenter messages_;
+    toolkit::WindowsSystemText text_;
+    corvane::WindowsSystemMessages systemMessages_;
+    corvane::SystemProviderLibrary provider_;
+    corvane::WindowsRegistryCalls calls_;
+    corvane::ErrorReporter reporter_;
+};
+
+std::vector<RatioRow> MeasureRegistry() {
+    Store store;
+    ConfigurationState sample = SampleConfiguration(10, 100);
+    CleanRegistry();
+    PrepareRegistry();
+    store.Save(sample);
+    std::vector<RatioRow> rows;
+    rows.push_back({.what = "loading 10 profiles of 100 rules",
+                    .against = "the bare registry calls",
+                    .ratio = MedianRatio(
+                        kTurns, [&] { return MillisecondsOf([&] { store.Load(); }); },
+                        [] { return MillisecondsOf([] { ReadWithBareCalls(); }); }),
+                    .target = 1.10});
+    rows.push_back({.what = "loading 10 profiles of 100 rules",
+                    .against = "reg export of the same tree",
+                    .ratio = MedianRatio(
+                        kTurns, [&] { return MillisecondsOf([&] { store.Load(); }); },
+                        [] {
+                            return MeasureCommand(
+                                L"reg export HKCU\\SOFTWARE\\HOLVAN\\tarntray corvane_bench.reg /y");
+                        }),
+                    .target = 1.00});
+    DeleteFileW(L"corvane_bench.reg");
+    rows.push_back({.what = "saving 10 profiles of 100 rules",
+                    .against = "the bare registry calls",
+                    .ratio = MedianRatio(
+                        kTurns, [&] { return MillisecondsOf([&] { store.Save(sample); }); },
+                        [&] { return MillisecondsOf([&] { WriteWithBareCalls(sample); }); }),
+                    .target = 1.10});
+    CleanRegistry();
+    return rows;
+}
+
+/// A window with one list view that is set up like the main window's rule list.
+class ListWindow {
+  public:
+    ListWindow() {
+        INITCOMMONCONTROLSEX classes = {};
+        classes.dwSize = sizeof classes;
+        classes.dwICC = 0xFF;
+        InitCommonControlsEx(&classes);
+        WNDCLASSW windowClass = {};
+        windowClass.lpfnWndProc = &WindowProcedure;
+        windowClass.hInstance = GetModuleHandleW(nullptr);
+        windowClass.lpszClassName = L"CorvaneBench";
+        RegisterClassW(&windowClass);
+        window_ = CreateWindowW(L"CorvaneBench", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 900, 400,
+                                nullptr, nullptr, windowClass.hInstance, nullptr);
+    }
+
+    [[nodiscard]] HWND MakeList() const {
+        return CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0,
+                             880, 360, window_, nullptr, nullptr, nullptr);
+    }
+
+    void AnswerWith(corvane::RuleListView* list) { answering_ = list; }
+
+  private:
+    static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_NOTIFY && answering_ != nullptr) {
+            auto& header = *reinterpret_cast<NMHDR*>(lParam);
+            if (header.code == LVN_GETDISPINFOW && header.hwndFrom == answering_->Control().Window()) {
+                answering_->AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
+            }
+            return 0;
+        }
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+
+    inline static corvane::RuleListView* answering_ = nullptr;
+    HWND window_ = nullptr;
+};
+
+/// The plain way: row by row, cell by cell, with redrawing off.
+void InsertPlainly(const toolkit::ListView& list, const std::vector<corvane::Rule>& rules) {
+    const toolkit::ListView::RedrawLock locked(list);
+    list.DeleteAllRows();
+    for (std::size_t position = 0; position < rules.size(); ++position) {
+        list.AppendRow(corvane::RuleCellText(rules[position], position, 0));
+        for (std::size_t column = 1; column < corvane::kRuleColumnCount; ++column) {
+            std::wstring text = corvane::RuleCellText(rules[position], position, column);
+            LVITEMW cell = {};
+            cell.iSubItem = static_cast<int>(column);
+            cell.pszText = text.data();
+            SendMessageW(list.Window(), LVM_SETITEMTEXTW, position, reinterpret_cast<LPARAM>(&cell));
+        }
+        if (rules[position].isOn != 0) {
+            list.SetChecked(static_cast<int>(position), true);
+        }
+    }
+}
+
+std::vector<RatioRow> MeasureLists() {
+    ConfigurationState state = SampleConfiguration(1, kListedRules);
+    for (corvane::Rule& rule : state.profiles.front().rules) {
+        rule.signerGroups.clear();
+    }
+    const toolkit::WindowsSystemText text;
+    ListWindow window;
+    corvane::RuleListView ruleList(state);
+    ruleList.Attach(window.MakeList());
+    window.AnswerWith(&ruleList);
+    corvane::RuleListView plainColumns(state);
+    plainColumns.Attach(window.MakeList());
+    const toolkit::ListView& plain = plainColumns.Control();
+
+    const auto fillPlainly = [&] {
+        return MillisecondsOf([&] {
+            InsertPlainly(plain, state.profiles.front().rules);
+            UpdateWindow(plain.Window());
+        });
+    };
+    const auto fill = [&](const wchar_t* search) {
+        return MillisecondsOf([&] {
+            ruleList.Fill(0, search, text, corvane::RuleListView::Keep::kScrollAndSelection);
+            UpdateWindow(ruleList.Control().Window());
+        });
+    };
+    std::vector<RatioRow> rows;
+    rows.push_back({.what = "filling the rule list with 10,000 rules",
+                    .against = "inserting the rows cell by cell",
+                    .ratio = MedianRatio(
+                        kTurns, [&] { return fill(L""); }, fillPlainly),
+                    .target = 0.50});
+    // Every description has the letter, so every row stays: the most that a keystroke can ask for.
+    rows.push_back({.what = "one search keystroke over 10,000 rules",
+                    .against = "inserting the rows cell by cell",
+                    .ratio = MedianRatio(
+                        kTurns, [&] { return fill(L"r"); }, fillPlainly),
+                    .target = 0.50});
+    return rows;
+}
+
+RatioRow MeasureOrdering() {
+    // In the order in which the registry gives the keys: 0, 1, 10, 100, 1000, 1001 and so on.
+    corvane::TextList names;
+    for (std::int32_t number = 0; number < 10000; ++number) {
+        names.push_back(toolkit::FormatText(L"Rule %d", {number}));
+    }
+    std::sort(names.begin(), names.end());
+    std::vector<std::int32_t> numbers;
+    for (const std::wstring& name : names) {
+        numbers.push_back(toolkit::ParseDecimal(std::wstring_view(name).substr(5)));
+    }
+    return {.what = "ordering 10,000 rule keys",
+            .against = "std::stable_sort of the numbers",
+            .ratio = MedianRatio(
+                3 * kTurns,
+                [&] {
+                    corvane::TextList copy = names;
+                    return MillisecondsOf([&] { corvane::OrderRuleKeys(copy); });
+                },
+                [&] {
+                    std::vector<std::int32_t> copy = numbers;
+                    return MillisecondsOf([&] { std::stable_sort(copy.begin(), copy.end()); });
+                }),
+            .target = 3.0};
+}
+
+std::vector<RatioRow> MeasurePrograms(const std::wstring& program, const std::wstring& empty) {
+    std::vector<RatioRow> rows;
+    rows.push_back({.what = "start to the main window shown, worked example",
+                    .against = "an empty dialog from the same template",
+                    .ratio = MedianRatio(
+                        kTurns, [&] { return MeasureProgram(program).millisecondsToWindow; },
+                        [&] { return MeasureProgram(empty).millisecondsToWindow; }),
+                    .target = 1.5});
+    rows.push_back({.what = "size without icons and pictures",
+                    .against = "that program",
+                    .ratio = static_cast<double>(SizeWithoutPictures(program)) /
+                             static_cast<double>(SizeWithoutPictures(empty)),
+                    .target = 2.0});
+    Store store;
+    ConfigurationState sample = SampleConfiguration(1, 1000);
+    CleanRegistry();
+    PrepareRegistry();
+    store.Save(sample);
+    rows.push_back({.what = "peak working set with 1,000 rules loaded",
+                    .against = "that program",
+                    .ratio = MedianRatio(
+                        3, [&] { return static_cast<double>(MeasureProgram(program).peakWorkingSet); },
+                        [&] { return static_cast<double>(MeasureProgram(empty).peakWorkingSet); }),
+                    .target = 1.5});
+    CleanRegistry();
+    return rows;
+}
+
+void Print(const std::vector<RatioRow>& rows) {
+    for (const RatioRow& row : rows) {
+        std::printf("%-48s %-40s %6.2f %6.2f  %s\n", row.what.c_str(), row.against.c_str(), row.ratio,
+                    row.target, row.ratio <= row.target ? "met" : "MISSED");
+    }
+    std::fflush(stdout);
+}
+
+}  // namespace
+
+int wmain(int argumentCount, wchar_t** arguments) {
+    if (argumentCount != 3) {
+        std::fprintf(stderr, "usage: bench_ratios CORVANE EMPTY_DIALOG\n");
+        return 2;
+    }
+    try {
+        std::printf("%-48s %-40s %6s %6s\n", "what", "against", "ratio", "most");
+        // First, while the worked example is still what the registry holds.
+        Print(MeasurePrograms(arguments[1], arguments[2]));
+        Print(MeasureRegistry());
+        Print(MeasureLists());
+        Print({MeasureOrdering()});
+    } catch (const std::exception& exception) {
+        std::fprintf(stderr, "%s\n", exception.what());
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+/// One row of the table: what is measured, against what, and how large the ratio may be.
+struct RatioRow {
+    std::string what;
+    std::string against;
+    double ratio = 0;
+    double target = 0;
+};
+
+/// Milliseconds that a piece of work takes.
+[[nodiscard]] double MillisecondsOf(const std::function<void()>& work);
+
+/// The median of what measured() / against() gives over some turns, each side taken once in every turn, so
+/// that a machine whose speed drifts disturbs both alike. The first turn warms up and is not counted.
+[[nodiscard]] double MedianRatio(int turns, const std::function<double()>& measured,
+                                 const std::function<double()>& against);

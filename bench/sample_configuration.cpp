@@ -1,0 +1,57 @@
+#include "bench/sample_configuration.h"
+
+#include <string>
+
+#include "config/operation_codes.h"
+
+namespace {
+
+corvane::Rule SampleRule(std::size_t number, const corvane::TextList& codes) {
+    const std::wstring text = std::to_wstring(number);
+    corvane::Rule rule;
+    rule.operation = codes[number % codes.size()];
+    rule.csProfile = L"Signature 2012";
+    rule.inputFolder = L"C:\\Exchange\\Incoming\\Branch " + text;
+    rule.outputFolder = L"C:\\Exchange\\Done\\Branch " + text;
+    rule.errorFolder = L"C:\\Exchange\\Failed\\Branch " + text;
+    rule.description = L"Reports of branch " + text;
+    rule.masks = {L"*.xml"};
+    rule.recipients = {L"CN=Anna Berg,O=Nordhafen,C=DE", L"CN=Ivan Orlov,O=Volna,C=RU"};
+    rule.isOn = number % 3 == 0 ? 0 : 1;
+    if (number % 20 == 0) {
+        rule.signerGroups = {{.name = L"Board", .signers = {L"CN=Jan Maas,O=Nordhafen,C=DE"}}};
+    }
+    return rule;
+}
+
+corvane::Profile SampleProfile(std::size_t number, std::size_t ruleCount) {
+    corvane::Profile profile;
+    profile.name = L"Profile " + std::to_wstring(number);
+    profile.csProfiles = {L"Signature 2012"};
+    profile.timeStampServers = {L"0"};
+    profile.notUseDirectory = {1};
+    profile.notAddCertificate = {0};
+    profile.notCopyToLocal = {0};
+    profile.autoVerifyTimeStamp = {0};
+    profile.noTimeStampIsError = {0};
+    profile.useAuthorityAccess = {0};
+    profile.autoUseTimeStamp = {0};
+    profile.notLoadCrl = {0};
+    profile.crlUpdatePeriods = {1};
+    const corvane::TextList codes = corvane::SplitEntries(corvane::OperationCode);
+    for (std::size_t rule = 0; rule < ruleCount; ++rule) {
+        profile.rules.push_back(SampleRule(rule, codes));
+    }
+    return profile;
+}
+
+}  // namespace
+
+corvane::ConfigurationState SampleConfiguration(std::size_t profileCount, std::size_t rulesPerProfile) {
+    corvane::ConfigurationState state;
+    for (std::size_t number = 0; number < profileCount; ++number) {
+        state.profiles.push_back(SampleProfile(number, rulesPerProfile));
+        state.profileNames.push_back(state.profiles.back().name);
+    }
+    return state;
+}

@@ -1,0 +1,92 @@
+#include "certs/cert_session.h"
+
+#include <string>
+#include <utility>
+
+#include "certs/crl_update.h"
+#include "certs/network_store_check.h"
+#include "certs/provider_call_message.h"
+
+namespace corvane {
+
+namespace {
+
+// The wait window as long as the call takes, whatever comes of it.
+class ShownWaitWindow {
+  public:
+    ShownWaitWindow(WaitWindow& window, toolkit::WindowHandle parent) : window_(window) {
+        window_.Show(parent, kWaitText);
+    }
+    ~ShownWaitWindow() { window_.Destroy(); }
+    ShownWaitWindow(const ShownWaitWindow&) = delete;
+    ShownWaitWindow& operator=(const ShownWaitWindow&) = delete;
+    ShownWaitWindow(ShownWaitWindow&&) = delete;
+    ShownWaitWindow& operator=(ShownWaitWindow&&) = delete;
+
+  private:
+    WaitWindow& window_;
+};
+
+const ProviderFunctions* BindProvider(toolkit::WindowHandle owner, const CertServices& services) {
+    const ProviderFunctions* const provider = services.provider.Functions();
+    if (provider == nullptr) {
+        const ProviderBindFailure failure = services.provider.LastFailure();
+        services.reporter.ReportError(owner, ProviderContext{}, kShowReport, failure.code,
+                                      "Loading crypto provider library (%s)", nullptr,
+                                      failure.missing.c_str());
+    }
+    return provider;
+}
+
+std::uint32_t Initialize(const ProviderFunctions& provider, const std::string& csProfileName,
+                         std::uint32_t flags, WaitWindow& waitWindow, toolkit::WindowHandle owner,
+                         ProviderContext& context) {
+    const ShownWaitWindow shown(waitWindow, owner);
+    return provider.initialize(csProfileName.c_str(), flags, &context);
+}
+
+void ShowInitializationFailure(toolkit::WindowHandle owner, const ProviderFunctions& provider,
+                               std::uint32_t status, const CertServices& services) {
+    const std::wstring description = DescribeStatus(services.reporter, status);
+    const std::wstring stack = FormatErrorStack(provider, ProviderContext{}, services.reporter.Text());
+    services.warnings.Show(owner,
+                           ProviderCallMessage(L"Cryptocontext initialization", status, description, stack),
+                           {}, WarningMode::kError);
+}
+
+}  // namespace
+
+std::optional<CertSession> OpenCertSession(toolkit::WindowHandle owner, const Profile& profile,
+                                           std::size_t index, CertificateUse use, WaitWindow& waitWindow,
+                                           const CertServices& services) {
+    const ProviderFunctions* const provider = BindProvider(owner, services);
+    if (provider == nullptr) {
+        return std::nullopt;
+    }
+    const CsProfile csProfile = CsProfileAt(profile, index);
+    CertSearchSettings settings = SearchSettingsOf(csProfile, use);
+    ProviderContext context = 0;
+    const std::uint32_t status = Initialize(*provider, services.reporter.Text().Narrow(csProfile.name),
+                                            InitialisationFlags(settings), waitWindow, owner, context);
+    if (status != 0) {
+        ShowInitializationFailure(owner, *provider, status, services);
+        return std::nullopt;
+    }
+    CertSession session{std::move(settings), Cryptocontext(*provider, context, services.reporter, owner),
+                        csProfile.notUseDirectory == 0};
+    if (csProfile.notUseDirectory == 0) {
+        const NetworkStoreCheck check =
+            CheckNetworkStore(owner, session.context, services.reporter, services.warnings);
+        if (check == NetworkStoreCheck::kStop) {
+            return std::nullopt;
+        }
+        session.isNetworkStoreAvailable = check == NetworkStoreCheck::kAvailable;
+    }
+    if (csProfile.notLoadCrl == 0 && csProfile.crlUpdatePeriod >= 1 &&
+        !UpdateCrlIfDue(owner, csProfile, session.context, services)) {
+        return std::nullopt;
+    }
+    return session;
+}
+
+}  // namespace corvane

@@ -1,0 +1,322 @@
+#include "certs/recipient_selection_form.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+#include "app/reporting/message_styles.h"
+#include "certs/certificate_search.h"
+#include "certs/owner_lines.h"
+#include "certs/subject_fields.h"
+#include "toolkit/format_text.h"
+
+namespace corvane {
+
+SortMark RecipientSelectionForm::ListSort::Mark() const {
+    if (!isSorted) {
+        return SortMark::kNone;
+    }
+    return direction == SortDirection::kAscending ? SortMark::kUp : SortMark::kDown;
+}
+
+void RecipientSelectionForm::ListSort::Reverse() {
+    if (wasSorted) {
+        direction =
+            direction == SortDirection::kAscending ? SortDirection::kDescending : SortDirection::kAscending;
+    }
+}
+
+RecipientSelectionForm::RecipientSelectionForm(const CertSearchSettings& settings, SelectionStart start,
+                                               const toolkit::SystemText& systemText)
+    : listName(std::move(start.listName)),
+      settings_(settings),
+      systemText_(systemText),
+      existingLists_(std::move(start.existingLists)),
+      previousListName_(std::move(start.previousListName)),
+      isNetworkStoreAvailable_(start.isNetworkStoreAvailable) {
+    for (const std::wstring& field : OfferedSubjectFields()) {
+        sortKeys_.push_back(SubjectFieldKey(field, systemText));
+    }
+    for (std::wstring& owner : start.chosen) {
+        chosen_.push_back({std::move(owner), false});
+    }
+    FillChosen();
+}
+
+std::wstring RecipientSelectionForm::Title() const {
+    if (!IsForSigners()) {
+        return L"Add recipients";
+    }
+    return previousListName_.empty() ? L"Add list" : L"Edit list";
+}
+
+OwnerRow RecipientSelectionForm::FoundRow(std::size_t position) const {
+    if (position >= foundRows_.size()) {
+        return {};
+    }
+    const FoundOwner& owner = found_[foundRows_[position]];
+    return {owner.text, owner.isChecked};
+}
+
+OwnerRow RecipientSelectionForm::ChosenRow(std::size_t position) const {
+    if (position >= chosenRows_.size()) {
+        return {};
+    }
+    const ChosenOwner& owner = chosen_[chosenRows_[position]];
+    return {owner.text, owner.isChecked};
+}
+
+void RecipientSelectionForm::CheckFound(std::size_t position, bool isChecked) {
+    if (position < foundRows_.size()) {
+        found_[foundRows_[position]].isChecked = isChecked;
+    }
+}
+
+void RecipientSelectionForm::CheckAllFound(bool isChecked) {
+    for (const std::size_t row : foundRows_) {
+        found_[row].isChecked = isChecked;
+    }
+}
+
+void RecipientSelectionForm::AddFound(const TextList& owners) {
+    for (const std::wstring& owner : owners) {
+        if (foundTexts_.insert(owner).second) {
+            found_.push_back({owner, systemText_.UpperCase(owner), false});
+        }
+    }
+    FillFound();
+}
+
+bool RecipientSelectionForm::SearchLocalStore(const Cryptocontext& context, ErrorReporter& reporter,
+                                              toolkit::WindowHandle dialog) {
+    TextList owners;
+    if (!FindAllLocal(dialog, settings_, context, reporter, owners)) {
+        return false;
+    }
+    AddFound(owners);
+    return true;
+}
+
+bool RecipientSelectionForm::SearchNetworkStore(const std::wstring& pattern, const Cryptocontext& context,
+                                                ErrorReporter& reporter, toolkit::WindowHandle dialog) {
+    TextList owners;
+    if (!FindByPattern(dialog, settings_, context, pattern, reporter, owners)) {
+        return false;
+    }
+    if (owners.empty()) {
+        reporter.ShowMessage(dialog, L"No certificates found for your request", kRefusalStyle);
+        return true;
+    }
+    AddFound(owners);
+    return true;
+}
+
+bool RecipientSelectionForm::DeleteAllFound(ErrorReporter& reporter, toolkit::WindowHandle dialog) {
+    if (foundRows_.empty() ||
+        reporter.ShowMessage(dialog, L"Delete all list items?", kWarningQuestionStyle) != kAnswerYes) {
+        return false;
+    }
+    found_.clear();
+    foundTexts_.clear();
+    lastGroupPath.clear();
+    FillFound();
+    return true;
+}
+
+void RecipientSelectionForm::SetFilter(std::wstring_view text) {
+    upperFilter_ = systemText_.UpperCase(text);
+    FillFound();
+}
+
+void RecipientSelectionForm::SetSortField(std::size_t fieldIndex) {
+    if (fieldIndex < sortKeys_.size()) {
+        sortField_ = fieldIndex;
+        SortFound();
+    }
+}
+
+void RecipientSelectionForm::ClickFoundHeader() {
+    foundSort_.Reverse();
+    SortFound();
+}
+
+OwnerBox RecipientSelectionForm::FoundDetails(std::size_t position) const {
+    return {L"Subject", OwnerLines(FoundRow(position).owner)};
+}
+
+TextList RecipientSelectionForm::CheckedFoundOwners() const {
+    TextList owners;
+    for (const std::size_t row : foundRows_) {
+        if (found_[row].isChecked) {
+            owners.push_back(found_[row].text);
+        }
+    }
+    return owners;
+}
+
+void RecipientSelectionForm::CheckChosen(std::size_t position, bool isChecked) {
+    if (position < chosenRows_.size()) {
+        chosen_[chosenRows_[position]].isChecked = isChecked;
+    }
+}
+
+std::wstring RecipientSelectionForm::AddChecked() {
+    std::unordered_set<std::wstring_view> chosenTexts;
+    for (const ChosenOwner& owner : chosen_) {
+        chosenTexts.insert(owner.text);
+    }
+    // Which of them are new is known before the first one is added: adding moves the texts in memory. The
+    // upper list has no owner twice.
+    TextList newOwners = CheckedFoundOwners();
+    std::erase_if(newOwners,
+                  [&chosenTexts](const std::wstring& owner) { return chosenTexts.contains(owner); });
+    for (std::wstring& owner : newOwners) {
+        chosen_.push_back({std::move(owner), false});
+    }
+    std::wstring report = ExcludeSignersOfOtherLists();
+    FillChosen();
+    return report.empty()
+               ? report
+               : L"Following signers are used in other lists and had been excluded:\r\n\r\n" + report;
+}
+
+// Deliberate: what other lists hold is taken out again here, among the chosen ones of before too, so that a
+// signer belongs to one list of the rule.
+std::wstring RecipientSelectionForm::ExcludeSignersOfOtherLists() {
+    std::unordered_map<std::wstring, std::size_t> counts;
+    if (!existingLists_.empty()) {
+        for (const ChosenOwner& owner : chosen_) {
+            ++counts[owner.text];
+        }
+    }
+    std::wstring report;
+    for (const SignerGroup& list : existingLists_) {
+        if (list.name == previousListName_) {
+            continue;
+        }
+        for (const std::wstring& signer : list.signers) {
+            const auto found = counts.find(signer);
+            for (; found != counts.end() && found->second > 0; --found->second) {
+                report += toolkit::FormatText(L"Signer\r\n\"%s\"\r\nis used in list\r\n\"%s\"\r\n\r\n",
+                                              {signer, list.name});
+            }
+        }
+    }
+    if (!report.empty()) {
+        std::erase_if(chosen_, [&counts](const ChosenOwner& owner) { return counts[owner.text] == 0; });
+    }
+    return report;
+}
+
+void RecipientSelectionForm::RemoveChecked() {
+    std::vector<std::size_t> newIndices(chosen_.size());
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < chosen_.size(); ++i) {
+        newIndices[i] = kept;
+        kept += chosen_[i].isChecked ? 0U : 1U;
+    }
+    std::erase_if(chosenRows_, [this](std::size_t row) { return chosen_[row].isChecked; });
+    for (std::size_t& row : chosenRows_) {
+        row = newIndices[row];
+    }
+    std::erase_if(chosen_, [](const ChosenOwner& owner) { return owner.isChecked; });
+}
+
+void RecipientSelectionForm::ClickChosenHeader() {
+    chosenSort_.Reverse();
+    SortChosen();
+}
+
+OwnerBox RecipientSelectionForm::ChosenDetails(std::size_t position) const {
+    return {IsForSigners() ? L"Signer" : L"Recipient", OwnerLines(ChosenRow(position).owner)};
+}
+
+bool RecipientSelectionForm::Confirm(const Cryptocontext& context, ErrorReporter& reporter,
+                                     toolkit::WindowHandle dialog) {
+    if (IsForSigners() && !IsListNameAccepted(reporter, dialog)) {
+        return false;
+    }
+    TextList kept;
+    for (const std::size_t row : chosenRows_) {
+        const std::wstring& owner = chosen_[row].text;
+        TextList issuers;
+        TextList serials;
+        if (!FindByOwner(dialog, settings_, context, owner, reporter, issuers, serials)) {
+            return false;
+        }
+        if (!issuers.empty()) {
+            kept.push_back(owner);
+            continue;
+        }
+        const std::wstring question = toolkit::FormatText(
+            L"No certificates found for user %s.\r\nContinue to check other users?", {owner});
+        if (reporter.ShowMessage(dialog, question, kWarningQuestionStyle) != kAnswerYes) {
+            return false;
+        }
+    }
+    // Recipients may be cleared so; a signer list without signers would verify nothing.
+    if (IsForSigners() && kept.empty()) {
+        reporter.ShowMessage(dialog, L"No users selected.", kRefusalStyle);
+        return false;
+    }
+    result_ = std::move(kept);
+    return true;
+}
+
+bool RecipientSelectionForm::IsListNameAccepted(ErrorReporter& reporter, toolkit::WindowHandle dialog) const {
+    if (listName.empty()) {
+        reporter.ShowMessage(dialog, L"No list name", kRefusalStyle);
+        return false;
+    }
+    const bool isTaken = listName != previousListName_ &&
+                         std::any_of(existingLists_.begin(), existingLists_.end(),
+                                     [this](const SignerGroup& list) { return list.name == listName; });
+    if (isTaken) {
+        reporter.ShowMessage(dialog, L"List with this name already exists", kRefusalStyle);
+    }
+    return !isTaken;
+}
+
+void RecipientSelectionForm::FillFound() {
+    foundRows_.clear();
+    for (std::size_t i = 0; i < found_.size(); ++i) {
+        if (!found_[i].text.empty() && found_[i].upperText.find(upperFilter_) != std::wstring::npos) {
+            foundRows_.push_back(i);
+        }
+    }
+    foundSort_.isSorted = false;
+}
+
+void RecipientSelectionForm::FillChosen() {
+    chosenRows_.clear();
+    for (std::size_t i = 0; i < chosen_.size(); ++i) {
+        if (!chosen_[i].text.empty()) {
+            chosenRows_.push_back(i);
+        }
+    }
+    chosenSort_.isSorted = false;
+}
+
+void RecipientSelectionForm::SortFound() {
+    std::vector<std::wstring_view> owners;
+    owners.reserve(found_.size());
+    for (const FoundOwner& owner : found_) {
+        owners.push_back(owner.text);
+    }
+    SortOwnerRows(foundRows_, owners, sortKeys_[sortField_], foundSort_.direction);
+    foundSort_.wasSorted = true;
+    foundSort_.isSorted = true;
+}
+
+void RecipientSelectionForm::SortChosen() {
+    std::vector<std::wstring_view> owners;
+    owners.reserve(chosen_.size());
+    for (const ChosenOwner& owner : chosen_) {
+        owners.push_back(owner.text);
+    }
+    SortOwnerRows(chosenRows_, owners, sortKeys_[sortField_], chosenSort_.direction);
+    chosenSort_.wasSorted = true;
+    chosenSort_.isSorted = true;
+}
+
+}  // namespace corvane

@@ -1,0 +1,82 @@
+#include "certs/signer_lists_form.h"
+
+#include <set>
+#include <utility>
+
+#include "app/reporting/message_styles.h"
+#include "toolkit/format_text.h"
+
+namespace corvane {
+
+SignerListsForm::SignerListsForm(std::vector<SignerGroup> lists) : lists_(std::move(lists)) {}
+
+std::wstring SignerListsForm::SignersCell(std::size_t position) const {
+    std::wstring cell;
+    for (const std::wstring& signer : lists_[position].signers) {
+        cell += cell.empty() ? signer : L"; " + signer;
+    }
+    return cell;
+}
+
+SelectionStart SignerListsForm::StartOfNewList(bool isNetworkStoreAvailable) const {
+    SelectionStart start;
+    start.existingLists = lists_;
+    start.isNetworkStoreAvailable = isNetworkStoreAvailable;
+    return start;
+}
+
+SelectionStart SignerListsForm::StartOfEditing(std::size_t position, bool isNetworkStoreAvailable) const {
+    SelectionStart start = StartOfNewList(isNetworkStoreAvailable);
+    if (position < lists_.size()) {
+        start.chosen = lists_[position].signers;
+        start.listName = lists_[position].name;
+        start.previousListName = lists_[position].name;
+    }
+    return start;
+}
+
+void SignerListsForm::Add(const RecipientSelectionForm& confirmed) {
+    lists_.push_back({confirmed.listName, confirmed.Result()});
+}
+
+void SignerListsForm::Replace(std::size_t position, const RecipientSelectionForm& confirmed) {
+    if (position < lists_.size()) {
+        lists_[position] = {confirmed.listName, confirmed.Result()};
+    }
+}
+
+bool SignerListsForm::Delete(const std::vector<std::size_t>& positions, ErrorReporter& reporter,
+                             toolkit::WindowHandle dialog) {
+    std::set<std::size_t> deleted(positions.begin(), positions.end());
+    deleted.erase(deleted.lower_bound(lists_.size()), deleted.end());
+    if (deleted.empty()) {
+        return false;
+    }
+    const std::wstring question =
+        toolkit::FormatText(L"Delete %d list(s)?", {static_cast<std::int64_t>(deleted.size())});
+    if (reporter.ShowMessage(dialog, question, kWarningQuestionStyle) != kAnswerYes) {
+        return false;
+    }
+    std::vector<SignerGroup> kept;
+    for (std::size_t i = 0; i < lists_.size(); ++i) {
+        if (!deleted.contains(i)) {
+            kept.push_back(std::move(lists_[i]));
+        }
+    }
+    lists_ = std::move(kept);
+    return true;
+}
+
+std::wstring SignerListsForm::Describe(std::size_t position) const {
+    if (position >= lists_.size()) {
+        return {};
+    }
+    std::wstring text = L"List name: " + lists_[position].name;
+    std::int64_t number = 0;
+    for (const std::wstring& signer : lists_[position].signers) {
+        text += L"\r\nSigner" + toolkit::FormatText(L" %d:", {++number}) + L"\r\n" + signer;
+    }
+    return text;
+}
+
+}  // namespace corvane

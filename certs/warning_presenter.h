@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/window_handle.h"
+
+namespace corvane {
+
+/// How a warning box looks.
+enum class WarningMode { kWarning, kError, kInformation };
+
+/// Shows long texts to read, in the warning box.
+class WarningPresenter {
+  public:
+    virtual ~WarningPresenter() = default;
+
+    /// Shows `text` (lines broken by CR LF) until the user closes the box. `owner` may be null; with an empty
+    /// `title` the box has its usual one.
+    virtual void Show(toolkit::WindowHandle owner, const std::wstring& text, const std::wstring& title,
+                      WarningMode mode) = 0;
+
+  protected:
+    WarningPresenter() = default;
+    WarningPresenter(const WarningPresenter&) = default;
+    WarningPresenter& operator=(const WarningPresenter&) = default;
+    WarningPresenter(WarningPresenter&&) = default;
+    WarningPresenter& operator=(WarningPresenter&&) = default;
+};
+
+}  // namespace corvane

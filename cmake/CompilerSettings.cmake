@@ -1,0 +1,34 @@
+# What every target is compiled with: all warnings as errors, and on Windows one static, small executable.
+add_library(corvane_settings INTERFACE)
+target_include_directories(corvane_settings INTERFACE ${CMAKE_SOURCE_DIR})
+
+if(MSVC)
+  target_compile_options(corvane_settings INTERFACE /W4 /WX /permissive- /utf-8 /Zc:__cplusplus)
+  set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreaded)
+else()
+  target_compile_options(corvane_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wcast-align
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wnull-dereference -Wdouble-promotion
+    -Wextra-semi -Wundef -Werror)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(corvane_settings INTERFACE
+      -Wduplicated-cond -Wduplicated-branches -Wlogical-op)
+  endif()
+endif()
+
+if(WIN32)
+  target_compile_definitions(corvane_settings INTERFACE
+    UNICODE _UNICODE STRICT NOMINMAX WIN32_LEAN_AND_MEAN
+    WINVER=0x0A00 _WIN32_WINNT=0x0A00 NTDDI_VERSION=0x0A000007)
+  if(NOT MSVC)
+    set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
+    set(CMAKE_C_FLAGS_RELEASE "-Os -DNDEBUG")
+    target_compile_options(corvane_settings INTERFACE -ffunction-sections -fdata-sections)
+    target_link_options(corvane_settings INTERFACE -static -s -Wl,--gc-sections)
+  endif()
+endif()
+
+if(CORVANE_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

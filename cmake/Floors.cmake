@@ -1,0 +1,43 @@
+# The program is built floor by floor. A floor is a static library that links only the floors below it,
+# and its includes are checked against the same list before anything of it is compiled, so that an arrow
+# that runs upward does not build.
+#
+#   corvane_floor(NAME config
+#                 BELOW reporting provider toolkit     # the floors it may use
+#                 DECIDES a.cpp b.cpp                  # plain C++, also built natively
+#                 SHOWS c.cpp                          # needs Windows
+#                 SYSTEM_LIBRARIES advapi32)
+set(CORVANE_FLOOR_FOLDERS
+  toolkit=toolkit provider=certs/provider reporting=app/reporting config=config certs=certs
+  editors=editors application=app standin_rules=standin res=res)
+
+function(corvane_floor)
+  cmake_parse_arguments(FLOOR "" "NAME" "BELOW;DECIDES;SHOWS;SYSTEM_LIBRARIES" ${ARGN})
+  set(sources ${FLOOR_DECIDES})
+  if(WIN32)
+    list(APPEND sources ${FLOOR_SHOWS})
+  endif()
+  set(scope PUBLIC)
+  if(sources)
+    add_library(${FLOOR_NAME} STATIC ${sources})
+  else()
+    add_library(${FLOOR_NAME} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_link_libraries(${FLOOR_NAME} ${scope} corvane_settings ${FLOOR_BELOW})
+  if(WIN32)
+    target_link_libraries(${FLOOR_NAME} ${scope} ${FLOOR_SYSTEM_LIBRARIES})
+  endif()
+
+  add_custom_target(${FLOOR_NAME}_arrows
+    COMMAND ${CMAKE_COMMAND}
+      -D "FOLDER=${CMAKE_CURRENT_SOURCE_DIR}"
+      -D "NAME=${FLOOR_NAME}"
+      -D "BELOW=${FLOOR_BELOW}"
+      -D "FOLDERS=${CORVANE_FLOOR_FOLDERS}"
+      -D "DECIDES=${FLOOR_DECIDES}"
+      -P ${CMAKE_SOURCE_DIR}/cmake/check_arrows.cmake
+    COMMENT "Includes of ${FLOOR_NAME}"
+    VERBATIM)
+  add_dependencies(${FLOOR_NAME} ${FLOOR_NAME}_arrows)
+endfunction()

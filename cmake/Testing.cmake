@@ -1,0 +1,57 @@
+# GoogleTest from Debian's sources, built for whatever target the tests are built for.
+set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+foreach(library gtest gtest_main gmock gmock_main)
+  target_compile_options(${library} PRIVATE -w)
+  get_target_property(directories ${library} INTERFACE_INCLUDE_DIRECTORIES)
+  set_target_properties(${library} PROPERTIES INTERFACE_SYSTEM_INCLUDE_DIRECTORIES "${directories}")
+endforeach()
+
+# What tests of these kinds share, so that no two of them run at once: the windows of one display take the
+# focus from each other, and one registry holds one configuration.
+set(CORVANE_LOCKS_registry registry)
+set(CORVANE_LOCKS_windows registry desktop)
+set(CORVANE_LOCKS_audit registry desktop)
+
+# corvane_test(NAME core_config LABEL core SOURCES a_test.cpp LIBRARIES config test_support
+#              ENVIRONMENT "EDITOR=$<TARGET_FILE:corvane>"  # what the program finds in its environment
+#              RESOURCE_LOCK clipboard                      # more than the kind of test locks anyway
+#              TIMEOUT 60                                   # seconds, 120 unless told
+#              DPI 96 144 192 CODE_PAGES 1251 1252)         # one entry for each, for Windows programs
+# One test program, one CTest entry. Cross-built programs run under the emulator of the toolchain.
+function(corvane_test)
+  cmake_parse_arguments(TEST "" "NAME;LABEL;TIMEOUT"
+    "SOURCES;LIBRARIES;ENVIRONMENT;RESOURCE_LOCK;DPI;CODE_PAGES" ${ARGN})
+  if(NOT TEST_TIMEOUT)
+    set(TEST_TIMEOUT 120)
+  endif()
+  add_executable(${TEST_NAME} ${TEST_SOURCES})
+  target_link_libraries(${TEST_NAME} PRIVATE corvane_settings ${TEST_LIBRARIES} gmock_main)
+
+  set(entries ${TEST_NAME})
+  if(WIN32 AND TEST_DPI)
+    list(TRANSFORM TEST_DPI REPLACE ".+" "${TEST_NAME}_at_\\0_dpi" OUTPUT_VARIABLE entries)
+  elseif(WIN32 AND TEST_CODE_PAGES)
+    list(TRANSFORM TEST_CODE_PAGES REPLACE ".+" "${TEST_NAME}_in_\\0" OUTPUT_VARIABLE entries)
+  endif()
+  foreach(entry IN LISTS entries)
+    set(environment ${TEST_ENVIRONMENT})
+    set(limit ${TEST_TIMEOUT})
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+      # The emulator ends the program with all that it started, which CTest could not; so it comes first.
+      list(APPEND environment CORVANE_LIMIT=${limit})
+      math(EXPR limit "${limit} + 60")
+    endif()
+    if(entry MATCHES "_at_([0-9]+)_dpi$")
+      list(APPEND environment CORVANE_DPI=${CMAKE_MATCH_1})
+    elseif(entry MATCHES "_in_([0-9]+)$")
+      list(APPEND environment CORVANE_CODE_PAGE=${CMAKE_MATCH_1})
+    endif()
+    add_test(NAME ${entry} COMMAND ${TEST_NAME})
+    set_tests_properties(${entry} PROPERTIES
+      LABELS "${TEST_LABEL}"
+      ENVIRONMENT "${environment}"
+      RESOURCE_LOCK "${CORVANE_LOCKS_${TEST_LABEL}};${TEST_RESOURCE_LOCK}"
+      TIMEOUT ${limit})
+  endforeach()
+endfunction()

@@ -1,0 +1,20 @@
+# clang with MinGW-w64's headers and libraries. Debian's clang does not look into the directory of
+# MinGW's posix flavour by itself, so it is told where the C++ headers and the runtime stand.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER clang)
+set(CMAKE_CXX_COMPILER clang++)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+set(CMAKE_C_COMPILER_TARGET x86_64-w64-mingw32)
+set(CMAKE_CXX_COMPILER_TARGET x86_64-w64-mingw32)
+file(GLOB MINGW_RUNTIME_DIRECTORIES /usr/lib/gcc/x86_64-w64-mingw32/*-posix)
+list(GET MINGW_RUNTIME_DIRECTORIES 0 MINGW_RUNTIME)
+set(CMAKE_CXX_FLAGS_INIT
+    "-isystem ${MINGW_RUNTIME}/include/c++ -isystem ${MINGW_RUNTIME}/include/c++/x86_64-w64-mingw32")
+foreach(kind EXE SHARED MODULE)
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT "-fuse-ld=lld -L${MINGW_RUNTIME} -B${MINGW_RUNTIME} -lpthread")
+endforeach()
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

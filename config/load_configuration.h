@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/reporting/error_reporter.h"
+#include "config/records.h"
+#include "config/registry_access.h"
+#include "toolkit/window_handle.h"
+
+namespace corvane {
+
+/// Reads the whole configuration of the current user into `state`, which starts afresh: the catalogue of CS
+/// profile names, the global settings and the profiles with their rules. Where the program key has no
+/// profile yet, a profile "default" is written first. The dirty flag is false afterwards.
+///
+/// Returns false after a failure to open, create or enumerate a key: it is reported to `owner`, and the
+/// caller ends the program. A value that cannot be read is reported and keeps its default.
+/// Throws std::invalid_argument where there is neither a profile nor a CS profile for a first one; nothing of
+/// the profile "default" is written then.
+[[nodiscard]] bool LoadConfiguration(ConfigurationState& state, RegistryAccess& registry,
+                                     ErrorReporter& reporter, toolkit::WindowHandle owner);
+
+/// Tells whether a stored rectangle is put back at start: only with both its top and its left non-zero. A
+/// window placed exactly at an edge of the screen is deliberately not restored.
+[[nodiscard]] bool ShouldRestoreWindow(const WindowRectangle& stored);
+
+}  // namespace corvane

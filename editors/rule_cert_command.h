@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "config/records.h"
+#include "editors/rule_form.h"
+
+namespace corvane {
+
+/// What the file picker for the executable offers. The file must exist.
+inline constexpr wchar_t kExecutableFilter[] = L"All files (*.*)|*.*||";
+inline constexpr wchar_t kExecutableDefaultExtension[] = L"*.*";
+
+/// What the certificate button opens.
+enum class CertCommand { kNone, kPickFolder, kPickExecutable, kEditSignerLists, kChooseRecipients };
+
+/// What the certificate button opens for the operation whose fields are shown.
+[[nodiscard]] CertCommand CertButtonCommand(const RuleForm& form);
+
+/// The settings of the selected CS profile, under which certificates are searched.
+[[nodiscard]] CsProfile SelectedCsProfile(const RuleForm& form);
+
+// What the form takes when the opened dialog ended with OK. After a Cancel nothing is to be called.
+
+/// Takes the folder or the executable that the user picked.
+void TakeCertPath(RuleForm& form, const std::wstring& path);
+/// Takes the recipients in place of those it has, and shows their number.
+void TakeRecipients(RuleForm& form, TextList recipients);
+/// Takes the signer lists in place of those it has, and shows their number.
+void TakeSignerLists(RuleForm& form, std::vector<SignerGroup> signerLists);
+
+}  // namespace corvane

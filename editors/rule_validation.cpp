@@ -1,0 +1,132 @@
+#include "editors/rule_validation.h"
+
+#include "app/reporting/message_styles.h"
+
+namespace corvane {
+
+namespace {
+
+using Refusal = std::optional<RuleRefusal>;
+
+constexpr std::uint32_t kPathNotFound = 3;
+constexpr std::uint32_t kFileExists = 80;
+
+RuleRefusal Message(const wchar_t* text) {
+    return {.kind = RefusalKind::kMessage, .text = text, .icon = {}, .folder = {}, .code = 0};
+}
+
+RuleRefusal ErrorBox(const wchar_t* text, RuleIcon icon) {
+    return {.kind = RefusalKind::kErrorBox, .text = text, .icon = icon, .folder = {}, .code = 0};
+}
+
+RuleRefusal FileReport(const wchar_t* detail, const std::wstring& folder, std::uint32_t code) {
+    return {.kind = RefusalKind::kFileReport, .text = detail, .icon = {}, .folder = folder, .code = code};
+}
+
+bool IsDriveOrNetworkPath(const std::wstring& path) {
+    return path.find(L':') != std::wstring::npos || path.find(L"\\\\") != std::wstring::npos;
+}
+
+Refusal CheckFolder(const std::wstring& folder, const wchar_t* detail, toolkit::FileCalls& files) {
+    if (!IsDriveOrNetworkPath(folder)) {
+        return FileReport(detail, folder, kPathNotFound);
+    }
+    // A file of this name passes as well: the client tells the two apart itself.
+    const std::uint32_t code = files.CheckExists(folder);
+    if (code == 0) {
+        return std::nullopt;
+    }
+    if (code == kFileExists) {
+        // Deliberate: "file exists" as the reason why a path does not exist is kept from users, who could
+        // make nothing of it; the editor just stays open.
+        return RuleRefusal{
+            .kind = RefusalKind::kSilent, .text = {}, .icon = {}, .folder = folder, .code = code};
+    }
+    return FileReport(detail, folder, code);
+}
+
+Refusal CheckFoldersAreSet(const RuleForm& form, const OperationLayout& layout) {
+    if (IsNotSet(form.inputFolder.text)) {
+        return ErrorBox(L"No Input folder selected.", RuleIcon::kInputFolder);
+    }
+    if (layout.usesOutputFolder && IsNotSet(form.outputFolder.text)) {
+        return ErrorBox(L"No Output folder selected.", RuleIcon::kOutputFolder);
+    }
+    if (IsNotSet(form.errorFolder.text)) {
+        return ErrorBox(L"No Error folder selected.", RuleIcon::kErrorFolder);
+    }
+    return std::nullopt;
+}
+
+Refusal CheckFolders(const RuleForm& form, const OperationLayout& layout, toolkit::FileCalls& files) {
+    Refusal refusal = CheckFolder(form.inputFolder.text, L"Bad Input folder.", files);
+    if (!refusal && layout.usesOutputFolder) {
+        refusal = CheckFolder(form.outputFolder.text, L"Bad Output folder.", files);
+    }
+    return refusal ? refusal : CheckFolder(form.errorFolder.text, L"Bad Error folder.", files);
+}
+
+Refusal CheckCert(const RuleForm& form, CertUse use, toolkit::FileCalls& files) {
+    const std::wstring& path = form.cert.text;
+    switch (use) {
+        case CertUse::kRecipients:
+            if (form.recipients.empty()) {
+                return ErrorBox(L"No certificate is selected for operation.", RuleIcon::kCertificates);
+            }
+            break;
+        case CertUse::kSecondOutputFolder:
+            if (!IsNotSet(path)) {
+                return CheckFolder(path, L"Bad Second Output folder.", files);
+            }
+            break;
+        case CertUse::kExecutable:
+            if (IsNotSet(path)) {
+                return ErrorBox(L"Executable file is not set.", RuleIcon::kExecutable);
+            }
+            break;
+        case CertUse::kNone:
+        case CertUse::kSigners:  // Deliberate: a verifying rule may do without signer lists.
+            break;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<RuleRefusal> CheckRule(const RuleForm& form, toolkit::FileCalls& files) {
+    const std::optional<Operation> operation = SelectedOperation(form);
+    if (!operation) {
+        return Message(L"No operation selected.");
+    }
+    const OperationLayout& layout = LayoutOf(*operation);
+    Refusal refusal = CheckFoldersAreSet(form, layout);
+    if (!refusal) {
+        refusal = CheckFolders(form, layout, files);
+    }
+    if (!refusal && form.result.masks.empty()) {
+        refusal = Message(L"No Mask selected.");
+    }
+    return refusal ? refusal : CheckCert(form, layout.cert, files);
+}
+
+void ShowRefusal(const RuleRefusal& refusal, ErrorReporter& reporter, toolkit::WindowHandle dialog,
+                 const ShowErrorBox& showErrorBox) {
+    switch (refusal.kind) {
+        case RefusalKind::kMessage:
+            reporter.ShowMessage(dialog, refusal.text, kRefusalStyle);
+            break;
+        case RefusalKind::kErrorBox:
+            showErrorBox(refusal.text, refusal.icon);
+            break;
+        case RefusalKind::kFileReport: {
+            std::wstring detail = refusal.text;
+            reporter.ReportError(dialog, 0, kShowReport, refusal.code, "Opening file %s", &detail,
+                                 reporter.Text().Narrow(refusal.folder).c_str());
+            break;
+        }
+        case RefusalKind::kSilent:
+            break;
+    }
+}
+
+}  // namespace corvane

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "app/reporting/error_reporter.h"
+#include "editors/rule_form.h"
+#include "toolkit/file_calls.h"
+#include "toolkit/window_handle.h"
+
+namespace corvane {
+
+/// How a refusal reaches the user.
+enum class RefusalKind {
+    kMessage,     ///< A message box of warning style.
+    kErrorBox,    ///< The error box with a picture.
+    kFileReport,  ///< The report of a failure to open a folder.
+    kSilent,      ///< Not at all.
+};
+
+/// Why OK leaves the editor open.
+struct RuleRefusal {
+    RefusalKind kind = RefusalKind::kMessage;
+    std::wstring text;                        ///< The message; of a report its detail.
+    RuleIcon icon = RuleIcon::kCertificates;  ///< Of an error box.
+    std::wstring folder;                      ///< Of a report.
+    std::uint32_t code = 0;                   ///< Of a report, the system's code.
+
+    bool operator==(const RuleRefusal&) const = default;
+};
+
+/// Checks the form the way OK does and returns the first fault, or none where the rule may be taken.
+[[nodiscard]] std::optional<RuleRefusal> CheckRule(const RuleForm& form, toolkit::FileCalls& files);
+
+/// Shows an error box with a text and a picture, modal to the editor.
+using ShowErrorBox = std::function<void(const std::wstring& text, RuleIcon icon)>;
+
+/// Shows a refusal, owned by `dialog`.
+void ShowRefusal(const RuleRefusal& refusal, ErrorReporter& reporter, toolkit::WindowHandle dialog,
+                 const ShowErrorBox& showErrorBox);
+
+}  // namespace corvane

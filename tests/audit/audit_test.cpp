@@ -1,0 +1,119 @@
+#include "tests/audit/dialog_audit.h"
+#include "tests/audit/picture.h"
+#include "tests/driver/failure.h"
+#include "tests/windows/editor_test.h"
+
+namespace corvane {
+namespace {
+
+class Audit : public EditorTest {
+  protected:
+    static void ExpectSound(const driver::Window& dialog, const std::string& name) {
+        dialog.Send(WM_NULL);
+        audit::KeepPicture(dialog, name);
+        for (const std::wstring& fault : audit::AllFaults(dialog)) {
+            ADD_FAILURE() << driver::Utf8(fault);
+        }
+    }
+    /// Escape must do what the button that leaves does.
+    void LeaveByEscape(const driver::Window& dialog) const {
+        dialog.FocusOfThread().PostKey(VK_ESCAPE);
+        dialog.WaitUntilGone();
+        Main().WaitUntilEnabled();
+    }
+};
+
+TEST_F(Audit, MainWindow) {
+    StartWithSample();
+    ExpectSound(Main(), "main_window");
+    Profiles().PostKey(VK_ESCAPE);
+    Editor().WaitForEnd();
+}
+
+TEST_F(Audit, MainWindowWithoutAnOpenProfile) {
+    StartWithSample();
+    Control(IDC_DELETE_PROFILE_BUTTON).PostClick();
+    ExpectBox(L"Delete profile 'alpha'?", kConfirmation, IDYES);
+    Profiles().PostLeftClick(Profiles().PointBelowRows());
+    Settle();
+    ExpectSound(Main(), "main_window_closed_profile");
+}
+
+TEST_F(Audit, MainWindowAtItsSmallestSize) {
+    StartWithSample();
+    const POINT smallest = Main().SmallestTrackingSize();
+    SetWindowPos(Main().Handle(), nullptr, 0, 0, smallest.x, smallest.y,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    Settle();
+    // The movements of the controls are laid down, and so is this size; only the picture is kept.
+    audit::KeepPicture(Main(), "main_window_smallest");
+}
+
+TEST_F(Audit, AboutBox) {
+    StartWithSample();
+    Main().Post(WM_SYSCOMMAND, IDM_ABOUT);
+    const driver::Window dialog = Editor().WaitForDialog(Main());
+    ExpectSound(dialog, "about");
+    LeaveByEscape(dialog);
+}
+
+TEST_F(Audit, LogSettings) {
+    StartWithSample();
+    Control(IDC_LOG_PATH_BUTTON).PostClick();
+    const driver::Window dialog = Editor().WaitForDialog(Main());
+    dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\windows\\temp");
+    ExpectSound(dialog, "log_settings");
+    LeaveByEscape(dialog);
+}
+
+TEST_F(Audit, DescriptionBox) {
+    StartWithSample();
+    Rules().PostRightClick(Rules().CellCentre(kResign, kExtraColumn));
+    const driver::Window dialog = Editor().WaitForDialog(Main());
+    ExpectSound(dialog, "description_box");
+    LeaveByEscape(dialog);
+}
+
+TEST_F(Audit, CellBox) {
+    StartWithSample();
+    Rules().PostRightClick(Rules().CellCentre(kMove, kMasksColumn));
+    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    ExpectSound(box, "cell_box");
+    LeaveByEscape(box);
+}
+
+TEST_F(Audit, Question) {
+    StartWithSample();
+    Control(IDC_DELETE_PROFILE_BUTTON).PostClick();
+    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    ExpectSound(box, "question");
+    box.Answer(IDNO);
+}
+
+TEST_F(Audit, Report) {
+    StartWithSample();
+    Control(IDC_LOG_PATH_BUTTON).PostClick();
+    const driver::Window dialog = Editor().WaitForDialog(Main());
+    dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\no such folder");
+    dialog.Control(IDOK).PostClick();
+    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(dialog);
+    ExpectSound(box, "report");
+    box.Answer(IDOK);
+}
+
+TEST_F(Audit, ErrorBox) {
+    // Its host stands beside this program and shows nothing else.
+    std::wstring path(1024, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    const driver::Program host(path.substr(0, path.find_last_of(L'\\') + 1) + L"error_box_host.exe");
+    const driver::Window dialog = host.WaitForWindow(driver::Window());
+    EXPECT_EQ(dialog.Text(), L"Error");
+    EXPECT_EQ(dialog.Control(IDC_ERROR_BOX_TEXT).Text(), L"No certificate is selected for operation.");
+    ExpectSound(dialog, "error_box");
+    dialog.FocusOfThread().PostKey(VK_ESCAPE);
+    dialog.WaitUntilGone();
+    host.WaitForEnd();
+}
+
+}  // namespace
+}  // namespace corvane

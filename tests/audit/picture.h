@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "tests/driver/window.h"
+
+namespace audit {
+
+/// Keeps a picture of the window with its frame, as it stands on the screen, under
+/// "<folder of pictures>/<name>_<dpi>.png". The folder is what CORVANE_PICTURES names.
+void KeepPicture(const driver::Window& window, const std::string& name);
+
+/// Colour of one point of the screen.
+[[nodiscard]] COLORREF ScreenColour(POINT point);
+
+/// Dots per inch of the screen.
+[[nodiscard]] int ScreenDpi();
+
+}  // namespace audit

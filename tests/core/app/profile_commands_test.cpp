@@ -1,0 +1,222 @@
+#include "app/profile_commands.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "tests/core/app/sample_state.h"
+
+namespace corvane::testing {
+namespace {
+
+using ::testing::ElementsAre;
+
+ConfigurationState StateNamed(const TextList& names, const wchar_t* current) {
+    std::vector<Profile> profiles;
+    for (const std::wstring& name : names) {
+        profiles.push_back(ProfileWithRules(name, {L"rule of " + name}));
+    }
+    return StateWith(std::move(profiles), current);
+}
+
+TextList NamesOfProfiles(const ConfigurationState& state) {
+    TextList names;
+    for (const Profile& profile : state.profiles) {
+        names.push_back(profile.name);
+    }
+    return names;
+}
+
+TEST(OpenProfileNamed, MakesTheProfileTheCurrentOneAndTellsWhatToShow) {
+    ConfigurationState state = StateNamed({L"a", L"b"}, L"a");
+    state.profiles[1].csProfiles = {L"x", L"y", L"z"};
+    EXPECT_EQ(OpenProfileNamed(state, L"b"),
+              (OpenedProfile{.name = L"b", .csProfileCount = 3, .position = 1}));
+    EXPECT_EQ(state.currentProfileName, L"b");
+    EXPECT_FALSE(state.isDirty);
+}
+
+TEST(OpenProfileNamed, TakesTheFirstOfTwoProfilesOfTheSameName) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"b"}, L"");
+    state.profiles[1].csProfiles = {L"x"};
+    EXPECT_EQ(OpenProfileNamed(state, L"b"),
+              (OpenedProfile{.name = L"b", .csProfileCount = 1, .position = 1}));
+}
+
+TEST(OpenProfileNamed, ANameThatNoProfileHasIsTheCurrentOneAllTheSame) {
+    ConfigurationState state = StateNamed({L"a"}, L"a");
+    EXPECT_EQ(OpenProfileNamed(state, L"A"), std::nullopt);
+    EXPECT_EQ(state.currentProfileName, L"A");
+}
+
+TEST(DeleteProfile, RemovesTheProfileItsNameAndItsRow) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"b");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 1), DeleteProfileResult::kDeleted);
+    EXPECT_THAT(rows, ElementsAre(L"a", L"c"));
+    EXPECT_THAT(state.profileNames, ElementsAre(L"a", L"c"));
+    EXPECT_THAT(NamesOfProfiles(state), ElementsAre(L"a", L"c"));
+    EXPECT_TRUE(state.isDirty);
+}
+
+// Deliberate: the walk's index is not corrected for the removed row.
+TEST(DeleteProfile, OfTheFirstOfThreeLeavesTheThirdRowsTextAsTheCurrentName) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"a");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kDeleted);
+    EXPECT_EQ(state.currentProfileName, L"c");
+}
+
+TEST(DeleteProfile, OfTheFirstOfTwoLeavesNoCurrentName) {
+    ConfigurationState state = StateNamed({L"a", L"b"}, L"a");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kDeleted);
+    EXPECT_EQ(state.currentProfileName, L"");
+}
+
+TEST(DeleteProfile, OfTheSecondOfThreeLeavesNoCurrentName) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"b");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 1), DeleteProfileResult::kDeleted);
+    EXPECT_EQ(state.currentProfileName, L"");
+}
+
+TEST(DeleteProfile, OfTheSecondOfFiveLeavesTheLastRowsText) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"c", L"d", L"e"}, L"b");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 1), DeleteProfileResult::kDeleted);
+    EXPECT_EQ(state.currentProfileName, L"e");
+    EXPECT_THAT(NamesOfProfiles(state), ElementsAre(L"a", L"c", L"d", L"e"));
+}
+
+TEST(DeleteProfile, OfTheLastRowLeavesNoCurrentName) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"c");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 2), DeleteProfileResult::kDeleted);
+    EXPECT_EQ(state.currentProfileName, L"");
+    EXPECT_THAT(rows, ElementsAre(L"a", L"b"));
+}
+
+TEST(DeleteProfile, TheOnlyProfileIsRefused) {
+    ConfigurationState state = StateNamed({L"a"}, L"a");
+    const ConfigurationState before = state;
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kRefusedLast);
+    EXPECT_THAT(rows, ElementsAre(L"a"));
+    EXPECT_EQ(state, before);
+}
+
+TEST(DeleteProfile, TheRefusalLeavesTheVisitedRowsTextAsTheCurrentName) {
+    ConfigurationState state = StateNamed({L"a"}, L"");
+    TextList rows = state.profileNames;
+    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kRefusedLast);
+    EXPECT_EQ(state.currentProfileName, L"a");
+    EXPECT_FALSE(state.isDirty);
+}
+
+TEST(DeleteProfile, ARowThatIsNoneIsAFaultThatChangesNothing) {
+    ConfigurationState state = StateNamed({L"a", L"b"}, L"a");
+    const ConfigurationState before = state;
+    TextList rows = state.profileNames;
+    EXPECT_THROW(DeleteProfile(state, rows, 2), std::invalid_argument);
+    rows.push_back(L"row without a profile");
+    EXPECT_THROW(DeleteProfile(state, rows, 2), std::invalid_argument);
+    EXPECT_EQ(state, before);
+    EXPECT_EQ(rows.size(), 3U);
+}
+
+TEST(AppendProfile, AppendsProfileAndNameAndSetsTheDirtyFlag) {
+    ConfigurationState state = StateNamed({L"a"}, L"a");
+    AppendProfile(state, ProfileWithRules(L"new", {L"r"}));
+    EXPECT_THAT(state.profileNames, ElementsAre(L"a", L"new"));
+    EXPECT_THAT(NamesOfProfiles(state), ElementsAre(L"a", L"new"));
+    EXPECT_THAT(RuleDescriptions(state, 1), ElementsAre(L"r"));
+    EXPECT_EQ(state.currentProfileName, L"a");
+    EXPECT_TRUE(state.isDirty);
+}
+
+// Deliberate: the attempt alone counts as a change.
+TEST(HasNoProfileToEdit, WithoutProfilesSetsTheDirtyFlag) {
+    ConfigurationState state;
+    EXPECT_TRUE(HasNoProfileToEdit(state));
+    EXPECT_TRUE(state.isDirty);
+}
+
+TEST(HasNoProfileToEdit, WithAProfileLeavesTheDirtyFlag) {
+    ConfigurationState state = StateNamed({L"a"}, L"a");
+    EXPECT_FALSE(HasNoProfileToEdit(state));
+    EXPECT_FALSE(state.isDirty);
+}
+
+TEST(ReplaceCurrentProfile, PutsTheEditedProfileAndItsNewNameInPlace) {
+    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"b");
+    Profile edited = state.profiles[1];
+    edited.name = L"renamed";
+    edited.handlerTimeout = 99;
+    EXPECT_EQ(ReplaceCurrentProfile(state, edited, {}), 1U);
+    EXPECT_EQ(state.currentProfileName, L"renamed");
+    EXPECT_THAT(state.profileNames, ElementsAre(L"a", L"renamed", L"c"));
+    EXPECT_EQ(state.profiles[1], edited);
+    EXPECT_TRUE(state.isDirty);
+}
+
+TEST(ReplaceCurrentProfile, WithoutACurrentProfileNothingHappens) {
+    ConfigurationState state = StateNamed({L"a"}, L"none such");
+    const ConfigurationState before = state;
+    EXPECT_EQ(ReplaceCurrentProfile(state, Profile(), {}), std::nullopt);
+    EXPECT_EQ(state, before);
+}
+
+TEST(ReplaceCurrentProfile, RulesOfADeletedCsProfileGetTheFirstOne) {
+    ConfigurationState state = StateNamed({L"a"}, L"a");
+    Profile edited = ProfileWithRules(L"a", {L"1", L"2", L"3", L"4"});
+    edited.csProfiles = {L"first", L"second"};
+    edited.rules[0].csProfile = L"gone";
+    edited.rules[0].resignProfile = L"second";
+    edited.rules[1].csProfile = L"second";
+    edited.rules[1].resignProfile = L"gone too";
+    edited.rules[2].csProfile = L"gone too";
+    edited.rules[2].resignProfile = L"gone";
+    edited.rules[3].csProfile = L"Gone";
+    EXPECT_EQ(ReplaceCurrentProfile(state, edited, {L"gone", L"gone too"}), 0U);
+    const std::vector<Rule>& rules = state.profiles[0].rules;
+    EXPECT_EQ(rules[0].csProfile, L"first");
+    EXPECT_EQ(rules[0].resignProfile, L"second");
+    EXPECT_EQ(rules[1].csProfile, L"second");
+    EXPECT_EQ(rules[1].resignProfile, L"first");
+    EXPECT_EQ(rules[2].csProfile, L"first");
+    EXPECT_EQ(rules[2].resignProfile, L"first");
+    EXPECT_EQ(rules[3].csProfile, L"Gone");
+    EXPECT_EQ(rules[3].resignProfile, L"");
+}
+
+TEST(ReplaceCurrentProfile, RulesOfOtherProfilesKeepTheDeletedCsProfile) {
+    ConfigurationState state = StateNamed({L"a", L"b"}, L"a");
+    state.profiles[1].rules[0].csProfile = L"gone";
+    Profile edited = state.profiles[0];
+    edited.csProfiles = {L"first"};
+    EXPECT_EQ(ReplaceCurrentProfile(state, edited, {L"gone"}), 0U);
+    EXPECT_EQ(state.profiles[1].rules[0].csProfile, L"gone");
+}
+
+TEST(ReplaceCurrentProfile, DeletedCsProfilesWithNoneLeftAreAFaultThatChangesNothing) {
+    ConfigurationState state = StateNamed({L"a"}, L"a");
+    const ConfigurationState before = state;
+    EXPECT_THROW(ReplaceCurrentProfile(state, ProfileWithRules(L"x", {}), {L"gone"}), std::invalid_argument);
+    EXPECT_EQ(state, before);
+}
+
+TEST(Captions, NameTheProfileAndTheNumberOfItsCsProfiles) {
+    EXPECT_EQ(ProfileCaption(L"main"), L"Profile: main");
+    EXPECT_EQ(ProfileCaption(L""), L"Profile: ");
+    EXPECT_EQ(RuleListCaption(0), L"CS profile's num: 0");
+    EXPECT_EQ(RuleListCaption(12), L"CS profile's num: 12");
+}
+
+TEST(Captions, AProfileNameWithPercentSignsIsShownAsItIs) {
+    EXPECT_EQ(ProfileCaption(L"100%s"), L"Profile: 100%s");
+}
+
+}  // namespace
+}  // namespace corvane::testing

@@ -1,0 +1,187 @@
+#include "certs/cert_session.h"
+
+#include <gmock/gmock.h>
+
+#include "app/reporting/app_title.h"
+#include "app/reporting/message_styles.h"
+#include "tests/core/certs/certs_fixture.h"
+
+namespace corvane::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr ProviderContext kContext = ScriptedSessions::kFirstContext;
+
+class CertSessionTest : public CertsFixture {
+  protected:
+    CertSessionTest() {
+        registry_.PutKey(kProgramKeyPath);
+        profile_.csProfiles = {L"first", L"\x0433\x043B\x0430\x0432\x043D\x044B\x0439"};
+        profile_.notUseDirectory = {1, 1};
+        profile_.notLoadCrl = {1, 1};
+        profile_.crlUpdatePeriods = {24, 24};
+    }
+
+    std::optional<CertSession> Open(std::size_t index = 0, CertificateUse use = CertificateUse::kRecipients) {
+        return OpenCertSession(owner_, profile_, index, use, waitWindow_, services_);
+    }
+
+    Profile profile_;
+};
+
+TEST_F(CertSessionTest, OpensBehindTheWaitWindow) {
+    const std::optional<CertSession> session = Open();
+    ASSERT_TRUE(session);
+    EXPECT_EQ(session->context.Get(), kContext);
+    EXPECT_THAT(sessions_.log, ElementsAre("show wait window", "initialize", "destroy wait window"));
+    EXPECT_EQ(waitWindow_.lastParent, owner_);
+    EXPECT_EQ(waitWindow_.lastText, L"Please, wait, cryptocontext initialization can take up to 30 seconds.");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(CertSessionTest, PassesTheNarrowNameAndTheFlagsOfTheSelectedCsProfile) {
+    profile_.notCopyToLocal = {0, 1};
+    profile_.useAuthorityAccess = {0, 1};
+    ASSERT_TRUE(Open(1));
+    EXPECT_THAT(sessions_.Initializations(),
+                ElementsAre(InitializeCall{"\xE3\xEB\xE0\xE2\xED\xFB\xE9", 0x80000465}));
+}
+
+TEST_F(CertSessionTest, WithoutNetworkStoreAndCrlNothingElseIsCalled) {
+    const std::optional<CertSession> session = Open();
+    ASSERT_TRUE(session);
+    EXPECT_THAT(sessions_.Initializations(), ElementsAre(InitializeCall{"first", 0x80000045}));
+    EXPECT_EQ(sessions_.CallCount(), 1U);
+    EXPECT_THAT(registry_.Calls(), IsEmpty());
+    EXPECT_FALSE(session->isNetworkStoreAvailable);
+}
+
+TEST_F(CertSessionTest, TheSettingsAreThoseOfTheCsProfileAndTheUse) {
+    profile_.timeStampServers = {L"tsp"};
+    EXPECT_EQ(Open()->settings, SearchSettingsOf(CsProfileAt(profile_, 0), CertificateUse::kRecipients));
+    EXPECT_EQ(Open(0, CertificateUse::kSigners)->settings,
+              SearchSettingsOf(CsProfileAt(profile_, 0), CertificateUse::kSigners));
+}
+
+TEST_F(CertSessionTest, IsClosedWithItsEnd) {
+    static_cast<void>(Open());
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+}
+
+TEST_F(CertSessionTest, AFailedInitializationIsShownInAnErrorBoxWithTheStackOfContextZero) {
+    sessions_.initializeStatus = 0xE0000005;
+    Reports().provider.SetErrorText(0xE0000005, "No such profile.");
+    Reports().provider.PushError(0, {"Bad name", "init.c", 4, "first"});
+    EXPECT_FALSE(Open());
+    EXPECT_THAT(warnings_.warnings,
+                ElementsAre(ShownWarning{owner_,
+                                         L"Cryptocontext initialization.\r\n"
+                                         L"XSIG error 0xE0000005 - No such profile.\r\n\r\n"
+                                         L"XSIG stek, error number 1\r\nError: Bad name\r\nFile: init.c\r\n"
+                                         L"Data: first\r\n",
+                                         L"", WarningMode::kError}));
+    EXPECT_THAT(sessions_.log,
+                ElementsAre("show wait window", "initialize", "destroy wait window", "warning"));
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(CertSessionTest, AnEmptyErrorStackAddsNothing) {
+    sessions_.initializeStatus = 0xFFFFFFFF;
+    EXPECT_FALSE(Open());
+    ASSERT_EQ(warnings_.warnings.size(), 1U);
+    EXPECT_EQ(warnings_.warnings[0].text,
+              L"Cryptocontext initialization.\r\nError 0xFFFFFFFF - Bad parameter.\r\n\r\n");
+}
+
+TEST_F(CertSessionTest, AMissingLibraryIsReportedOnceWithTheSystemsCodeAndNoWindowIsShown) {
+    Reports().provider.MakeMissing();
+    EXPECT_FALSE(Open());
+    EXPECT_THAT(Boxes(), ElementsAre(ShownBox{owner_,
+                                              L"Loading crypto provider library (tarn1.dll).\r\n"
+                                              L"Error 0x7E - System text 126.",
+                                              AppTitle, kErrorStyle}));
+    EXPECT_THAT(sessions_.log, IsEmpty());
+    EXPECT_FALSE(Open());
+    EXPECT_EQ(Boxes().size(), 2U);
+}
+
+TEST_F(CertSessionTest, AnAnsweringNetworkStoreMayBeSearched) {
+    profile_.notUseDirectory = {0};
+    const std::optional<CertSession> session = Open();
+    ASSERT_TRUE(session);
+    EXPECT_TRUE(session->isNetworkStoreAvailable);
+    EXPECT_THAT(sessions_.log,
+                ElementsAre("show wait window", "initialize", "destroy wait window", "find", "free result"));
+}
+
+TEST_F(CertSessionTest, GoesOnWithoutANetworkStoreIfTheUserWants) {
+    profile_.notUseDirectory = {0};
+    sessions_.findStatus = 0xE0700001;
+    Reports().presenter.AnswerNext(kAnswerOk);
+    const std::optional<CertSession> session = Open();
+    ASSERT_TRUE(session);
+    EXPECT_FALSE(session->isNetworkStoreAvailable);
+}
+
+TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheNetworkStore) {
+    profile_.notUseDirectory = {0};
+    profile_.notLoadCrl = {0};
+    sessions_.findStatus = 0xE0700001;
+    Reports().presenter.AnswerNext(kAnswerCancel);
+    EXPECT_FALSE(Open());
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+    EXPECT_THAT(sessions_.Controls(), IsEmpty());
+}
+
+TEST_F(CertSessionTest, AFailureToCloseAfterAStopIsReported) {
+    profile_.notUseDirectory = {0};
+    sessions_.findStatus = 0xE0700001;
+    sessions_.uninitializeStatus = 6;
+    Reports().presenter.AnswerNext(kAnswerCancel);
+    EXPECT_FALSE(Open());
+    ASSERT_EQ(Boxes().size(), 2U);
+    EXPECT_EQ(Boxes()[1].text, L"Cryptocontext uninitialization.\r\nError 0x6 - System text 6.");
+}
+
+TEST_F(CertSessionTest, TheRevocationListsAreRefreshedAfterTheNetworkStoreCheck) {
+    profile_.notUseDirectory = {0};
+    profile_.notLoadCrl = {0};
+    ASSERT_TRUE(Open());
+    EXPECT_THAT(sessions_.log, ElementsAre("show wait window", "initialize", "destroy wait window", "find",
+                                           "free result", "control", "uninitialize"));
+}
+
+TEST_F(CertSessionTest, WithAPeriodBelowOneNoRevocationListIsLoaded) {
+    profile_.notLoadCrl = {0};
+    for (const std::int32_t period : {0, -1}) {
+        profile_.crlUpdatePeriods = {period};
+        ASSERT_TRUE(Open());
+    }
+    EXPECT_THAT(sessions_.Controls(), IsEmpty());
+    EXPECT_THAT(registry_.Calls(), IsEmpty());
+    profile_.crlUpdatePeriods = {1};
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(sessions_.Controls().size(), 1U);
+}
+
+TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheRevocationLists) {
+    profile_.notLoadCrl = {0};
+    sessions_.controlStatus = 0xE0700001;
+    sessions_.controlText = "no route";
+    Reports().presenter.AnswerNext(kAnswerCancel);
+    EXPECT_FALSE(Open());
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+}
+
+TEST_F(CertSessionTest, ListsThatAreTooShortGiveTheirDefaults) {
+    profile_ = Profile();
+    const std::optional<CertSession> session = Open(5);
+    ASSERT_TRUE(session);
+    EXPECT_THAT(sessions_.Initializations(), ElementsAre(InitializeCall{"", 0x80000044}));
+    EXPECT_FALSE(session->isNetworkStoreAvailable);
+}
+
+}  // namespace
+}  // namespace corvane::testing

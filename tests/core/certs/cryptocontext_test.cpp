@@ -1,0 +1,81 @@
+#include "certs/cryptocontext.h"
+
+#include <gmock/gmock.h>
+
+#include <optional>
+#include <utility>
+
+#include "app/reporting/app_title.h"
+#include "app/reporting/message_styles.h"
+#include "tests/core/certs/certs_fixture.h"
+
+namespace corvane::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class CryptocontextTest : public CertsFixture {};
+
+TEST_F(CryptocontextTest, IsClosedOnceWithItsEnd) {
+    { const Cryptocontext context = OpenContext(); }
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
+    EXPECT_EQ(sessions_.OpenContexts(), 0U);
+}
+
+TEST_F(CryptocontextTest, ClosedBeforeItsEndItIsClosedOnce) {
+    {
+        Cryptocontext context = OpenContext();
+        context.Close();
+        EXPECT_EQ(context.Get(), 0U);
+        context.Close();
+    }
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
+}
+
+TEST_F(CryptocontextTest, MovedItIsClosedOnceByTheNewOwner) {
+    {
+        std::optional<Cryptocontext> moved;
+        {
+            Cryptocontext context = OpenContext();
+            moved.emplace(std::move(context));
+        }
+        EXPECT_THAT(sessions_.Closed(), IsEmpty());
+        EXPECT_EQ(moved->Get(), ScriptedSessions::kFirstContext);
+    }
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
+}
+
+TEST_F(CryptocontextTest, DroppedItStaysOpen) {
+    {
+        Cryptocontext context = OpenContext();
+        context.Drop();
+        EXPECT_EQ(context.Get(), 0U);
+    }
+    EXPECT_THAT(sessions_.Closed(), IsEmpty());
+    EXPECT_EQ(sessions_.OpenContexts(), 1U);
+}
+
+TEST_F(CryptocontextTest, NoneIsNotClosed) {
+    { const Cryptocontext none(*sessions_.Functions(), 0, Reporter(), owner_); }
+    EXPECT_THAT(sessions_.Closed(), IsEmpty());
+}
+
+TEST_F(CryptocontextTest, ACloseThatFailsIsReportedWithoutItsErrorStackAndCountsAsClosed) {
+    sessions_.uninitializeStatus = 0xE0700010;
+    Reports().provider.SetErrorText(0xE0700010, "Card removed.");
+    Reports().provider.PushError(ScriptedSessions::kFirstContext, {"not asked for", "f", 1, "d"});
+    {
+        Cryptocontext context = OpenContext();
+        context.Close();
+        EXPECT_EQ(context.Get(), 0U);
+    }
+    EXPECT_THAT(Boxes(), ElementsAre(ShownBox{owner_,
+                                              L"Cryptocontext uninitialization.\r\n"
+                                              L"XSIG error 0xE0700010 - Card removed.",
+                                              AppTitle, kErrorStyle}));
+    EXPECT_EQ(Reports().provider.ErrorLineCalls(), 0U);
+}
+
+}  // namespace
+}  // namespace corvane::testing

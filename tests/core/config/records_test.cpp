@@ -1,0 +1,76 @@
+#include "config/records.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+TEST(Records, FreshSettingsHoldTheDefaults) {
+    const AppSettings settings;
+    EXPECT_EQ(settings.window, (WindowRectangle{0, 0, 0, 0}));
+    EXPECT_EQ(settings.signedExtension, L"p7s");
+    EXPECT_EQ(settings.detachedSignatureExtension, L"p7d");
+    EXPECT_EQ(settings.encryptedExtension, L"p7e");
+    EXPECT_EQ(settings.base64Extension, L"b64");
+    EXPECT_EQ(settings.hashExtension, L"hsh");
+    EXPECT_EQ(settings.verificationExtension, L"vrf");
+    EXPECT_EQ(settings.zipExtension, L"zip");
+    EXPECT_EQ(settings.gzipExtension, L"gz");
+    EXPECT_TRUE(settings.additionalExtensions.empty());
+    EXPECT_EQ(settings.logPath, L"");
+    EXPECT_EQ(settings.logFileSize, 4000);
+}
+
+TEST(Records, AFreshProfileWaitsFifteenForItsHandler) {
+    const Profile profile;
+    EXPECT_EQ(profile.handlerTimeout, 15);
+    EXPECT_EQ(profile.verifyFile, 0);
+    EXPECT_EQ(profile.verifyXFile, 0);
+    EXPECT_EQ(profile.verifyDetachedFile, 0);
+    EXPECT_EQ(profile.verifyResignFile, 0);
+    EXPECT_EQ(profile.renameConfFiles, 0);
+    EXPECT_TRUE(profile.rules.empty());
+}
+
+TEST(Records, ACsProfileEntryIsTakenFromAllElevenLists) {
+    Profile profile;
+    profile.csProfiles = {L"first", L"second"};
+    profile.timeStampServers = {L"a", L"b"};
+    profile.autoUseTimeStamp = {0, 11};
+    profile.autoVerifyTimeStamp = {0, 12};
+    profile.noTimeStampIsError = {0, 13};
+    profile.notAddCertificate = {0, 14};
+    profile.notCopyToLocal = {0, 15};
+    profile.notLoadCrl = {0, 16};
+    profile.crlUpdatePeriods = {0, 17};
+    profile.notUseDirectory = {0, 18};
+    profile.useAuthorityAccess = {0, 19};
+    EXPECT_EQ(CsProfileAt(profile, 1), (CsProfile{L"second", L"b", 11, 12, 13, 14, 15, 16, 17, 18, 19}));
+}
+
+TEST(Records, AListThatIsTooShortGivesTheDefaultOfItsField) {
+    Profile profile;
+    profile.csProfiles = {L"only", L"second"};
+    profile.notUseDirectory = {0};
+    const CsProfile entry = CsProfileAt(profile, 1);
+    EXPECT_EQ(entry.name, L"second");
+    EXPECT_EQ(entry.timeStampServer, L"0");
+    EXPECT_EQ(entry.crlUpdatePeriod, 1);
+    EXPECT_EQ(entry.notUseDirectory, 1);
+    EXPECT_EQ(entry.autoUseTimeStamp, 0);
+}
+
+TEST(Records, TheCurrentProfileIsTheFirstOfItsName) {
+    ConfigurationState state;
+    state.profiles.resize(3);
+    state.profiles[0].name = L"Out";
+    state.profiles[1].name = L"In";
+    state.profiles[2].name = L"In";
+    state.currentProfileName = L"In";
+    EXPECT_EQ(FindCurrentProfile(state), &state.profiles[1]);
+    state.currentProfileName = L"in";
+    EXPECT_EQ(FindCurrentProfile(state), nullptr) << "names are compared with their case";
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "editors/rule_form.h"
+
+namespace corvane::testing {
+
+/// A change of operation control by control, in the order in which users of the editor know it to happen: a
+/// second reading of the rules, kept apart from the product's table so that one checks the other.
+void TakeStepsOneByOne(RuleForm& form, const std::wstring& from, const std::wstring& to);
+
+}  // namespace corvane::testing

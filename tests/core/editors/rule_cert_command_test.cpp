@@ -1,0 +1,73 @@
+#include "editors/rule_cert_command.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/core/editors/sample_rules.h"
+#include "tests/support/registry_snapshot.h"
+
+namespace corvane::testing {
+namespace {
+
+TEST(CertButtonCommand, OpensWhatTheOperationNeeds) {
+    for (const std::wstring code : kCodes) {
+        const CertCommand expected = IsOneOf(code, L"ENCR LENC SGEN") ? CertCommand::kChooseRecipients
+                                     : IsOneOf(code, L"CHCK CHKX DCHK RESG DCCX")
+                                         ? CertCommand::kEditSignerLists
+                                     : code == L"MOVE" ? CertCommand::kPickFolder
+                                     : code == L"EXEC" ? CertCommand::kPickExecutable
+                                                       : CertCommand::kNone;
+        EXPECT_EQ(CertButtonCommand(Opened(FullRule(code))), expected) << Printable(code);
+    }
+}
+
+TEST(CertButtonCommand, TheExecutableIsPickedAmongAllFiles) {
+    EXPECT_STREQ(kExecutableFilter, L"All files (*.*)|*.*||");
+    EXPECT_STREQ(kExecutableDefaultExtension, L"*.*");
+}
+
+TEST(SelectedCsProfile, HasTheSettingsOfTheSelectedEntry) {
+    RuleForm form = Opened(FullRule(L"ENCR"));
+    EXPECT_EQ(SelectedCsProfile(form).name, L"Second");
+    EXPECT_EQ(SelectedCsProfile(form).timeStampServer, L"http://second");
+    EXPECT_EQ(SelectedCsProfile(form).notUseDirectory, 0);
+    EXPECT_EQ(SelectedCsProfile(form).crlUpdatePeriod, 24);
+    form.csProfile.index = 0;
+    EXPECT_EQ(SelectedCsProfile(form).name, L"First");
+}
+
+TEST(SelectedCsProfile, WithoutASelectionOrWithShortListsHasTheDefaults) {
+    RuleForm form = Opened(FullRule(L"ENCR"));
+    form.csProfile.index = -1;
+    EXPECT_EQ(SelectedCsProfile(form), CsProfile());
+    form.csProfile.index = 2;
+    form.profile.crlUpdatePeriods.clear();
+    EXPECT_EQ(SelectedCsProfile(form).name, L"Third");
+    EXPECT_EQ(SelectedCsProfile(form).crlUpdatePeriod, 1);
+}
+
+TEST(TakeCertPath, PutsThePathIntoTheCertificateField) {
+    RuleForm form = Opened(FullRule(L"MOVE"));
+    TakeCertPath(form, L"D:\\other");
+    EXPECT_EQ(form.cert.text, L"D:\\other");
+}
+
+TEST(TakeRecipients, ReplacesThemAndShowsTheirNumber) {
+    RuleForm form = Opened(FullRule(L"ENCR"));
+    TakeRecipients(form, {L"CN=X", L"CN=Y", L"CN=Z"});
+    EXPECT_EQ(form.recipients, (corvane::TextList{L"CN=X", L"CN=Y", L"CN=Z"}));
+    EXPECT_EQ(form.cert.text, L"3");
+    TakeRecipients(form, {});
+    EXPECT_EQ(form.cert.text, L"0");
+}
+
+TEST(TakeSignerLists, ReplacesThemAndShowsTheirNumber) {
+    RuleForm form = Opened(FullRule(L"CHCK"));
+    TakeSignerLists(form, {{L"only", {L"CN=X"}}});
+    EXPECT_EQ(form.result.signerGroups, (std::vector<SignerGroup>{{L"only", {L"CN=X"}}}));
+    EXPECT_EQ(form.cert.text, L"1");
+    TakeSignerLists(form, {});
+    EXPECT_EQ(form.cert.text, L"0");
+}
+
+}  // namespace
+}  // namespace corvane::testing

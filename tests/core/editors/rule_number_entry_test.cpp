@@ -1,0 +1,69 @@
+#include "editors/rule_number_entry.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "tests/support/registry_snapshot.h"
+
+namespace corvane::testing {
+namespace {
+
+struct Entry {
+    const wchar_t* text;
+    std::int32_t number;
+    std::optional<std::wstring> correction;
+};
+
+void Expect(const Entry& entry) {
+    NumberField field{.number = 5, .isShown = true};
+    EXPECT_EQ(OnNumberTextChanged(field, entry.text), entry.correction) << Printable(entry.text);
+    EXPECT_EQ(field.number, entry.number) << Printable(entry.text);
+}
+
+TEST(OnNumberTextChanged, ANumberStandsAsItIsTyped) {
+    Expect({L"0", 0, std::nullopt});
+    Expect({L"17", 17, std::nullopt});
+    Expect({L"007", 7, std::nullopt});
+    Expect({L"2147483647", 2147483647, std::nullopt});
+}
+
+TEST(OnNumberTextChanged, AnEmptyFieldIsZeroAndStaysEmpty) {
+    Expect({L"", 0, std::nullopt});
+}
+
+TEST(OnNumberTextChanged, ANegativeNumberBecomesZeroAtOnce) {
+    Expect({L"-1", 0, L"0"});
+    Expect({L"-2147483648", 0, L"0"});
+    Expect({L"-99999999999", 0, L"0"});
+}
+
+TEST(OnNumberTextChanged, ANumberThatDoesNotFitBecomesTheLargestThatDoes) {
+    Expect({L"2147483648", 2147483647, L"2147483647"});
+    Expect({L"4294967295", 2147483647, L"2147483647"});
+    Expect({L"99999999999", 2147483647, L"2147483647"});
+}
+
+TEST(OnNumberTextChanged, PastedTextIsCutDownToItsNumber) {
+    Expect({L"abc", 0, L"0"});
+    Expect({L"12abc", 12, L"12"});
+    Expect({L" 12", 12, L"12"});
+    Expect({L"+12", 12, L"12"});
+    Expect({L"12 ", 12, L"12"});
+    Expect({L"   ", 0, L"0"});
+    Expect({L"1.5", 1, L"1"});
+}
+
+TEST(OnNumberTextChanged, WhatIsPutBackStandsWhenItsOwnChangeIsToldOf) {
+    for (const wchar_t* const text : {L"-1", L"99999999999", L"abc", L"12abc"}) {
+        NumberField field;
+        const std::optional<std::wstring> correction = OnNumberTextChanged(field, text);
+        ASSERT_TRUE(correction.has_value());
+        const std::int32_t number = field.number;
+        EXPECT_EQ(OnNumberTextChanged(field, *correction), std::nullopt);
+        EXPECT_EQ(field.number, number);
+    }
+}
+
+}  // namespace
+}  // namespace corvane::testing

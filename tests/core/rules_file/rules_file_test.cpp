@@ -1,0 +1,95 @@
+#include "config/rules_file.h"
+
+#include <gtest/gtest.h>
+
+#include "config/rules_file_text.h"
+#include "tests/core/rules_file/record_text.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/reporter_fixture.h"
+
+namespace corvane {
+namespace {
+
+using testing::CodePage;
+using testing::MemoryFiles;
+using testing::ReporterFixture;
+
+constexpr wchar_t kPath[] = L"C:\\exchange\\rules.prx";
+
+Rule DescribedRule(const std::wstring& description) {
+    Rule rule;
+    rule.operation = L"MOVE";
+    rule.description = description;
+    return rule;
+}
+
+TEST(WriteRulesFile, TheFileHoldsTheRecordsInTheSystemsCodePage) {
+    MemoryFiles files;
+    ReporterFixture reports(CodePage::kCyrillic);
+    EXPECT_TRUE(
+        WriteRulesFile(kPath, {DescribedRule(L"\x0416\x0431"), Rule()}, files, reports.reporter, nullptr));
+    EXPECT_EQ(files.contents[kPath],
+              "MOVE\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\xC6\xE1\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r"
+              "\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
+    EXPECT_EQ(reports.presenter.Boxes().size(), 0U);
+}
+
+TEST(WriteRulesFile, EveryByteIsWrittenWhereACharacterTakesSeveral) {
+    MemoryFiles files;
+    ReporterFixture reports(CodePage::kShiftJis);
+    EXPECT_TRUE(
+        WriteRulesFile(kPath, {DescribedRule(L"\x65E5\x672C\x8A9E")}, files, reports.reporter, nullptr));
+    EXPECT_EQ(files.contents[kPath],
+              "MOVE\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\x93\xFA\x96\x7B\x8C\xEA\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
+}
+
+TEST(WriteRulesFile, WithoutRulesNoFileIsTouched) {
+    MemoryFiles files;
+    ReporterFixture reports;
+    files.contents[kPath] = "old";
+    EXPECT_TRUE(WriteRulesFile(kPath, {}, files, reports.reporter, nullptr));
+    EXPECT_EQ(files.Calls().size(), 0U);
+    EXPECT_EQ(files.contents[kPath], "old");
+}
+
+TEST(ReadRulesFile, TheImportReadsWhatSuchAnExportWrote) {
+    for (const CodePage codePage :
+         {CodePage::kLatin, CodePage::kCyrillic, CodePage::kShiftJis, CodePage::kUtf8}) {
+        MemoryFiles files;
+        ReporterFixture reports(codePage);
+        const std::vector<Rule> rules = {DescribedRule(L"one"), DescribedRule(L"two"), Rule()};
+        ASSERT_TRUE(WriteRulesFile(kPath, rules, files, reports.reporter, nullptr));
+        const std::optional<std::string> bytes = ReadRulesFile(kPath, files, reports.reporter, nullptr);
+        ASSERT_TRUE(bytes.has_value());
+        EXPECT_EQ(ParseRulesFile(*bytes, reports.text), rules) << static_cast<int>(codePage);
+    }
+}
+
+TEST(ReadRulesFile, CharactersOfSeveralBytesComeBack) {
+    MemoryFiles files;
+    ReporterFixture reports(CodePage::kShiftJis);
+    const std::vector<Rule> rules = {DescribedRule(L"\x65E5\x672C\x8A9E"), DescribedRule(L"last")};
+    ASSERT_TRUE(WriteRulesFile(kPath, rules, files, reports.reporter, nullptr));
+    const std::optional<std::string> bytes = ReadRulesFile(kPath, files, reports.reporter, nullptr);
+    ASSERT_TRUE(bytes.has_value());
+    EXPECT_EQ(ParseRulesFile(*bytes, reports.text), rules);
+}
+
+TEST(ReadRulesFile, ReadingTheSameFileTwiceGivesTheRulesTwice) {
+    MemoryFiles files;
+    ReporterFixture reports;
+    files.contents[kPath] = testing::RecordText(testing::FieldsWith(0, "ENCR"));
+    std::vector<Rule> rules;
+    for (int times = 0; times < 2; ++times) {
+        const std::optional<std::string> bytes = ReadRulesFile(kPath, files, reports.reporter, nullptr);
+        ASSERT_TRUE(bytes.has_value());
+        for (const Rule& rule : ParseRulesFile(*bytes, reports.text)) {
+            rules.push_back(rule);
+        }
+    }
+    ASSERT_EQ(rules.size(), 2U);
+    EXPECT_EQ(rules[0], rules[1]);
+}
+
+}  // namespace
+}  // namespace corvane

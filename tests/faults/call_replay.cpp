@@ -1,0 +1,90 @@
+#include "tests/faults/call_replay.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include "config/registry_calls.h"
+#include "tests/support/store_fixture.h"
+
+namespace corvane::testing {
+
+namespace {
+
+// The name that an enumeration gave is its answer, not its question.
+bool IsSameCall(const RegistryCall& left, const RegistryCall& right) {
+    return left.operation == right.operation && left.keyPath == right.keyPath &&
+           (left.operation == RegistryOperation::kEnumerate || left.name == right.name);
+}
+
+std::string Lines(const std::vector<RegistryCall>& calls) {
+    std::string lines;
+    for (const RegistryCall& call : calls) {
+        lines += Describe(call) + '\n';
+    }
+    return lines;
+}
+
+}  // namespace
+
+std::vector<RegistryCall> WithoutClosing(const std::vector<RegistryCall>& calls) {
+    std::vector<RegistryCall> others;
+    std::copy_if(calls.begin(), calls.end(), std::back_inserter(others),
+                 [](const RegistryCall& call) { return call.operation != RegistryOperation::kClose; });
+    return others;
+}
+
+void ExpectSameCalls(const std::vector<RegistryCall>& expected, const std::vector<RegistryCall>& found) {
+    const std::vector<RegistryCall> others = WithoutClosing(found);
+    if (!std::equal(expected.begin(), expected.end(), others.begin(), others.end(), IsSameCall)) {
+        EXPECT_EQ(Lines(expected), Lines(others));
+    }
+}
+
+RegistrySnapshot Replay(RegistrySnapshot before, const std::vector<RegistryCall>& calls) {
+    for (const RegistryCall& call : calls) {
+        if (call.code != 0) {
+            continue;
+        }
+        if (call.operation == RegistryOperation::kSet) {
+            before[call.keyPath][call.name] = call.written;
+        } else if (call.operation == RegistryOperation::kDelete) {
+            before.erase(call.keyPath);
+        } else if (call.operation == RegistryOperation::kCreate) {
+            for (std::size_t end = call.keyPath.size(); end != std::wstring::npos;
+                 end = call.keyPath.rfind(L'\\', end - 1)) {
+                before[call.keyPath.substr(0, end)];
+            }
+        }
+    }
+    return before;
+}
+
+std::wstring OpenReport(const std::wstring& path, std::uint32_t code) {
+    return ReportText(L"Create (open) register key HKEY_CURRENT_USER\\" + path, code);
+}
+
+std::wstring SearchReport(const std::wstring& path, std::uint32_t code) {
+    return ReportText(L"Search register key HKEY_CURRENT_USER\\" + path + L" subkeys", code);
+}
+
+std::wstring DeleteReport(const std::wstring& path, std::uint32_t code) {
+    return ReportText(L"Delete register key HKEY_CURRENT_USER\\" + path, code);
+}
+
+std::wstring ReadReport(const std::wstring& kind, const std::wstring& name, std::uint32_t code) {
+    return ReportText(L"Reading " + kind + L" value '" + name + L"' from register", code);
+}
+
+std::wstring WriteReport(const RegistryCall& set, std::uint32_t code) {
+    std::wstring kind = L"multistring";
+    if (set.written.type == kTypeNumber) {
+        kind = L"integer";
+    } else if (set.written.type == kTypeText) {
+        kind = L"string";
+    }
+    return ReportText(L"Writing " + kind + L" value '" + set.name + L"' into register", code);
+}
+
+}  // namespace corvane::testing

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "tests/support/memory_registry.h"
+#include "tests/support/registry_snapshot.h"
+
+namespace corvane::testing {
+
+/// The codes with which calls fail, each plausible for some reason of the system's.
+inline constexpr std::uint32_t kFailureCodes[] = {2, 5, 13, 87, 234, 1018};
+
+/// The calls without the closing ones. Those do not matter for what a load or save does; that every key is
+/// closed is counted.
+[[nodiscard]] std::vector<RegistryCall> WithoutClosing(const std::vector<RegistryCall>& calls);
+
+/// Expects that `found` are the calls `expected`, which have no closing ones, whatever they answered.
+void ExpectSameCalls(const std::vector<RegistryCall>& expected, const std::vector<RegistryCall>& found);
+
+/// What is stored after the successful calls among `calls`, starting from `before`.
+[[nodiscard]] RegistrySnapshot Replay(RegistrySnapshot before, const std::vector<RegistryCall>& calls);
+
+/// The texts of reports, by what a call was about.
+[[nodiscard]] std::wstring OpenReport(const std::wstring& path, std::uint32_t code);
+[[nodiscard]] std::wstring SearchReport(const std::wstring& path, std::uint32_t code);
+[[nodiscard]] std::wstring DeleteReport(const std::wstring& path, std::uint32_t code);
+[[nodiscard]] std::wstring ReadReport(const std::wstring& kind, const std::wstring& name, std::uint32_t code);
+[[nodiscard]] std::wstring WriteReport(const RegistryCall& set, std::uint32_t code);
+
+}  // namespace corvane::testing

@@ -1,0 +1,244 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <set>
+
+#include "tests/faults/call_replay.h"
+#include "tests/faults/stored_configuration.h"
+#include "tests/support/store_fixture.h"
+
+// Each registry call of a load fails once, with each code. What is then owed follows from the kind of the
+// call and from the value it was about, as the clean run recorded them, and from nothing of the product.
+
+namespace corvane::testing {
+namespace {
+
+struct Outcome {
+    bool result = false;
+    std::vector<RegistryCall> calls;
+    std::vector<std::wstring> reports;
+    RegistrySnapshot stored;
+    ConfigurationState state;
+    std::size_t keysLeftOpen = 0;
+    std::size_t misuses = 0;
+};
+
+using Preparation = std::function<void(MemoryRegistry&)>;
+
+Outcome Load(const Preparation& prepare) {
+    ReporterFixture reports;
+    MemoryRegistry registry;
+    prepare(registry);
+    Outcome outcome;
+    {
+        RegistryAccess access(registry, reports.reporter);
+        outcome.result = LoadConfiguration(outcome.state, access, reports.reporter, nullptr);
+    }
+    outcome.calls = registry.Calls();
+    for (const ShownBox& box : reports.presenter.Boxes()) {
+        outcome.reports.push_back(box.text);
+    }
+    outcome.stored = registry.Snapshot();
+    outcome.keysLeftOpen = registry.OpenKeys();
+    outcome.misuses = registry.Misuses();
+    return outcome;
+}
+
+bool IsNumber(const std::wstring& name) {
+    static const std::set<std::wstring> kNumbers = {
+        L"Window_top",        L"Window_bottom", L"Window_left",     L"Window_right",       L"Log filesize",
+        L"Verify File",       L"Verify x file", L"Verify det file", L"Verify resign file", L"Handler timeout",
+        L"Rename conf files", L"ArchCount",     L"ArchSize",        L"ArchTimeout",        L"ExecTimeout",
+        L"Mask num",          L"Ext num",       L"Is on",           L"In format det",      L"Out format det",
+        L"ZipFile",           L"Signer Num"};
+    return kNumbers.contains(name);
+}
+
+// The letter in front of the elements that a count stands for, or 0.
+wchar_t ElementLetter(const std::wstring& countName) {
+    if (countName == L"Mask num") {
+        return L'M';
+    }
+    if (countName == L"Ext num") {
+        return L'C';
+    }
+    return countName == L"Signer Num" ? L'S' : L'\0';
+}
+
+bool IsElement(const std::wstring& name, wchar_t letter) {
+    return name.size() >= 2 && name[0] == letter && name[1] >= L'0' && name[1] <= L'9';
+}
+
+bool IsReadOf(const RegistryCall& call, const RegistryCall& other) {
+    return call.keyPath == other.keyPath && call.name == other.name;
+}
+
+// What is owed when one call of a clean load fails.
+struct Expectation {
+    bool result = true;
+    std::vector<RegistryCall> calls;  // Without the closing ones.
+    std::vector<std::wstring> reports;
+    const RegistryCall* missingValue = nullptr;  // The records are those of a load without this value.
+};
+
+// The calls that follow a value that came out as its default.
+void AppendAfterDefault(const std::vector<RegistryCall>& clean, std::size_t failed, Expectation& expected) {
+    const RegistryCall& call = clean[failed];
+    const wchar_t letter = ElementLetter(call.name);
+    if (call.name == L"Mask num") {
+        RegistryCall oldMask = call;
+        oldMask.name = L"Mask";
+        oldMask.code = 0;
+        expected.calls.push_back(oldMask);
+    }
+    bool isSameKey = true;
+    for (std::size_t next = failed + 1; next < clean.size(); ++next) {
+        isSameKey = isSameKey && clean[next].keyPath == call.keyPath;
+        const bool isElement = isSameKey && letter != L'\0' && IsElement(clean[next].name, letter);
+        const bool isOldMask = isSameKey && call.name == L"Mask num" && clean[next].name == L"Mask";
+        const bool isDataOfAList =
+            clean[next].operation == RegistryOperation::kQuery &&
+            (call.operation == RegistryOperation::kQuerySize || call.written.type == kTypeTextList) &&
+            IsReadOf(clean[next], call);
+        if (isElement || isOldMask || isDataOfAList) {
+            continue;
+        }
+        expected.calls.push_back(clean[next]);
+        if (call.keyPath == kCatalogue + L"\\{1}" && clean[next].operation == RegistryOperation::kSet &&
+            clean[next].name == L"ZCSProfile") {
+            // The first profile takes the first name of the catalogue, which is empty then.
+            expected.calls.back().written = TextList({L"0"});
+        }
+    }
+}
+
+Expectation Expect(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code) {
+    Expectation expected;
+    const std::vector<RegistryCall> clean = WithoutClosing(allClean);
+    const RegistryCall& call = allClean[failedIndex];
+    if (call.operation == RegistryOperation::kClose) {
+        expected.calls = clean;
+        return expected;
+    }
+    const std::size_t failed =
+        WithoutClosing({allClean.begin(), allClean.begin() + static_cast<std::ptrdiff_t>(failedIndex)})
+            .size();
+    expected.calls.assign(clean.begin(), clean.begin() + static_cast<std::ptrdiff_t>(failed) + 1);
+    expected.calls.back().code = code;
+    const bool isMissing = code == kCodeNotFound || code == kCodeInvalidData;
+    switch (call.operation) {
+        case RegistryOperation::kOpen:
+        case RegistryOperation::kCreate:
+            expected.result = false;
+            expected.reports.push_back(OpenReport(call.keyPath, code));
+            return expected;
+        case RegistryOperation::kEnumerate:
+            expected.result = false;
+            expected.reports.push_back(SearchReport(call.keyPath, code));
+            return expected;
+        case RegistryOperation::kQuerySize:
+            if (!isMissing) {
+                expected.reports.push_back(ReadReport(L"multistring", call.name, code));
+            }
+            break;
+        case RegistryOperation::kQuery:
+            if (failed > 0 && clean[failed - 1].operation == RegistryOperation::kQuerySize &&
+                IsReadOf(clean[failed - 1], call)) {
+                expected.reports.push_back(ReadReport(L"multistring", call.name, code));
+            } else if (!isMissing) {
+                expected.reports.push_back(
+                    ReadReport(IsNumber(call.name) ? L"integer" : L"string", call.name, code));
+            }
+            break;
+        case RegistryOperation::kSet:
+            expected.reports.push_back(WriteReport(call, code));
+            break;
+        default:
+            ADD_FAILURE() << "a load makes no such call: " << Describe(call);
+    }
+    expected.missingValue = &call;
+    AppendAfterDefault(clean, failed, expected);
+    return expected;
+}
+
+// True where each element of `part` is the one of `whole` at its place, and there are not more.
+template <typename Element>
+bool IsBeginning(const std::vector<Element>& part, const std::vector<Element>& whole) {
+    return part.size() <= whole.size() && std::equal(part.begin(), part.end(), whole.begin());
+}
+
+// The records of a load of `stored` without one value.
+ConfigurationState LoadWithout(const RegistrySnapshot& stored, const corvane::TextList& profileNames,
+                               const RegistryCall& missing) {
+    return Load([&](MemoryRegistry& registry) {
+               registry.PutAll(stored);
+               registry.RemoveValue(missing.keyPath, missing.name);
+               // A tree that was put in at once enumerates by name, the one that was loaded does not.
+               registry.PutSubkeysFirst(kProgram, profileNames);
+               const std::wstring ruleWithLists = kProgram + L"\\Mail\\rules\\Rule 0";
+               if (registry.HasKey(ruleWithLists)) {
+                   registry.PutSubkeysFirst(ruleWithLists, {L"Officers"});
+               }
+           })
+        .state;
+}
+
+void FailEveryCallOfALoad(const Preparation& prepare) {
+    const Outcome clean = Load(prepare);
+    ASSERT_TRUE(clean.result);
+    ASSERT_TRUE(clean.reports.empty());
+    MemoryRegistry registryBefore;
+    prepare(registryBefore);
+    const RegistrySnapshot before = registryBefore.Snapshot();
+    for (std::size_t index = 0; index < clean.calls.size(); ++index) {
+        std::optional<ConfigurationState> without;
+        for (const std::uint32_t code : kFailureCodes) {
+            SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
+                         Describe(clean.calls[index]));
+            const Expectation expected = Expect(clean.calls, index, code);
+            const Outcome outcome = Load([&](MemoryRegistry& registry) {
+                prepare(registry);
+                registry.FailCall(index, code);
+            });
+            EXPECT_EQ(outcome.result, expected.result);
+            EXPECT_EQ(outcome.reports, expected.reports);
+            ExpectSameCalls(expected.calls, outcome.calls);
+            const RegistrySnapshot stored = Replay(before, expected.calls);
+            EXPECT_EQ(Differences(stored, outcome.stored), "");
+            EXPECT_EQ(outcome.keysLeftOpen, 0U);
+            EXPECT_EQ(outcome.misuses, 0U);
+            EXPECT_FALSE(outcome.state.isDirty);
+            if (!expected.result) {
+                EXPECT_TRUE(IsBeginning(outcome.state.profiles, clean.state.profiles))
+                    << "a profile was kept that was not read whole";
+                EXPECT_TRUE(IsBeginning(outcome.state.csProfileCatalogue, clean.state.csProfileCatalogue));
+            } else if (expected.missingValue == nullptr) {
+                EXPECT_TRUE(outcome.state == clean.state) << "the records differ from those of a clean load";
+            } else {
+                if (!without) {
+                    without = LoadWithout(stored, clean.state.profileNames, *expected.missingValue);
+                }
+                EXPECT_TRUE(outcome.state == *without)
+                    << "the records differ from those of a load without the value";
+            }
+            if (::testing::Test::HasFailure()) {
+                return;
+            }
+        }
+    }
+}
+
+TEST(LoadConfigurationFaults, EachCallOfALoadFailsWithEachCode) {
+    FailEveryCallOfALoad(PutStoredConfiguration);
+}
+
+TEST(LoadConfigurationFaults, EachCallOfAFirstStartFailsWithEachCode) {
+    FailEveryCallOfALoad([](MemoryRegistry& registry) {
+        registry.PutText(kCatalogue + L"\\{1}", L"ProfileName", L"Main CSP");
+        registry.PutText(kCatalogue + L"\\{2}", L"ProfileName", L"Second CSP");
+    });
+}
+
+}  // namespace
+}  // namespace corvane::testing

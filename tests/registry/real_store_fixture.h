@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "config/load_configuration.h"
+#include "config/registry_access.h"
+#include "config/registry_calls_windows.h"
+#include "config/save_configuration.h"
+#include "tests/registry/own_registry_root.h"
+#include "tests/support/reporter_fixture.h"
+
+namespace corvane::testing {
+
+/// A configuration in memory above the system's registry, under a root of the test's own.
+class RealStore : public ::testing::Test {
+  protected:
+    [[nodiscard]] bool Load() { return LoadConfiguration(state, access, reports.reporter, nullptr); }
+    void Save() { SaveConfiguration(state, restored, access, reports.reporter, nullptr); }
+
+    [[nodiscard]] std::vector<std::wstring> ReportTexts() const {
+        std::vector<std::wstring> texts;
+        for (const ShownBox& box : reports.presenter.Boxes()) {
+            texts.push_back(box.text);
+        }
+        return texts;
+    }
+
+    OwnRegistryRoot root;
+    ReporterFixture reports;
+    WindowsRegistryCalls calls;
+    RegistryAccess access{calls, reports.reporter};
+    ConfigurationState state;
+    WindowRectangle restored;
+};
+
+// Written out here, as other programs know them.
+inline const std::wstring kCatalogue = L"SOFTWARE\\HOLVAN\\tarn\\Profiles";
+inline const std::wstring kProgram = L"SOFTWARE\\HOLVAN\\tarntray";
+
+}  // namespace corvane::testing

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <windows.h>
+
+#include <atomic>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace toolkit::testing {
+
+/// What a message box showed.
+struct ShownBox {
+    std::wstring title;
+    std::wstring text;
+};
+
+/// Reads every message box that the thread it was made in shows, and closes it with OK, from a thread of its
+/// own.
+class BoxCloser {
+  public:
+    BoxCloser();
+    BoxCloser(const BoxCloser&) = delete;
+    BoxCloser& operator=(const BoxCloser&) = delete;
+    BoxCloser(BoxCloser&&) = delete;
+    BoxCloser& operator=(BoxCloser&&) = delete;
+    ~BoxCloser();
+
+    /// Stops looking, and gives what was shown until now.
+    [[nodiscard]] std::vector<ShownBox> Boxes();
+
+  private:
+    void Watch(DWORD threadId);
+
+    std::vector<ShownBox> boxes_;
+    std::atomic<bool> isDone_{false};
+    std::thread watcher_;
+};
+
+}  // namespace toolkit::testing

@@ -1,0 +1,101 @@
+#include "toolkit/icon.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/toolkit/window/test_dialog.h"
+#include "toolkit/window_scale.h"
+
+namespace toolkit {
+namespace {
+
+using testing::TestDialog;
+
+constexpr COLORREF kOf16 = RGB(255, 0, 0);
+constexpr COLORREF kOf32 = RGB(0, 255, 0);
+constexpr COLORREF kOf48 = RGB(0, 0, 255);
+
+// Width and colour of an icon of one colour.
+struct Picture {
+    LONG widthPixels = 0;
+    LONG heightPixels = 0;
+    COLORREF color = 0;
+};
+
+Picture Look(HICON icon) {
+    Picture picture;
+    ICONINFO info = {};
+    if (GetIconInfo(icon, &info) == FALSE) {
+        ADD_FAILURE() << "This is no icon.";
+        return picture;
+    }
+    BITMAP bitmap = {};
+    GetObjectW(info.hbmColor, sizeof bitmap, &bitmap);
+    picture.widthPixels = bitmap.bmWidth;
+    picture.heightPixels = bitmap.bmHeight;
+    const HDC context = CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = SelectObject(context, info.hbmColor);
+    picture.color = GetPixel(context, bitmap.bmWidth / 2, bitmap.bmHeight / 2);
+    SelectObject(context, before);
+    DeleteDC(context);
+    DeleteObject(info.hbmColor);
+    DeleteObject(info.hbmMask);
+    return picture;
+}
+
+TEST(LoadIconResource, TakesThePictureOfTheRequestedSize) {
+    struct Case {
+        int sizePixels;
+        COLORREF color;
+    };
+    for (const Case& entry : {Case{16, kOf16}, Case{32, kOf32}, Case{48, kOf48}}) {
+        const UniqueIcon icon = LoadIconResource(IDI_SQUARE, entry.sizePixels);
+        ASSERT_NE(icon.get(), nullptr) << entry.sizePixels;
+        const Picture picture = Look(icon.get());
+        EXPECT_EQ(picture.widthPixels, entry.sizePixels);
+        EXPECT_EQ(picture.heightPixels, entry.sizePixels);
+        EXPECT_EQ(picture.color, entry.color) << entry.sizePixels << " pixels";
+    }
+}
+
+TEST(LoadIconResource, GivesAlsoASizeThatHasNoPicture) {
+    for (const int sizePixels : {20, 24, 64}) {
+        const UniqueIcon icon = LoadIconResource(IDI_SQUARE, sizePixels);
+        ASSERT_NE(icon.get(), nullptr) << sizePixels;
+        EXPECT_EQ(Look(icon.get()).widthPixels, sizePixels);
+    }
+}
+
+TEST(LoadIconResource, IsEmptyWithoutSuchAResource) {
+    EXPECT_EQ(LoadIconResource(IDI_NOWHERE, 32).get(), nullptr);
+}
+
+TEST(ShowWindowIcons, GivesTheWindowBothInTheSizesOfItsScale) {
+    TestDialog dialog;
+    ASSERT_TRUE(dialog.CreateModeless());
+    UniqueIcon largeIcon;
+    UniqueIcon smallIcon;
+    for (const UINT dotsPerInch : {96U, 144U}) {
+        ShowWindowIcons(dialog.Window(), dotsPerInch, IDI_SQUARE, largeIcon, smallIcon);
+        EXPECT_EQ(SendMessageW(dialog.Window(), WM_GETICON, ICON_BIG, 0),
+                  reinterpret_cast<LRESULT>(largeIcon.get()));
+        EXPECT_EQ(SendMessageW(dialog.Window(), WM_GETICON, ICON_SMALL, 0),
+                  reinterpret_cast<LRESULT>(smallIcon.get()));
+        EXPECT_EQ(Look(largeIcon.get()).widthPixels, SystemMetric(SM_CXICON, dotsPerInch));
+        EXPECT_EQ(Look(smallIcon.get()).widthPixels, SystemMetric(SM_CXSMICON, dotsPerInch));
+    }
+}
+
+TEST(ShowWindowIcons, TheIconsBeforeAreDestroyed) {
+    TestDialog dialog;
+    ASSERT_TRUE(dialog.CreateModeless());
+    UniqueIcon largeIcon;
+    UniqueIcon smallIcon;
+    ShowWindowIcons(dialog.Window(), 96, IDI_SQUARE, largeIcon, smallIcon);
+    const HICON before = largeIcon.get();
+    ShowWindowIcons(dialog.Window(), 144, IDI_SQUARE, largeIcon, smallIcon);
+    ICONINFO info = {};
+    EXPECT_FALSE(GetIconInfo(before, &info));
+}
+
+}  // namespace
+}  // namespace toolkit

@@ -1,0 +1,61 @@
+#include "toolkit/named_mutex.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <thread>
+
+#include "toolkit/handles.h"
+
+namespace toolkit {
+namespace {
+
+// Another program that runs at the same time must not meet these.
+std::wstring OwnName(const wchar_t* what) {
+    return L"Toolkit tests " + std::to_wstring(GetCurrentProcessId()) + L" " + what;
+}
+
+// Whether a thread of its own could take the mutex at once.
+bool IsFreeForOthers(const std::wstring& name) {
+    bool isFree = false;
+    std::thread([&] {
+        const UniqueKernelHandle mutex(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+        isFree = mutex && WaitForSingleObject(mutex.Get(), 0) == WAIT_OBJECT_0;
+    }).join();
+    return isFree;
+}
+
+TEST(NamedMutex, ExistsAsLongAsTheObjectLives) {
+    const std::wstring name = OwnName(L"exists");
+    EXPECT_FALSE(NamedMutex::Exists(name));
+    {
+        const NamedMutex mutex(name);
+        EXPECT_TRUE(mutex.IsHeld());
+        EXPECT_EQ(mutex.FailureCode(), 0U);
+        EXPECT_TRUE(NamedMutex::Exists(name));
+    }
+    EXPECT_FALSE(NamedMutex::Exists(name));
+}
+
+TEST(NamedMutex, IsOwnedFromTheStartAndReleasedInTheEnd) {
+    const std::wstring name = OwnName(L"owned");
+    std::optional<NamedMutex> mutex(name);
+    const UniqueKernelHandle other(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+    ASSERT_TRUE(other);
+    EXPECT_FALSE(IsFreeForOthers(name));
+    mutex.reset();
+    EXPECT_TRUE(IsFreeForOthers(name)) << "released, although others keep it alive";
+}
+
+TEST(NamedMutex, ANameTakenByAnotherKindOfObjectIsAFailureWithItsCode) {
+    const std::wstring name = OwnName(L"event");
+    const UniqueKernelHandle event(CreateEventW(nullptr, FALSE, FALSE, name.c_str()));
+    ASSERT_TRUE(event);
+    EXPECT_FALSE(NamedMutex::Exists(name));
+    const NamedMutex mutex(name);
+    EXPECT_FALSE(mutex.IsHeld());
+    EXPECT_EQ(mutex.FailureCode(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
+}
+
+}  // namespace
+}  // namespace toolkit

@@ -1,0 +1,111 @@
+#include "tests/toolkit/window/test_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace toolkit::testing {
+
+namespace {
+
+// Far beyond what any dialog here needs: it only ends a test whose dialog would never end.
+constexpr UINT kLimitMilliseconds = 30000;
+
+}  // namespace
+
+TestDialog::~TestDialog() {
+    KillTimer(nullptr, idleTimer_);
+    KillTimer(nullptr, limitTimer_);
+}
+
+bool TestDialog::OnInitDialog() {
+    // Timers of the thread, not of the window: they go on when the window is gone.
+    KillTimer(nullptr, limitTimer_);
+    limitTimer_ = SetTimer(nullptr, 0, kLimitMilliseconds, nullptr);
+    if (whenIdle) {
+        idleTimer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
+    }
+    return onInit ? onInit() : Dialog::OnInitDialog();
+}
+
+bool TestDialog::PreTranslateMessage(MSG& message) {
+    if (message.message == WM_TIMER && message.hwnd == nullptr && message.wParam == limitTimer_) {
+        ADD_FAILURE() << "The dialog is still waiting for its end.";
+        EndModal(-2);
+        return true;
+    }
+    if (message.message == WM_TIMER && message.hwnd == nullptr && message.wParam == idleTimer_) {
+        // Timers come after everything else; what has come meanwhile is dealt with first.
+        if (HIWORD(GetQueueStatus(QS_ALLEVENTS & ~QS_TIMER)) == 0 && whenIdle) {
+            KillTimer(nullptr, idleTimer_);
+            std::exchange(whenIdle, nullptr)();
+        }
+        return true;
+    }
+    return (preTranslate && preTranslate(message)) || Dialog::PreTranslateMessage(message);
+}
+
+bool TestDialog::OnCommand(int controlId, UINT notificationCode) {
+    return (onCommand && onCommand(controlId, notificationCode)) ||
+           Dialog::OnCommand(controlId, notificationCode);
+}
+
+bool TestDialog::OnNotify(NMHDR& header, LRESULT& result) {
+    return onNotify ? onNotify(header, result) : Dialog::OnNotify(header, result);
+}
+
+void TestDialog::OnSize(WPARAM kind, int width, int height) {
+    if (onSize) {
+        onSize(kind, width, height);
+    }
+}
+
+void TestDialog::OnMinimumMaximumInfo(MINMAXINFO& info) {
+    if (onMinimumMaximumInfo) {
+        onMinimumMaximumInfo(info);
+    }
+}
+
+bool TestDialog::OnSystemCommand(WPARAM command) {
+    return onSystemCommand ? onSystemCommand(command) : Dialog::OnSystemCommand(command);
+}
+
+bool TestDialog::OnPaint() {
+    return onPaint ? onPaint() : Dialog::OnPaint();
+}
+
+HICON TestDialog::OnQueryDragIcon() {
+    return onQueryDragIcon ? onQueryDragIcon() : Dialog::OnQueryDragIcon();
+}
+
+bool TestDialog::OnQueryEndSession() {
+    return onQueryEndSession ? onQueryEndSession() : Dialog::OnQueryEndSession();
+}
+
+void TestDialog::OnEndSession(bool isEnding) {
+    if (onEndSession) {
+        onEndSession(isEnding);
+    }
+}
+
+void TestDialog::OnScaleChanged() {
+    if (onScaleChanged) {
+        onScaleChanged();
+    }
+}
+
+void TestDialog::ExchangeFields(DataExchange& exchange) {
+    if (exchangeFields) {
+        exchangeFields(exchange);
+    }
+}
+
+void TestDialog::ReportException(const std::exception& exception) {
+    if (reportException) {
+        reportException(exception);
+    } else {
+        reported.emplace_back(exception.what());
+    }
+}
+
+}  // namespace toolkit::testing

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <utility>
+
+namespace toolkit {
+
+/// Base class of a program: start, end, and the last resort for what nobody else could handle.
+class Application {
+  public:
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+    Application(Application&&) = delete;
+    Application& operator=(Application&&) = delete;
+    virtual ~Application() = default;
+
+    /// Runs the program from InitInstance to ExitInstance and returns its exit code. A program whose main
+    /// window is a modal dialog has done everything by the time InitInstance returns. An exception that gets
+    /// here ends the program, but never without a word: the user is told in one message box.
+    int Run();
+
+    /// The key under which the toolkit would keep settings of its own.
+    void SetRegistryKey(std::wstring key) { registryKey_ = std::move(key); }
+    [[nodiscard]] const std::wstring& RegistryKey() const { return registryKey_; }
+
+  protected:
+    Application() = default;
+
+    /// Does the program's work, or its beginning. False when it could not start.
+    virtual bool InitInstance();
+    /// Called last; returns the exit code.
+    virtual int ExitInstance();
+    /// Title of the message box of the last resort.
+    [[nodiscard]] virtual std::wstring Title() const = 0;
+
+  private:
+    void TellLastWord(const std::string& reason) const;
+
+    std::wstring registryKey_;
+    int exitCode_ = 0;
+};
+
+}  // namespace toolkit

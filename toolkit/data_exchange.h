@@ -1,0 +1,32 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+
+namespace toolkit {
+
+/// Copies between the controls of a dialog and the fields that stand for them, in the one direction that it
+/// was made for. A dialog names each control once, with its field, and this list serves both directions.
+/// It copies and does nothing else: it does not judge, move the focus or throw.
+class DataExchange {
+  public:
+    enum class Direction { kToControls, kFromControls };
+
+    DataExchange(HWND dialog, Direction direction) : dialog_(dialog), direction_(direction) {}
+
+    /// The text of an edit, static or button. A control that shows the text already is left alone, so that
+    /// its caret and selection stay.
+    void Text(int controlId, std::wstring& field) const;
+
+    /// A 32-bit number in decimal. Text that is no number reads as 0, one that does not fit as the nearest
+    /// that does.
+    void Number(int controlId, std::int32_t& field) const;
+
+  private:
+    HWND dialog_;
+    Direction direction_;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,180 @@
+#include "toolkit/list_view.h"
+
+namespace toolkit {
+
+namespace {
+
+/// The messages take texts that they only read through a pointer without const.
+wchar_t* Unconst(const std::wstring& text) {
+    return const_cast<wchar_t*>(text.c_str());
+}
+
+}  // namespace
+
+void ListView::AddExtendedStyles(DWORD styles) const {
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, styles, static_cast<LPARAM>(styles));
+}
+
+void ListView::InsertColumn(int position, const std::wstring& title) const {
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT | LVCF_FMT;
+    column.fmt = LVCFMT_LEFT;
+    column.pszText = Unconst(title);
+    Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&column));
+}
+
+void ListView::SetColumnWidth(int column, int widthPixels) const {
+    Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), widthPixels);
+}
+
+int ListView::ClientWidth() const {
+    RECT client = {};
+    GetClientRect(control_, &client);
+    return client.right;
+}
+
+int ListView::RowCount() const {
+    return static_cast<int>(Send(LVM_GETITEMCOUNT));
+}
+
+void ListView::AppendRow(const std::wstring& text) const {
+    LVITEMW item = {};
+    item.mask = LVIF_TEXT;
+    item.iItem = RowCount();
+    item.pszText = Unconst(text);
+    Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+void ListView::AppendRowsOnRequest(std::size_t count) const {
+    const int first = RowCount();
+    Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(first) + count);
+    LVITEMW item = {};
+    item.mask = LVIF_TEXT;
+    item.pszText = LPSTR_TEXTCALLBACKW;
+    for (std::size_t row = 0; row < count; ++row) {
+        item.iItem = first + static_cast<int>(row);
+        Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+}
+
+void ListView::DeleteRow(int row) const {
+    Send(LVM_DELETEITEM, static_cast<WPARAM>(row));
+}
+
+void ListView::DeleteAllRows() const {
+    Send(LVM_DELETEALLITEMS);
+}
+
+void ListView::SetRowText(int row, const std::wstring& text) const {
+    LVITEMW item = {};
+    item.pszText = Unconst(text);
+    Send(LVM_SETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+std::wstring ListView::RowText(int row) const {
+    std::wstring text(256, L'\0');
+    for (;;) {
+        LVITEMW item = {};
+        item.pszText = text.data();
+        item.cchTextMax = static_cast<int>(text.size());
+        const auto length = static_cast<std::size_t>(
+            Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
+        if (length + 1 < text.size()) {
+            text.resize(length);
+            return text;
+        }
+        text.resize(text.size() * 2);
+    }
+}
+
+int ListView::FindRow(const std::wstring& text) const {
+    LVFINDINFOW find = {};
+    find.flags = LVFI_STRING;
+    find.psz = text.c_str();
+    return static_cast<int>(Send(LVM_FINDITEMW, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&find)));
+}
+
+int ListView::FirstSelectedRow() const {
+    return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_SELECTED, 0)));
+}
+
+std::vector<std::size_t> ListView::SelectedRows() const {
+    std::vector<std::size_t> rows;
+    for (int row = FirstSelectedRow(); row >= 0;
+         row = static_cast<int>(
+             Send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), MAKELPARAM(LVNI_SELECTED, 0)))) {
+        rows.push_back(static_cast<std::size_t>(row));
+    }
+    return rows;
+}
+
+void ListView::SelectOnly(int row) const {
+    if (row < 0 || row >= RowCount()) {
+        return;
+    }
+    SetState(-1, 0, LVIS_SELECTED);
+    SetState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    // Extending the selection with Shift starts here.
+    Send(LVM_SETSELECTIONMARK, 0, row);
+}
+
+void ListView::AddToSelection(int row) const {
+    SetState(row, LVIS_SELECTED, LVIS_SELECTED);
+}
+
+void ListView::MarkFocus(int row) const {
+    SetState(row, LVIS_FOCUSED, LVIS_FOCUSED);
+}
+
+void ListView::ScrollIntoView(int row) const {
+    if (row >= 0 && row < RowCount()) {
+        Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    }
+}
+
+void ListView::Focus() const {
+    SetFocus(control_);
+}
+
+void ListView::SetChecked(int row, bool isChecked) const {
+    SetState(row, INDEXTOSTATEIMAGEMASK(isChecked ? 2U : 1U), LVIS_STATEIMAGEMASK);
+}
+
+int ListView::CheckState(int row) const {
+    const LRESULT state = Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK);
+    constexpr int kStateImageShift = 12;
+    return static_cast<int>(state >> kStateImageShift) - 1;
+}
+
+void ListView::SetState(int row, UINT state, UINT mask) const {
+    LVITEMW item = {};
+    item.state = state;
+    item.stateMask = mask;
+    Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+int ListView::TopRow() const {
+    return static_cast<int>(Send(LVM_GETTOPINDEX));
+}
+
+void ListView::ScrollTo(int topRow) const {
+    const int shown = TopRow();
+    if (RowCount() == 0 || topRow == shown) {
+        return;
+    }
+    RECT row = {};
+    row.left = LVIR_BOUNDS;
+    Send(LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+    Send(LVM_SCROLL, 0, static_cast<LPARAM>(topRow - shown) * (row.bottom - row.top));
+}
+
+ListView::RedrawLock::RedrawLock(const ListView& list) : control_(list.control_) {
+    SendMessageW(control_, WM_SETREDRAW, FALSE, 0);
+}
+
+ListView::RedrawLock::~RedrawLock() {
+    SendMessageW(control_, WM_SETREDRAW, TRUE, 0);
+    RedrawWindow(control_, nullptr, nullptr, RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+}  // namespace toolkit

@@ -1,0 +1,16 @@
+#include "toolkit/message_presenter_windows.h"
+
+#include <windows.h>
+
+namespace toolkit {
+
+int WindowsMessagePresenter::Show(WindowHandle owner, const std::wstring& text, const std::wstring& title,
+                                  std::uint32_t style) {
+    return MessageBoxW(owner, text.c_str(), title.c_str(), style);
+}
+
+bool WindowsMessagePresenter::IsLive(WindowHandle window) const {
+    return IsWindow(window) != FALSE;
+}
+
+}  // namespace toolkit
