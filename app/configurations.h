@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "app/services.h"
 #include "config/records.h"
 #include "toolkit/window_handle.h"
 
@@ -10,6 +11,7 @@ namespace corvane {
 /// Lets the user edit the file name extensions of the settings. Returns the settings with the new
 /// extensions, or none when the user cancels.
 [[nodiscard]] std::optional<AppSettings> EditConfigurations(toolkit::WindowHandle owner,
-                                                            const AppSettings& settings);
+                                                            const AppSettings& settings,
+                                                            const Services& services);
 
 }  // namespace corvane

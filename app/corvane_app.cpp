@@ -11,6 +11,8 @@
 #include "app/services.h"
 #include "app/start_texts.h"
 #include "certs/provider/provider_library_windows.h"
+#include "certs/system_clock.h"
+#include "certs/warning_box_presenter.h"
 #include "config/registry_calls_windows.h"
 #include "toolkit/file_calls_windows.h"
 #include "toolkit/message_presenter_windows.h"
@@ -49,8 +51,28 @@ bool CCorvaneApp::InitInstance() {
     toolkit::ShellManager shell;
     toolkit::WindowsFileCalls files;
     WindowsRegistryCalls registry;
-    const Services services = {
-        .messages = messages, .files = files, .shell = shell, .registry = registry, .reporter = reporter};
+    WarningBoxPresenter warnings;
+    const SystemClock clock;
+    const CertServices certs = {.provider = provider,
+                                .reporter = reporter,
+                                .warnings = warnings,
+                                .registry = registry,
+                                .clock = clock};
+    AcceptedCsProfile acceptedCsProfile;
+    ShownCsProfile shownCsProfile;
+    const EditorServices editors = {.messages = messages,
+                                    .files = files,
+                                    .shell = shell,
+                                    .reporter = reporter,
+                                    .certs = certs,
+                                    .acceptedCsProfile = acceptedCsProfile,
+                                    .shownCsProfile = shownCsProfile};
+    const Services services = {.messages = messages,
+                               .files = files,
+                               .shell = shell,
+                               .registry = registry,
+                               .reporter = reporter,
+                               .editors = editors};
     CCorvaneDlg(services).RunModal();
     return true;
 }

@@ -41,7 +41,8 @@ CCorvaneDlg::CCorvaneDlg(const Services& services)
     : Dialog(IDD_MAIN_WINDOW, nullptr),
       services_(services),
       registry_(services.registry, services.reporter),
-      ruleList_(state_) {}
+      ruleList_(state_),
+      buttonIcons_(kButtonIconSize) {}
 
 bool CCorvaneDlg::OnInitDialog() {
     RememberSize();
@@ -106,14 +107,9 @@ void CCorvaneDlg::SetUpCaptions() {
 
 void CCorvaneDlg::SetUpIcons() {
     toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
-    const int size = MulDiv(kButtonIconSize, static_cast<int>(DotsPerInch()), USER_DEFAULT_SCREEN_DPI);
-    std::vector<toolkit::UniqueIcon> icons;
     for (const ButtonIcon& button : kButtonIcons) {
-        icons.push_back(toolkit::LoadIconResource(button.iconId, size));
-        SendDlgItemMessageW(Window(), button.buttonId, BM_SETIMAGE, IMAGE_ICON,
-                            reinterpret_cast<LPARAM>(icons.back().get()));
+        buttonIcons_.Show(Window(), DotsPerInch(), button.buttonId, button.iconId);
     }
-    buttonIcons_ = std::move(icons);
 }
 
 void CCorvaneDlg::RememberSize() {
@@ -281,7 +277,7 @@ void CCorvaneDlg::EditLogSettings() {
 }
 
 void CCorvaneDlg::EditExtensions() {
-    std::optional<AppSettings> edited = EditConfigurations(Window(), state_.settings);
+    std::optional<AppSettings> edited = EditConfigurations(Window(), state_.settings, services_);
     if (edited) {
         state_.settings = std::move(*edited);
         state_.isDirty = true;

@@ -8,6 +8,7 @@
 #include "app/services.h"
 #include "config/records.h"
 #include "config/registry_access.h"
+#include "toolkit/button_icons.h"
 #include "toolkit/dialog.h"
 #include "toolkit/icon.h"
 #include "toolkit/list_view.h"
@@ -92,7 +93,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     toolkit::ResizeTracker tracker_;
     toolkit::UniqueIcon largeIcon_;
     toolkit::UniqueIcon smallIcon_;
-    std::vector<toolkit::UniqueIcon> buttonIcons_;
+    toolkit::ButtonIcons buttonIcons_;
 
     // The fields of the controls.
     std::wstring profileCaption_;

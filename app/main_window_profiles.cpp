@@ -47,7 +47,7 @@ void CCorvaneDlg::AddProfile() {
         services_.reporter.ShowMessage(Window(), std::wstring(kNoCsProfilesText), kRefusalStyle);
         return;
     }
-    std::optional<EditedProfile> edited = EditProfile(Window(), state_, Profile());
+    std::optional<EditedProfile> edited = EditProfile(Window(), state_, Profile(), services_.editors);
     if (edited) {
         AppendProfile(state_, std::move(edited->profile));
         FillProfileList();
@@ -59,7 +59,7 @@ void CCorvaneDlg::EditCurrentProfile() {
     if (HasNoProfileToEdit(state_) || current == nullptr) {
         return;
     }
-    std::optional<EditedProfile> edited = EditProfile(Window(), state_, *current);
+    std::optional<EditedProfile> edited = EditProfile(Window(), state_, *current, services_.editors);
     if (!edited) {
         return;
     }

@@ -39,8 +39,8 @@ void CCorvaneDlg::AddRule() {
     if (state_.currentProfileName.empty() || current == nullptr) {
         return;
     }
-    std::optional<Rule> rule =
-        EditRule(Window(), *current, BuildMaskSuggestions(state_.settings, current->rules), Rule());
+    std::optional<Rule> rule = EditRule(
+        Window(), *current, BuildMaskSuggestions(state_.settings, current->rules), Rule(), services_.editors);
     if (!rule) {
         return;
     }
@@ -57,7 +57,8 @@ void CCorvaneDlg::EditSelectedRule() {
         return;
     }
     std::optional<Rule> rule =
-        EditRule(Window(), *current, BuildMaskSuggestions(state_.settings, current->rules), *selected);
+        EditRule(Window(), *current, BuildMaskSuggestions(state_.settings, current->rules), *selected,
+                 services_.editors);
     if (!rule) {
         return;
     }

@@ -17,6 +17,7 @@ namespace {
 
 toolkit::FileDialogOffer RulesFileOffer(const std::wstring& proposedName) {
     return {.fileName = proposedName,
+            .folder = L"",
             .defaultExtension = kRulesFileExtension,
             .filter = toolkit::FormatText(L"%s (*.%s)|*.%s|All files (*.*)|*.*||",
                                           {L"Profiles", kRulesFileExtension, kRulesFileExtension})};

@@ -2,6 +2,7 @@
 
 #include "app/reporting/error_reporter.h"
 #include "config/registry_calls.h"
+#include "editors/editor_services.h"
 #include "toolkit/file_calls.h"
 #include "toolkit/message_presenter.h"
 #include "toolkit/shell_manager.h"
@@ -15,6 +16,7 @@ struct Services {
     toolkit::ShellManager& shell;
     RegistryCalls& registry;
     ErrorReporter& reporter;
+    const EditorServices& editors;
 };
 
 }  // namespace corvane

@@ -3,7 +3,7 @@
 namespace corvane {
 
 std::optional<EditedProfile> EditProfile(toolkit::WindowHandle /*owner*/, const ConfigurationState& /*state*/,
-                                         const Profile& /*profile*/) {
+                                         const Profile& /*profile*/, const EditorServices& /*services*/) {
     // The program has no dialog for this yet, so the command ends like a cancelled one.
     return std::nullopt;
 }

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "config/records.h"
+#include "editors/editor_services.h"
 #include "toolkit/window_handle.h"
 
 namespace corvane {
@@ -17,6 +18,7 @@ struct EditedProfile {
 /// the other profiles are in `state`. Returns none when the user cancels.
 [[nodiscard]] std::optional<EditedProfile> EditProfile(toolkit::WindowHandle owner,
                                                        const ConfigurationState& state,
-                                                       const Profile& profile);
+                                                       const Profile& profile,
+                                                       const EditorServices& services);
 
 }  // namespace corvane

@@ -25,4 +25,28 @@ void DataExchange::Number(int controlId, std::int32_t& field) const {
     }
 }
 
+void DataExchange::Choice(int controlId, int& field) const {
+    const HWND control = GetDlgItem(dialog_, controlId);
+    if (control == nullptr) {
+        return;
+    }
+    if (direction_ == Direction::kFromControls) {
+        field = static_cast<int>(SendMessageW(control, CB_GETCURSEL, 0, 0));
+    } else {
+        SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(field), 0);
+    }
+}
+
+void DataExchange::Check(int controlId, std::int32_t& field) const {
+    const HWND control = GetDlgItem(dialog_, controlId);
+    if (control == nullptr) {
+        return;
+    }
+    if (direction_ == Direction::kFromControls) {
+        field = SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
+    } else {
+        SendMessageW(control, BM_SETCHECK, field != 0 ? BST_CHECKED : BST_UNCHECKED, 0);
+    }
+}
+
 }  // namespace toolkit

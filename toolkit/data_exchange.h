@@ -24,6 +24,12 @@ class DataExchange {
     /// that does.
     void Number(int controlId, std::int32_t& field) const;
 
+    /// The selected entry of a combo box, -1 for none.
+    void Choice(int controlId, int& field) const;
+
+    /// A check box: 1 while it is checked, else 0. Any number but 0 checks it.
+    void Check(int controlId, std::int32_t& field) const;
+
   private:
     HWND dialog_;
     Direction direction_;

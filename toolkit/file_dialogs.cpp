@@ -35,6 +35,7 @@ std::optional<std::wstring> Ask(const char* functionName, HWND owner, const File
     request.nFilterIndex = 1;
     request.lpstrFile = path.data();
     request.nMaxFile = static_cast<DWORD>(path.size());
+    request.lpstrInitialDir = offer.folder.empty() ? nullptr : offer.folder.c_str();
     request.lpstrDefExt = offer.defaultExtension.c_str();
     // The current folder is not this dialog's to change.
     request.Flags = flags | OFN_EXPLORER | OFN_ENABLESIZING | OFN_NOCHANGEDIR;

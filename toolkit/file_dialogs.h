@@ -9,7 +9,8 @@ namespace toolkit {
 
 /// What a file dialog offers.
 struct FileDialogOffer {
-    std::wstring fileName;          ///< Proposed name, may be empty; ProposedFileName is applied to it.
+    std::wstring fileName;  ///< Proposed name, may be empty; ProposedFileName is applied to it.
+    std::wstring folder;    ///< Where to start when the name has no path; empty leaves it to the system.
     std::wstring defaultExtension;  ///< Without its point.
     std::wstring filter;  ///< Descriptions and patterns in turn, each ended by "|", one more at the end.
 };

@@ -12,6 +12,14 @@ void ToolTip::Create(HWND dialog) {
 }
 
 void ToolTip::Add(HWND control, const wchar_t* text) const {
+    Send(TTM_ADDTOOLW, control, text);
+}
+
+void ToolTip::SetText(HWND control, const wchar_t* text) const {
+    Send(TTM_UPDATETIPTEXTW, control, text);
+}
+
+void ToolTip::Send(UINT message, HWND control, const wchar_t* text) const {
     TTTOOLINFOW tool = {};
     tool.cbSize = sizeof tool;
     tool.uFlags = TTF_IDISHWND;
@@ -19,7 +27,7 @@ void ToolTip::Add(HWND control, const wchar_t* text) const {
     tool.uId = reinterpret_cast<UINT_PTR>(control);
     // The control copies the text; its structure only has no const.
     tool.lpszText = const_cast<wchar_t*>(text);
-    SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(window_, message, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void ToolTip::Activate(bool isActive) const {

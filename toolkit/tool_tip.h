@@ -11,6 +11,8 @@ class ToolTip {
     void Create(HWND dialog);
     /// Gives a control of the dialog its text.
     void Add(HWND control, const wchar_t* text) const;
+    /// Replaces the text of a control that was added before.
+    void SetText(HWND control, const wchar_t* text) const;
     /// Switches all tooltips on or off.
     void Activate(bool isActive) const;
     /// Passes on a message before it is dispatched, so that the control sees the mouse.
@@ -19,6 +21,8 @@ class ToolTip {
     [[nodiscard]] HWND Window() const { return window_; }
 
   private:
+    void Send(UINT message, HWND control, const wchar_t* text) const;
+
     HWND dialog_ = nullptr;
     HWND window_ = nullptr;
 };

@@ -19,7 +19,7 @@ class Audit : public EditorTest {
     void LeaveByEscape(const driver::Window& dialog) const {
         dialog.FocusOfThread().PostKey(VK_ESCAPE);
         dialog.WaitUntilGone();
-        Main().WaitUntilEnabled();
+        WaitForMain();
     }
 };
 

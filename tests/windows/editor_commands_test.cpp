@@ -15,7 +15,7 @@ class GivenUpEditors : public EditorTest {
                 window.WaitUntilGone();
             }
         }
-        Main().WaitUntilEnabled();
+        WaitForMain();
         EXPECT_EQ(Profiles().Column(0), (driver::Texts{L"alpha", L"beta", L"gamma"}));
         EXPECT_EQ(ShownRules(), SampleDescriptions());
         EXPECT_EQ(Control(IDC_PROFILE_CAPTION_EDIT).Text(), L"Profile: alpha");

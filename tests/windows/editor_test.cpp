@@ -59,6 +59,11 @@ void EditorTest::Settle() const {
     }
 }
 
+void EditorTest::WaitForMain() const {
+    main_.WaitUntilEnabled();
+    Settle();
+}
+
 void EditorTest::OpenProfile(const std::wstring& name) const {
     const driver::Texts names = Profiles().Column(0);
     const auto found = std::find(names.begin(), names.end(), name);

@@ -54,6 +54,9 @@ class EditorTest : public ::testing::Test {
 
     /// Comes back when everything that was posted to the window so far has been handled.
     void Settle() const;
+    /// Comes back when the main window is enabled again after a dialog, and the command that showed the
+    /// dialog is through: the window is enabled before the dialog's answer is used.
+    void WaitForMain() const;
     /// Clicks a profile's row and waits until its caption is shown.
     void OpenProfile(const std::wstring& name) const;
     /// Presses a button whose command shows nothing, and waits until it is through.

@@ -21,7 +21,7 @@ class LogSettings : public EditorTest {
     void Close(const driver::Window& dialog, int buttonId) const {
         dialog.Control(buttonId).PostClick();
         dialog.WaitUntilGone();
-        Main().WaitUntilEnabled();
+        WaitForMain();
     }
     /// OK must report this path with this code, and the dialog must stay open as it is.
     void ExpectBadPath(const driver::Window& dialog, const std::wstring& path, unsigned code) const {
@@ -98,12 +98,12 @@ TEST_F(LogSettings, EscapeAndTheCloseBoxDoWhatExitDoes) {
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"5000");
     dialog.FocusOfThread().PostKey(VK_ESCAPE);
     dialog.WaitUntilGone();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"5000");
     dialog.Post(WM_SYSCOMMAND, SC_CLOSE);
     dialog.WaitUntilGone();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     ExpectNothingToSave();
 }
 
@@ -112,7 +112,7 @@ TEST_F(LogSettings, EnterDoesWhatOkDoes) {
     const driver::Window dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).PostKey(VK_RETURN);
     dialog.WaitUntilGone();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     ExpectUnsavedChanges();
 }
 

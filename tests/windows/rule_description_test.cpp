@@ -10,7 +10,7 @@ class RightClick : public EditorTest {
     void ExpectCellBox(int row, int column, const std::wstring& title, const std::wstring& text) const {
         Rules().PostRightClick(Rules().CellCentre(row, column));
         ExpectMessageBox(Main(), text, kInformation, IDOK, title);
-        Main().WaitUntilEnabled();
+        WaitForMain();
     }
     [[nodiscard]] driver::Window OpenExtra(int row) const {
         Rules().PostRightClick(Rules().CellCentre(row, kExtraColumn));
@@ -19,7 +19,7 @@ class RightClick : public EditorTest {
     void CloseExtra(const driver::Window& box) const {
         box.Control(IDCANCEL).PostClick();
         box.WaitUntilGone();
-        Main().WaitUntilEnabled();
+        WaitForMain();
     }
     void ExpectExtra(int row, const std::wstring& text) const {
         const driver::Window box = OpenExtra(row);
@@ -141,12 +141,12 @@ TEST_F(DescriptionBox, IsClosedByEscapeByEnterAndByItsCloseBox) {
         const driver::Window box = OpenExtra(kEncrypt);
         box.FocusOfThread().PostKey(static_cast<WPARAM>(key));
         box.WaitUntilGone();
-        Main().WaitUntilEnabled();
+        WaitForMain();
     }
     const driver::Window box = OpenExtra(kEncrypt);
     box.Post(WM_SYSCOMMAND, SC_CLOSE);
     box.WaitUntilGone();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     ExpectNothingToSave();
 }
 

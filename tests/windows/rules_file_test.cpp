@@ -59,13 +59,11 @@ class RulesFile : public EditorTest {
     }
     void Export(const std::wstring& name) const {
         Choose(OpenFileDialog(IDC_EXPORT_RULES_BUTTON), Path(name));
-        Main().WaitUntilEnabled();
-        Settle();
+        WaitForMain();
     }
     void Import(const std::wstring& name) const {
         Choose(OpenFileDialog(IDC_IMPORT_RULES_BUTTON), Path(name));
-        Main().WaitUntilEnabled();
-        Settle();
+        WaitForMain();
     }
 
   private:
@@ -78,7 +76,7 @@ TEST_F(RulesFile, ExportOffersTheProfilesNameAndTheFileTypes) {
     EXPECT_EQ(dialog.FileName(), L"alpha");
     EXPECT_EQ(dialog.FileTypes(), (Texts{L"Profiles (*.prx)", L"All files (*.*)"}));
     dialog.GiveUp();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     ExpectNothingToSave();
 }
 
@@ -100,7 +98,7 @@ TEST_F(RulesFile, ExportByTheMenuAddsTheExtension) {
     StartWithSample();
     Main().PostMenuCommand(IDM_EXPORT_RULES);
     Choose(driver::FileDialog(Editor().WaitForDialog(Main())), Path(L"without"));
-    Main().WaitUntilEnabled();
+    WaitForMain();
     EXPECT_FALSE(Content(L"without.prx").empty());
 }
 
@@ -126,7 +124,7 @@ TEST_F(RulesFile, ExportOverAnExistingFileAsksFirst) {
     dialog.Confirm();
     Editor().WaitForMessageBox(dialog).Answer(IDYES);
     dialog.WaitUntilGone();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     EXPECT_EQ(Content(L"old.prx").substr(0, 5), "HASH\n");
 }
 
@@ -204,7 +202,7 @@ TEST_F(RulesFile, ImportByTheMenuGivenUpChangesNothing) {
     const driver::FileDialog dialog(Editor().WaitForDialog(Main()));
     EXPECT_EQ(dialog.FileTypes(), (Texts{L"Profiles (*.prx)", L"All files (*.*)"}));
     dialog.GiveUp();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     EXPECT_EQ(ShownRules(), SampleDescriptions());
     EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{kMove});
     ExpectNothingToSave();
@@ -237,7 +235,7 @@ TEST_F(RulesFile, ImportOfAFileThatIsInUseIsReported) {
         driver::MessageBoxOfStyle(ReportText(L"Opening file " + Path(L"locked.prx"), ERROR_SHARING_VIOLATION),
                                   L"QENT AC Velmaris - configuration", kReport));
     driver::MessageBoxWindow(box).Answer(IDOK);
-    Main().WaitUntilEnabled();
+    WaitForMain();
     ExpectNothingToSave();
 }
 

@@ -223,7 +223,7 @@ TEST_F(About, ShowsTheProductAndTheVersion) {
     EXPECT_EQ(LOWORD(box.Send(DM_GETDEFID)), IDOK);
     box.Control(IDOK).PostClick();
     box.WaitUntilGone();
-    Main().WaitUntilEnabled();
+    WaitForMain();
     ExpectNothingToSave();
 }
 

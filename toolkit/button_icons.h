@@ -1,0 +1,33 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+
+#include "toolkit/icon.h"
+
+namespace toolkit {
+
+/// The pictures of a dialog's icon buttons, kept for as long as the buttons show them. A button also keeps
+/// its text, which is its accessible name.
+class ButtonIcons {
+  public:
+    /// `sizePixels` is the side of the icons at 96 dots per inch.
+    explicit ButtonIcons(int sizePixels) : size_(sizePixels) {}
+
+    /// Shows the icon resource on the button, in place of the one it shows (BM_SETIMAGE).
+    void Show(HWND dialog, UINT dotsPerInch, int buttonId, int iconId);
+    /// Loads every icon again, for a dialog that came to another scale.
+    void Rescale(HWND dialog, UINT dotsPerInch);
+
+  private:
+    struct ShownIcon {
+        int iconId = 0;
+        UniqueIcon icon;
+    };
+
+    int size_;
+    std::map<int, ShownIcon> icons_;  ///< By button.
+};
+
+}  // namespace toolkit

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace toolkit {
+
+/// A list box with one selection. Entries count from 0; -1 stands for none.
+class ListBox {
+  public:
+    /// Speaks to the given control; it belongs to its dialog.
+    explicit ListBox(HWND control) : control_(control) {}
+
+    /// Adds an entry: at its place in a list that sorts, else at the end.
+    void Add(const std::wstring& entry) const;
+    void Delete(int index) const;
+    void Clear() const;
+    [[nodiscard]] int Count() const;
+    [[nodiscard]] std::wstring Entry(int index) const;
+    [[nodiscard]] std::vector<std::wstring> Entries() const;
+    /// The entry that shows exactly this text, upper and lower case alike (LB_FINDSTRINGEXACT), or -1.
+    [[nodiscard]] int Find(const std::wstring& text) const;
+    [[nodiscard]] int Selected() const;
+    void Select(int index) const;
+
+  private:
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageW(control_, message, wParam, lParam);
+    }
+
+    HWND control_;
+};
+
+}  // namespace toolkit
