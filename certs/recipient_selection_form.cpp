@@ -264,17 +264,29 @@ bool RecipientSelectionForm::Confirm(const Cryptocontext& context, ErrorReporter
 }
 
 bool RecipientSelectionForm::IsListNameAccepted(ErrorReporter& reporter, toolkit::WindowHandle dialog) const {
-    if (listName.empty()) {
-        reporter.ShowMessage(dialog, L"No list name", kRefusalStyle);
+    const auto refuse = [&reporter, dialog](const wchar_t* text) {
+        reporter.ShowMessage(dialog, std::wstring(text), kRefusalStyle);
         return false;
+    };
+    if (listName.empty()) {
+        return refuse(L"No list name");
     }
-    const bool isTaken = listName != previousListName_ &&
-                         std::any_of(existingLists_.begin(), existingLists_.end(),
-                                     [this](const SignerGroup& list) { return list.name == listName; });
+    // Each list is stored under its name as a registry key, and keys do not know upper from lower case: of
+    // two lists that differ only in that, one would be lost.
+    const std::wstring key = systemText_.UpperCase(listName);
+    const bool isTaken =
+        listName != previousListName_ &&
+        std::any_of(existingLists_.begin(), existingLists_.end(), [this, &key](const SignerGroup& list) {
+            return list.name != previousListName_ && systemText_.UpperCase(list.name) == key;
+        });
     if (isTaken) {
-        reporter.ShowMessage(dialog, L"List with this name already exists", kRefusalStyle);
+        return refuse(L"List with this name already exists");
     }
-    return !isTaken;
+    // It would be stored as a key within a key, where nobody looks for it.
+    if (listName.find(L'\\') != std::wstring::npos) {
+        return refuse(L"List name cannot contain symbol '\\'");
+    }
+    return true;
 }
 
 void RecipientSelectionForm::FillFound() {

@@ -428,9 +428,28 @@ TEST_F(SelectionForm, ASignerListNeedsANameOfItsOwnBeforeAnySearch) {
     EXPECT_THAT(sessions_.Searches(), IsEmpty());
     form.listName = L"one";
     EXPECT_TRUE(Confirm(form)) << "its own name may stay";
-    form.listName = L"Two";
-    EXPECT_TRUE(Confirm(form)) << "letter case tells names apart";
+    form.listName = L"ONE";
+    EXPECT_TRUE(Confirm(form)) << "its own name may change its letter case";
     EXPECT_THAT(form.Result(), ElementsAre(L"CN=A"));
+}
+
+TEST_F(SelectionForm, AListNameThatDiffersFromAnotherOnlyInLetterCaseIsRefused) {
+    RecipientSelectionForm form = SignerForm({L"CN=A"}, {{L"one", {}}, {L"two", {}}}, L"one");
+    withCertificate_ = {"CN=A"};
+    form.listName = L"Two";
+    EXPECT_FALSE(Confirm(form));
+    EXPECT_THAT(Boxes(), ElementsAre(Refusal(L"List with this name already exists")));
+}
+
+TEST_F(SelectionForm, AListNameWithABackslashIsRefusedAfterTheOtherNameChecks) {
+    RecipientSelectionForm form = SignerForm({L"CN=A"}, {{L"one\\two", {}}}, L"");
+    form.listName = L"one\\two";
+    EXPECT_FALSE(Confirm(form));
+    form.listName = L"three\\four";
+    EXPECT_FALSE(Confirm(form));
+    EXPECT_THAT(Boxes(), ElementsAre(Refusal(L"List with this name already exists"),
+                                     Refusal(L"List name cannot contain symbol '\\'")));
+    EXPECT_THAT(sessions_.Searches(), IsEmpty());
 }
 
 TEST_F(SelectionForm, ANewListMayNotTakeAnExistingName) {
