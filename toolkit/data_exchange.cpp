@@ -26,14 +26,22 @@ void DataExchange::Number(int controlId, std::int32_t& field) const {
 }
 
 void DataExchange::Choice(int controlId, int& field) const {
+    Position(controlId, CB_GETCURSEL, CB_SETCURSEL, field);
+}
+
+void DataExchange::Selection(int controlId, int& field) const {
+    Position(controlId, LB_GETCURSEL, LB_SETCURSEL, field);
+}
+
+void DataExchange::Position(int controlId, UINT getMessage, UINT setMessage, int& field) const {
     const HWND control = GetDlgItem(dialog_, controlId);
     if (control == nullptr) {
         return;
     }
     if (direction_ == Direction::kFromControls) {
-        field = static_cast<int>(SendMessageW(control, CB_GETCURSEL, 0, 0));
+        field = static_cast<int>(SendMessageW(control, getMessage, 0, 0));
     } else {
-        SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(field), 0);
+        SendMessageW(control, setMessage, static_cast<WPARAM>(field), 0);
     }
 }
 

@@ -27,10 +27,15 @@ class DataExchange {
     /// The selected entry of a combo box, -1 for none.
     void Choice(int controlId, int& field) const;
 
+    /// The selected entry of a list box, -1 for none.
+    void Selection(int controlId, int& field) const;
+
     /// A check box: 1 while it is checked, else 0. Any number but 0 checks it.
     void Check(int controlId, std::int32_t& field) const;
 
   private:
+    void Position(int controlId, UINT getMessage, UINT setMessage, int& field) const;
+
     HWND dialog_;
     Direction direction_;
 };

@@ -252,7 +252,10 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             return FALSE;
         case WM_GETMINMAXINFO:
-            OnMinimumMaximumInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
+            // On the way to another scale the limits of the old one do not hold.
+            if (!isRescaling_) {
+                OnMinimumMaximumInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
+            }
             return FALSE;
         case WM_SYSCOMMAND:
             return OnSystemCommand(wParam) ? TRUE : FALSE;

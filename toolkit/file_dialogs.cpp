@@ -25,7 +25,7 @@ std::optional<std::wstring> Ask(const char* functionName, HWND owner, const File
     }
     std::wstring filter = offer.filter;
     std::replace(filter.begin(), filter.end(), L'|', L'\0');
-    std::wstring path = ProposedFileName(offer.fileName);
+    std::wstring path = offer.path.empty() ? ProposedFileName(offer.fileName) : offer.path;
     path.resize(kLongestPath);
 
     OPENFILENAMEW request = {};

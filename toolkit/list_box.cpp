@@ -1,17 +1,52 @@
 #include "toolkit/list_box.h"
 
+#include <algorithm>
+
 namespace toolkit {
+
+namespace {
+
+constexpr WPARAM kTextIndent = 4;  // pixels
+
+}  // namespace
 
 void ListBox::Add(const std::wstring& entry) const {
     Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+    FitScrollBar();
 }
 
 void ListBox::Delete(int index) const {
     Send(LB_DELETESTRING, static_cast<WPARAM>(index));
+    FitScrollBar();
 }
 
-void ListBox::Clear() const {
+void ListBox::Fill(const std::vector<std::wstring>& entries) const {
+    Send(WM_SETREDRAW, FALSE);
     Send(LB_RESETCONTENT);
+    for (const std::wstring& entry : entries) {
+        Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+    }
+    Send(WM_SETREDRAW, TRUE);
+    FitScrollBar();
+    InvalidateRect(control_, nullptr, TRUE);
+}
+
+void ListBox::FitScrollBar() const {
+    const HDC context = GetDC(control_);
+    const auto font = reinterpret_cast<HGDIOBJ>(Send(WM_GETFONT));
+    const HGDIOBJ before = font != nullptr ? SelectObject(context, font) : nullptr;
+    LONG widest = 0;
+    for (const std::wstring& entry : Entries()) {
+        SIZE size = {};
+        GetTextExtentPoint32W(context, entry.c_str(), static_cast<int>(entry.size()), &size);
+        widest = std::max(widest, size.cx);
+    }
+    if (before != nullptr) {
+        SelectObject(context, before);
+    }
+    ReleaseDC(control_, context);
+    // The list draws a text a little way in from its edge.
+    Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest) + kTextIndent);
 }
 
 int ListBox::Count() const {

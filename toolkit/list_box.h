@@ -7,7 +7,8 @@
 
 namespace toolkit {
 
-/// A list box with one selection. Entries count from 0; -1 stands for none.
+/// A list box with one selection. Entries count from 0; -1 stands for none. One that has a horizontal scroll
+/// bar (WS_HSCROLL) shows it while an entry is wider than the list.
 class ListBox {
   public:
     /// Speaks to the given control; it belongs to its dialog.
@@ -16,7 +17,10 @@ class ListBox {
     /// Adds an entry: at its place in a list that sorts, else at the end.
     void Add(const std::wstring& entry) const;
     void Delete(int index) const;
-    void Clear() const;
+    /// Puts these entries in place of those it has. Nothing is selected then.
+    void Fill(const std::vector<std::wstring>& entries) const;
+    /// Fits the horizontal scroll bar to the entries; for a list that came to another font.
+    void FitScrollBar() const;
     [[nodiscard]] int Count() const;
     [[nodiscard]] std::wstring Entry(int index) const;
     [[nodiscard]] std::vector<std::wstring> Entries() const;

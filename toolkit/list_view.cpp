@@ -27,10 +27,26 @@ void ListView::SetColumnWidth(int column, int widthPixels) const {
     Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), widthPixels);
 }
 
+int ListView::ColumnWidth(int column) const {
+    return static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
+}
+
 int ListView::ClientWidth() const {
     RECT client = {};
     GetClientRect(control_, &client);
     return client.right;
+}
+
+void ListView::MarkHeading(int column, HeadingMark mark) const {
+    const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
+    HDITEMW item = {};
+    item.mask = HDI_FORMAT;
+    SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+    if (mark != HeadingMark::kNone) {
+        item.fmt |= mark == HeadingMark::kUp ? HDF_SORTUP : HDF_SORTDOWN;
+    }
+    SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
 }
 
 int ListView::RowCount() const {
@@ -91,7 +107,13 @@ int ListView::FindRow(const std::wstring& text) const {
     LVFINDINFOW find = {};
     find.flags = LVFI_STRING;
     find.psz = text.c_str();
-    return static_cast<int>(Send(LVM_FINDITEMW, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&find)));
+    int row = -1;
+    do {
+        row =
+            static_cast<int>(Send(LVM_FINDITEMW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&find)));
+        // The list's own search takes upper and lower case alike.
+    } while (row >= 0 && RowText(row) != text);
+    return row;
 }
 
 int ListView::FirstSelectedRow() const {
@@ -122,8 +144,16 @@ void ListView::AddToSelection(int row) const {
     SetState(row, LVIS_SELECTED, LVIS_SELECTED);
 }
 
+void ListView::RemoveFromSelection(int row) const {
+    SetState(row, 0, LVIS_SELECTED);
+}
+
 void ListView::MarkFocus(int row) const {
     SetState(row, LVIS_FOCUSED, LVIS_FOCUSED);
+}
+
+int ListView::FocusedRow() const {
+    return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), MAKELPARAM(LVNI_FOCUSED, 0)));
 }
 
 void ListView::ScrollIntoView(int row) const {

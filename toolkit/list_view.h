@@ -10,6 +10,9 @@
 
 namespace toolkit {
 
+/// The mark in a column's heading that tells the order of the rows.
+enum class HeadingMark { kNone, kUp, kDown };
+
 /// A list view control in report style. Rows and columns count from 0; -1 stands for no row.
 class ListView {
   public:
@@ -20,7 +23,9 @@ class ListView {
     void AddExtendedStyles(DWORD styles) const;
     void InsertColumn(int position, const std::wstring& title) const;
     void SetColumnWidth(int column, int widthPixels) const;
+    [[nodiscard]] int ColumnWidth(int column) const;
     [[nodiscard]] int ClientWidth() const;
+    void MarkHeading(int column, HeadingMark mark) const;
 
     [[nodiscard]] int RowCount() const;
     /// Appends a row that keeps its own text.
@@ -32,7 +37,7 @@ class ListView {
     void DeleteAllRows() const;
     void SetRowText(int row, const std::wstring& text) const;
     [[nodiscard]] std::wstring RowText(int row) const;
-    /// The first row whose first column shows exactly this text, upper and lower case alike, or -1.
+    /// The first row whose first column shows exactly this text, or -1.
     [[nodiscard]] int FindRow(const std::wstring& text) const;
 
     [[nodiscard]] int FirstSelectedRow() const;
@@ -40,8 +45,11 @@ class ListView {
     /// Makes this the only selected row, with the focus mark on it; nothing when there is no such row.
     void SelectOnly(int row) const;
     void AddToSelection(int row) const;
+    void RemoveFromSelection(int row) const;
     /// Puts the focus mark on the row, from where arrow keys go on, without selecting it.
     void MarkFocus(int row) const;
+    /// The row with the focus mark, or -1.
+    [[nodiscard]] int FocusedRow() const;
     void ScrollIntoView(int row) const;
     void Focus() const;
 

@@ -103,6 +103,14 @@ TEST_F(DialogScale, ThereAndBackGivesTheSamePlacesAndFont) {
     ExpectPlace(frame, frameBefore_, 0, 0);
 }
 
+TEST_F(DialogScale, TheLimitsOfTheOldScaleDoNotHoldOnTheWay) {
+    dialog_.onMinimumMaximumInfo = [](MINMAXINFO& info) { info.ptMinTrackSize = {10000, 10000}; };
+    MoveToScreenOf(after_, LargerFrame());
+    RECT frame = {};
+    GetWindowRect(dialog_.Window(), &frame);
+    ExpectPlace(frame, LargerFrame(), 0, 0);
+}
+
 TEST_F(DialogScale, OnSizeIsSilentMeanwhileAndOnScaleChangedIsCalledOnce) {
     int sizes = 0;
     int changes = 0;

@@ -165,11 +165,13 @@ TEST_F(ListViewTest, LongTextsThatAreAskedForStayWhole) {
     }
 }
 
-TEST_F(ListViewTest, ARowIsFoundByItsWholeTextInUpperOrLowerCase) {
-    AppendRows({L"alphabet", L"Alpha", L"alpha", L"Жук"});
-    EXPECT_EQ(list_.FindRow(L"ALPHA"), 1) << "the first one";
+TEST_F(ListViewTest, ARowIsFoundByItsWholeTextInItsOwnCase) {
+    AppendRows({L"alphabet", L"Alpha", L"alpha", L"Жук", L"alpha"});
+    EXPECT_EQ(list_.FindRow(L"alpha"), 2) << "the first one";
+    EXPECT_EQ(list_.FindRow(L"ALPHA"), -1);
     EXPECT_EQ(list_.FindRow(L"alphabet"), 0);
-    EXPECT_EQ(list_.FindRow(L"жУК"), 3);
+    EXPECT_EQ(list_.FindRow(L"Жук"), 3);
+    EXPECT_EQ(list_.FindRow(L"жУК"), -1);
     EXPECT_EQ(list_.FindRow(L"alph"), -1) << "a beginning is not enough";
     EXPECT_EQ(list_.FindRow(L"pha"), -1);
     list_.DeleteAllRows();
@@ -206,6 +208,39 @@ TEST_F(ListViewTest, TheFocusMarkSelectsNothing) {
     list_.MarkFocus(2);
     EXPECT_EQ(list_.SelectedRows(), Rows{0});
     EXPECT_EQ(ListView_GetNextItem(list_.Window(), -1, LVNI_FOCUSED), 2);
+}
+
+TEST_F(ListViewTest, TheFocusMarkIsFoundAgain) {
+    AppendRows({L"one", L"two"});
+    EXPECT_EQ(list_.FocusedRow(), -1);
+    list_.MarkFocus(1);
+    EXPECT_EQ(list_.FocusedRow(), 1);
+}
+
+TEST_F(ListViewTest, ARowIsTakenOutOfTheSelection) {
+    AppendRows({L"one", L"two", L"three"});
+    list_.AddToSelection(0);
+    list_.AddToSelection(2);
+    list_.RemoveFromSelection(0);
+    EXPECT_EQ(list_.SelectedRows(), std::vector<std::size_t>{2});
+}
+
+TEST_F(ListViewTest, AHeadingBearsOneMarkOrNone) {
+    AppendRows({L"one"});
+    const auto header = reinterpret_cast<HWND>(SendMessageW(list_.Window(), LVM_GETHEADER, 0, 0));
+    const auto marks = [header] {
+        HDITEMW item = {};
+        item.mask = HDI_FORMAT;
+        SendMessageW(header, HDM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return item.fmt & (HDF_SORTUP | HDF_SORTDOWN);
+    };
+    list_.MarkHeading(0, HeadingMark::kUp);
+    EXPECT_EQ(marks(), HDF_SORTUP);
+    list_.MarkHeading(0, HeadingMark::kDown);
+    EXPECT_EQ(marks(), HDF_SORTDOWN);
+    list_.MarkHeading(0, HeadingMark::kNone);
+    EXPECT_EQ(marks(), 0);
+    EXPECT_EQ(list_.ColumnWidth(0), 100);
 }
 
 TEST_F(ListViewTest, CheckStatesAreOnOffOrNoRow) {

@@ -1,0 +1,94 @@
+#include "toolkit/anchored_layout.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/toolkit/window/test_dialog.h"
+#include "toolkit/control_place.h"
+
+namespace toolkit {
+namespace {
+
+using testing::TestDialog;
+using enum GrowthShare;
+
+class AnchoredLayoutTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(dialog_.CreateModeless());
+        MoveWindow(dialog_.Control(IDC_TEXT_EDIT), 10, 20, 100, 30, FALSE);
+        MoveWindow(dialog_.Control(IDC_ROW_LIST), 10, 60, 100, 30, FALSE);
+        MoveWindow(dialog_.Control(IDOK), 10, 100, 50, 25, FALSE);
+        layout_.Remember(dialog_.Window(),
+                         {{.controlId = IDC_TEXT_EDIT, .growX = kAll, .growY = kHalf},
+                          {.controlId = IDC_ROW_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
+                          {.controlId = IDOK, .moveX = kAll, .moveY = kAll}});
+        RECT client = {};
+        GetClientRect(dialog_.Window(), &client);
+        width_ = client.right;
+        height_ = client.bottom;
+    }
+
+    void ExpectPlace(int control, const RECT& expected) {
+        const RECT place = PlaceOf(dialog_.Control(control));
+        EXPECT_TRUE(EqualRect(&place, &expected)) << "control " << control << " is at " << place.left << ", "
+                                                  << place.top << ", " << place.right << ", " << place.bottom;
+    }
+
+    TestDialog dialog_;
+    AnchoredLayout layout_;
+    int width_ = 0;
+    int height_ = 0;
+};
+
+TEST_F(AnchoredLayoutTest, SharesOutWhatTheDialogHasGrown) {
+    layout_.Arrange(width_ + 7, height_ + 5);
+    ExpectPlace(IDC_TEXT_EDIT, {10, 20, 117, 52});
+    ExpectPlace(IDC_ROW_LIST, {10, 62, 117, 95});
+    ExpectPlace(IDOK, {17, 105, 67, 130});
+}
+
+TEST_F(AnchoredLayoutTest, ManySmallStepsEndWhereOneLargeStepDoes) {
+    for (int step = 1; step <= 9; ++step) {
+        layout_.Arrange(width_ + step, height_ + step);
+    }
+    ExpectPlace(IDC_ROW_LIST, {10, 64, 119, 99});
+    layout_.Arrange(width_, height_);
+    ExpectPlace(IDC_TEXT_EDIT, {10, 20, 110, 50});
+    ExpectPlace(IDC_ROW_LIST, {10, 60, 110, 90});
+    ExpectPlace(IDOK, {10, 100, 60, 125});
+}
+
+TEST_F(AnchoredLayoutTest, NothingShrinksBelowTheTemplate) {
+    layout_.Arrange(width_ - 50, 0);
+    ExpectPlace(IDC_TEXT_EDIT, {10, 20, 110, 50});
+    ExpectPlace(IDOK, {10, 100, 60, 125});
+}
+
+TEST_F(AnchoredLayoutTest, TheTemplateIsTheSmallestSize) {
+    RECT frame = {};
+    GetWindowRect(dialog_.Window(), &frame);
+    MINMAXINFO info = {};
+    layout_.LimitSize(info);
+    EXPECT_EQ(info.ptMinTrackSize.x, frame.right - frame.left);
+    EXPECT_EQ(info.ptMinTrackSize.y, frame.bottom - frame.top);
+}
+
+TEST_F(AnchoredLayoutTest, AnotherScaleScalesWhatIsRemembered) {
+    layout_.Rescale(96, 144);
+    layout_.Arrange(width_ * 3 / 2 + 10, height_ * 3 / 2 + 10);
+    const RECT place = PlaceOf(dialog_.Control(IDC_TEXT_EDIT));
+    EXPECT_EQ(place.left, 15);
+    EXPECT_EQ(place.top, 30);
+    EXPECT_NEAR(place.right - place.left, 160, 1);
+    EXPECT_NEAR(place.bottom - place.top, 50, 1);
+}
+
+TEST(AnchoredLayoutBeforeItsDialog, LimitsNothing) {
+    const AnchoredLayout layout;
+    MINMAXINFO info = {};
+    layout.LimitSize(info);
+    EXPECT_EQ(info.ptMinTrackSize.x, 0);
+}
+
+}  // namespace
+}  // namespace toolkit

@@ -1,0 +1,80 @@
+#include "toolkit/anchored_layout.h"
+
+#include <algorithm>
+
+#include "toolkit/control_place.h"
+
+namespace toolkit {
+
+namespace {
+
+int ShareOf(GrowthShare share, int growth) {
+    switch (share) {
+        case GrowthShare::kHalf:
+            return growth / 2;
+        case GrowthShare::kRest:
+            return growth - growth / 2;
+        case GrowthShare::kAll:
+            return growth;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+void AnchoredLayout::Remember(HWND dialog, std::initializer_list<Anchor> anchors) {
+    dialog_ = dialog;
+    RECT client = {};
+    GetClientRect(dialog, &client);
+    client_ = {client.right, client.bottom};
+    for (const Anchor& anchor : anchors) {
+        controls_.push_back({anchor, PlaceOf(GetDlgItem(dialog, anchor.controlId))});
+    }
+}
+
+void AnchoredLayout::Rescale(UINT from, UINT to) {
+    const auto scale = [from, to](LONG& pixels) {
+        pixels = MulDiv(pixels, static_cast<int>(to), static_cast<int>(from));
+    };
+    scale(client_.cx);
+    scale(client_.cy);
+    for (AnchoredControl& control : controls_) {
+        scale(control.place.left);
+        scale(control.place.top);
+        scale(control.place.right);
+        scale(control.place.bottom);
+    }
+}
+
+void AnchoredLayout::Arrange(int width, int height) const {
+    // Smaller than its template a dialog is only for a moment, and then nothing shrinks to less than nothing.
+    const int growthX = std::max(0, width - static_cast<int>(client_.cx));
+    const int growthY = std::max(0, height - static_cast<int>(client_.cy));
+    for (const AnchoredControl& control : controls_) {
+        const Anchor& anchor = control.anchor;
+        const RECT& place = control.place;
+        // The height of a combo box is that of its open list; it is left alone where nothing grows.
+        const bool keepsSize = anchor.growX == GrowthShare::kNone && anchor.growY == GrowthShare::kNone;
+        SetWindowPos(GetDlgItem(dialog_, anchor.controlId), nullptr,
+                     place.left + ShareOf(anchor.moveX, growthX), place.top + ShareOf(anchor.moveY, growthY),
+                     place.right - place.left + ShareOf(anchor.growX, growthX),
+                     place.bottom - place.top + ShareOf(anchor.growY, growthY),
+                     SWP_NOZORDER | SWP_NOACTIVATE | (keepsSize ? SWP_NOSIZE : 0U));
+    }
+}
+
+void AnchoredLayout::LimitSize(MINMAXINFO& info) const {
+    if (dialog_ == nullptr) {
+        return;
+    }
+    // What the frame adds to the client area, at this scale and whatever the frame looks like.
+    RECT frame = {};
+    RECT client = {};
+    GetWindowRect(dialog_, &frame);
+    GetClientRect(dialog_, &client);
+    info.ptMinTrackSize.x = client_.cx + (frame.right - frame.left) - client.right;
+    info.ptMinTrackSize.y = client_.cy + (frame.bottom - frame.top) - client.bottom;
+}
+
+}  // namespace toolkit
