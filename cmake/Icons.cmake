@@ -8,8 +8,10 @@ set(CORVANE_ICON_NAMES
   save log_path
   add_rule copy_rule edit_rule delete_rule make_first move_up move_down make_last
   add_profile edit_profile delete_profile export_rules import_rules
-  add_item delete_item
+  add_item edit_item delete_item
+  input_folder output_folder error_folder certificates second_output_folder executable
   warning_box error_mode info_mode refusal
+  add_to_chosen remove_from_chosen
   main_window)
 
 # What the system asks for at 96 to 192 dpi, as small icon (16 to 32), as large icon (32 to 64) and as

@@ -11,6 +11,9 @@
 #define BUTTON_GAP 6
 // A text in the row of an edit stands this much lower than the edit.
 #define TEXT_DROP 3
+// A button with an icon, beside a field with its label above it.
+#define FIELD_ICON_BUTTON_WIDTH 26
+#define FIELD_ICON_BUTTON_HEIGHT 24
 
 // The main window's own: its buttons are larger.
 #define ICON_BUTTON_SIZE 32

@@ -60,4 +60,28 @@ TEST(Ids, ControlsOfTheSmallDialogsKeepTheirNumbers) {
               (std::vector{1112, 1113, 1128}));
 }
 
+TEST(Ids, ControlsOfTheRuleEditorAndTheMaskDialogKeepTheirNumbers) {
+    EXPECT_EQ((std::vector{IDD_RULE_EDITOR, IDD_MASK, IDC_MASK_COMBO}), (std::vector{105, 116, 1095}));
+    EXPECT_EQ((std::vector{IDI_INPUT_FOLDER, IDI_OUTPUT_FOLDER, IDI_ERROR_FOLDER, IDI_CERTIFICATES,
+                           IDI_SECOND_OUTPUT_FOLDER, IDI_EXECUTABLE, IDI_EDIT_ITEM}),
+              (std::vector{212, 213, 214, 215, 216, 217, 218}));
+    EXPECT_EQ((std::vector{IDC_RULE_OPERATION_COMBO, IDC_RULE_CS_PROFILE_LABEL, IDC_RULE_CS_PROFILE_COMBO,
+                           IDC_RULE_DESCRIPTION_LABEL, IDC_RULE_DESCRIPTION_EDIT}),
+              (std::vector{1042, 1104, 1051, 1122, 1079}));
+    EXPECT_EQ(
+        (std::vector{IDC_RULE_INPUT_BUTTON, IDC_RULE_INPUT_EDIT, IDC_RULE_OUTPUT_BUTTON, IDC_RULE_OUTPUT_EDIT,
+                     IDC_RULE_ERROR_BUTTON, IDC_RULE_ERROR_EDIT, IDC_RULE_CERT_BUTTON, IDC_RULE_CERT_EDIT}),
+        (std::vector{1000, 1045, 1043, 1046, 1044, 1047, 1050, 1049}));
+    EXPECT_EQ((std::vector{IDC_RULE_ROW1_LABEL, IDC_RULE_ROW2_LABEL, IDC_RULE_ROW3_LABEL, IDC_RULE_ROW4_LABEL,
+                           IDC_RULE_ROW1_COMBO, IDC_RULE_ROW2_COMBO, IDC_RULE_ROW3_COMBO}),
+              (std::vector{1108, 1109, 1110, 1138, 1105, 1106, 1107}));
+    EXPECT_EQ((std::vector{IDC_RULE_ROW1_EDIT, IDC_RULE_ROW2_EDIT, IDC_RULE_ROW3_EDIT, IDC_RULE_ROW4_EDIT,
+                           IDC_RULE_ROW1_NUMBER_EDIT, IDC_RULE_ROW2_NUMBER_EDIT, IDC_RULE_ROW3_NUMBER_EDIT}),
+              (std::vector{1130, 1131, 1136, 1137, 1139, 1140, 1141}));
+    EXPECT_EQ((std::vector{IDC_RULE_MASK_LIST, IDC_RULE_ADD_MASK_BUTTON, IDC_RULE_EDIT_MASK_BUTTON,
+                           IDC_RULE_DELETE_MASK_BUTTON, IDC_RULE_UNUSED_EDIT, IDC_RULE_UNUSED_COMBO,
+                           IDC_RULE_UNUSED_LABEL}),
+              (std::vector{1001, 1124, 1125, 1126, 1048, 1095, 1123}));
+}
+
 }  // namespace
