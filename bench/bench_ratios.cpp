@@ -17,9 +17,11 @@
 #include "app/rule_list_view.h"
 #include "app/rule_row.h"
 #include "bench/bare_registry.h"
+#include "bench/list_window.h"
 #include "bench/program_measure.h"
 #include "bench/ratio.h"
 #include "bench/sample_configuration.h"
+#include "bench/selection_lists.h"
 #include "certs/provider/provider_library_windows.h"
 #include "config/load_configuration.h"
 #include "config/registry_calls_windows.h"
@@ -96,46 +98,6 @@ std::vector<RatioRow> MeasureRegistry() {
     return rows;
 }
 
-/// A window with one list view that is set up like the main window's rule list.
-class ListWindow {
-  public:
-    ListWindow() {
-        INITCOMMONCONTROLSEX classes = {};
-        classes.dwSize = sizeof classes;
-        classes.dwICC = 0xFF;
-        InitCommonControlsEx(&classes);
-        WNDCLASSW windowClass = {};
-        windowClass.lpfnWndProc = &WindowProcedure;
-        windowClass.hInstance = GetModuleHandleW(nullptr);
-        windowClass.lpszClassName = L"CorvaneBench";
-        RegisterClassW(&windowClass);
-        window_ = CreateWindowW(L"CorvaneBench", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 900, 400,
-                                nullptr, nullptr, windowClass.hInstance, nullptr);
-    }
-
-    [[nodiscard]] HWND MakeList() const {
-        return CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0,
-                             880, 360, window_, nullptr, nullptr, nullptr);
-    }
-
-    void AnswerWith(corvane::RuleListView* list) { answering_ = list; }
-
-  private:
-    static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_NOTIFY && answering_ != nullptr) {
-            auto& header = *reinterpret_cast<NMHDR*>(lParam);
-            if (header.code == LVN_GETDISPINFOW && header.hwndFrom == answering_->Control().Window()) {
-                answering_->AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
-            }
-            return 0;
-        }
-        return DefWindowProcW(window, message, wParam, lParam);
-    }
-
-    inline static corvane::RuleListView* answering_ = nullptr;
-    HWND window_ = nullptr;
-};
-
 /// The plain way: row by row, cell by cell, with redrawing off.
 void InsertPlainly(const toolkit::ListView& list, const std::vector<corvane::Rule>& rules) {
     const toolkit::ListView::RedrawLock locked(list);
@@ -164,7 +126,11 @@ std::vector<RatioRow> MeasureLists() {
     ListWindow window;
     corvane::RuleListView ruleList(state);
     ruleList.Attach(window.MakeList());
-    window.AnswerWith(&ruleList);
+    window.AnswerWith([&ruleList](NMHDR& header) {
+        if (header.code == LVN_GETDISPINFOW && header.hwndFrom == ruleList.Control().Window()) {
+            ruleList.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
+        }
+    });
     corvane::RuleListView plainColumns(state);
     plainColumns.Attach(window.MakeList());
     const toolkit::ListView& plain = plainColumns.Control();
@@ -271,6 +237,7 @@ int wmain(int argumentCount, wchar_t** arguments) {
         Print(MeasurePrograms(arguments[1], arguments[2]));
         Print(MeasureRegistry());
         Print(MeasureLists());
+        Print(MeasureSelectionLists());
         Print({MeasureOrdering()});
     } catch (const std::exception& exception) {
         std::fprintf(stderr, "%s\n", exception.what());

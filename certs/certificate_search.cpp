@@ -29,6 +29,7 @@ bool IsUsable(const CertEntry& entry, const CertSearchSettings& settings) {
 void AppendOwners(const FoundCertificates& found, const CertSearchSettings& settings,
                   const toolkit::SystemText& systemText, TextList& owners) {
     std::unordered_set<std::wstring> known;
+    known.reserve(found.Entries().size());
     for (const CertEntry& entry : found.Entries()) {
         if (!IsUsable(entry, settings)) {
             continue;

@@ -13,8 +13,8 @@ std::optional<CertSession> Open(const SelectionPlace& place, CertificateUse use)
 
 }  // namespace
 
-std::optional<TextList> ChooseRecipients(const SelectionPlace& place, const TextList& recipients,
-                                         const SelectionRun& run) {
+std::optional<ChosenRecipients> ChooseRecipients(const SelectionPlace& place, const TextList& recipients,
+                                                 const SelectionRun& run) {
     std::optional<CertSession> session = Open(place, CertificateUse::kRecipients);
     if (!session) {
         return std::nullopt;
@@ -29,40 +29,41 @@ std::optional<TextList> ChooseRecipients(const SelectionPlace& place, const Text
         session->context.Drop();
         return std::nullopt;
     }
-    return form.Result();
+    return ChosenRecipients{form.Result(), std::move(*session)};
 }
 
-bool AddSignerList(SignerListsForm& lists, const SelectionPlace& place, const SelectionRun& run) {
-    const std::optional<CertSession> session = Open(place, CertificateUse::kSigners);
+std::optional<CertSession> AddSignerList(SignerListsForm& lists, const SelectionPlace& place,
+                                         const SelectionRun& run) {
+    std::optional<CertSession> session = Open(place, CertificateUse::kSigners);
     if (!session) {
-        return false;
+        return std::nullopt;
     }
     RecipientSelectionForm form(session->settings, lists.StartOfNewList(session->isNetworkStoreAvailable),
                                 place.services.reporter.Text());
     if (!run(form, session->context)) {
-        return false;
+        return std::nullopt;
     }
     lists.Add(form);
-    return true;
+    return session;
 }
 
-bool EditSignerList(SignerListsForm& lists, std::size_t position, const SelectionPlace& place,
-                    const SelectionRun& run) {
+std::optional<CertSession> EditSignerList(SignerListsForm& lists, std::size_t position,
+                                          const SelectionPlace& place, const SelectionRun& run) {
     if (position >= lists.Lists().size()) {
-        return false;
+        return std::nullopt;
     }
-    const std::optional<CertSession> session = Open(place, CertificateUse::kSigners);
+    std::optional<CertSession> session = Open(place, CertificateUse::kSigners);
     if (!session) {
-        return false;
+        return std::nullopt;
     }
     RecipientSelectionForm form(session->settings,
                                 lists.StartOfEditing(position, session->isNetworkStoreAvailable),
                                 place.services.reporter.Text());
     if (!run(form, session->context)) {
-        return false;
+        return std::nullopt;
     }
     lists.Replace(position, form);
-    return true;
+    return session;
 }
 
 }  // namespace corvane

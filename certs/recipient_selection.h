@@ -13,7 +13,8 @@
 #include "toolkit/window_handle.h"
 
 // What the certificate buttons do: each opens a cryptocontext for the time of one selection dialog. Where
-// none can be opened, the dialog is not shown and nothing changes.
+// none can be opened, the dialog is not shown and nothing changes. A confirmed choice comes back with its
+// cryptocontext still open, so that it can be kept and shown before the closing, which may fail, is told of.
 
 namespace corvane {
 
@@ -30,16 +31,25 @@ struct SelectionPlace {
     const CertServices& services;
 };
 
+/// The recipients that the user confirmed, and the cryptocontext, which is closed with this object.
+struct ChosenRecipients {
+    TextList owners;
+    CertSession session;
+};
+
 /// Lets the user choose the recipients of a rule, beginning with `recipients`. None when the user cancels or
 /// no cryptocontext can be opened.
-[[nodiscard]] std::optional<TextList> ChooseRecipients(const SelectionPlace& place,
-                                                       const TextList& recipients, const SelectionRun& run);
+[[nodiscard]] std::optional<ChosenRecipients> ChooseRecipients(const SelectionPlace& place,
+                                                               const TextList& recipients,
+                                                               const SelectionRun& run);
 
-/// Lets the user make a new signer list. Returns whether the lists changed.
-bool AddSignerList(SignerListsForm& lists, const SelectionPlace& place, const SelectionRun& run);
+/// Lets the user make a new signer list. Returns the cryptocontext when the lists changed, else none.
+[[nodiscard]] std::optional<CertSession> AddSignerList(SignerListsForm& lists, const SelectionPlace& place,
+                                                       const SelectionRun& run);
 
-/// Lets the user change the signer list at `position`. Returns whether the lists changed.
-bool EditSignerList(SignerListsForm& lists, std::size_t position, const SelectionPlace& place,
-                    const SelectionRun& run);
+/// Lets the user change the signer list at `position`. Returns the cryptocontext when the lists changed, else
+/// none.
+[[nodiscard]] std::optional<CertSession> EditSignerList(SignerListsForm& lists, std::size_t position,
+                                                        const SelectionPlace& place, const SelectionRun& run);
 
 }  // namespace corvane

@@ -79,6 +79,8 @@ void RecipientSelectionForm::CheckAllFound(bool isChecked) {
 }
 
 void RecipientSelectionForm::AddFound(const TextList& owners) {
+    found_.reserve(found_.size() + owners.size());
+    foundTexts_.reserve(found_.size() + owners.size());
     for (const std::wstring& owner : owners) {
         if (foundTexts_.insert(owner).second) {
             found_.push_back({owner, systemText_.UpperCase(owner), false});
@@ -284,7 +286,7 @@ bool RecipientSelectionForm::IsListNameAccepted(ErrorReporter& reporter, toolkit
     }
     // It would be stored as a key within a key, where nobody looks for it.
     if (listName.find(L'\\') != std::wstring::npos) {
-        return refuse(L"List name cannot contain symbol '\\'");
+        return refuse(L"List name cannot contain the symbol '\\'");
     }
     return true;
 }

@@ -73,14 +73,17 @@ bool MessageBoxWindow::Is(const Window& window) {
         return false;
     }
     int texts = 0;
+    int buttons = 0;
     for (const Window& control : window.Children()) {
         if (IsTextStatic(control)) {
             ++texts;
-        } else if (!IsIconStatic(control) && !control.IsOfClass(L"Button")) {
+        } else if (control.IsOfClass(L"Button")) {
+            ++buttons;
+        } else if (!IsIconStatic(control)) {
             return false;
         }
     }
-    return texts == 1;
+    return texts == 1 && buttons > 0;
 }
 
 MessageBoxView MessageBoxWindow::View() const {

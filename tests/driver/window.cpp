@@ -156,7 +156,8 @@ void Window::Type(const std::wstring& text) const {
 
 void Window::PostKey(WPARAM virtualKey) const {
     Post(WM_KEYDOWN, virtualKey, 1);
-    Post(WM_KEYUP, virtualKey, static_cast<LPARAM>(0xC0000001));
+    // The key may have closed the window already; then there is nobody who could see it released.
+    PostMessageW(handle_, WM_KEYUP, virtualKey, static_cast<LPARAM>(0xC0000001));
 }
 
 void Window::PostLeftClick(POINT point) const {

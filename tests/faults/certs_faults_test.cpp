@@ -68,16 +68,18 @@ class Session {
 
     std::optional<corvane::TextList> Run() {
         const CertServices services{sessions, reports.reporter, warnings, registry, clock};
-        return ChooseRecipients({nullptr, profile_, 0, waitWindow, services}, {},
-                                [this](RecipientSelectionForm& form, const Cryptocontext& context) {
-                                    wasDialogShown = true;
-                                    if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
-                                        return false;
-                                    }
-                                    form.CheckAllFound(true);
-                                    static_cast<void>(form.AddChecked());
-                                    return form.Confirm(context, reports.reporter, nullptr);
-                                });
+        const std::optional<corvane::ChosenRecipients> chosen =
+            ChooseRecipients({nullptr, profile_, 0, waitWindow, services}, {},
+                             [this](RecipientSelectionForm& form, const Cryptocontext& context) {
+                                 wasDialogShown = true;
+                                 if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
+                                     return false;
+                                 }
+                                 form.CheckAllFound(true);
+                                 static_cast<void>(form.AddChecked());
+                                 return form.Confirm(context, reports.reporter, nullptr);
+                             });
+        return chosen ? std::optional(chosen->owners) : std::nullopt;
     }
 
     // What must hold whatever failed.

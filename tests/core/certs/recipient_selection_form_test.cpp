@@ -448,7 +448,7 @@ TEST_F(SelectionForm, AListNameWithABackslashIsRefusedAfterTheOtherNameChecks) {
     form.listName = L"three\\four";
     EXPECT_FALSE(Confirm(form));
     EXPECT_THAT(Boxes(), ElementsAre(Refusal(L"List with this name already exists"),
-                                     Refusal(L"List name cannot contain symbol '\\'")));
+                                     Refusal(L"List name cannot contain the symbol '\\'")));
     EXPECT_THAT(sessions_.Searches(), IsEmpty());
 }
 

@@ -1,0 +1,283 @@
+#include "bench/selection_lists.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "app/reporting/error_reporter.h"
+#include "app/reporting/system_messages_windows.h"
+#include "bench/list_window.h"
+#include "certs/owner_list_view.h"
+#include "certs/recipient_selection_form.h"
+#include "toolkit/format_text.h"
+#include "toolkit/message_presenter_windows.h"
+#include "toolkit/system_text_windows.h"
+
+namespace {
+
+using corvane::OwnerListView;
+using corvane::RecipientSelectionForm;
+using corvane::TextList;
+
+constexpr int kTurns = 7;
+constexpr int kFoundOwners = 20000;
+constexpr int kChosenOwners = 5000;
+constexpr std::size_t kOrganizationField = 5;
+
+std::wstring OwnerName(int number) {
+    // Spread out, so that a sort has work to do. Every other one is of the first bank.
+    const int spread = static_cast<int>((static_cast<long long>(number) * 7919) % 100003);
+    return toolkit::FormatText(
+        L"CN=Owner %d,OU=Settlement,O=%s,C=GB",
+        {toolkit::DecimalText(spread), (number % 2 == 0 ? L"Northgate Clearing " : L"Southgate Clearing ") +
+                                           toolkit::DecimalText(spread % 997)});
+}
+
+/// A provider that finds as many certificates as are wanted and hands out memory of its own.
+class ManyCertificates final : public corvane::ProviderLibrary {
+  public:
+    ManyCertificates() {
+        const toolkit::WindowsSystemText text;
+        for (int i = 0; i < kFoundOwners; ++i) {
+            owners_.push_back(text.Narrow(OwnerName(i)));
+        }
+        for (std::string& owner : owners_) {
+            corvane::CertEntry entry = {};
+            entry.owner = owner.data();
+            entry.usage = 0xFF;
+            entries_.push_back(entry);
+        }
+        functions_.findCert = [](corvane::ProviderContext, corvane::CertQuery*,
+                                 corvane::CertFindResult* result) {
+            result->count = static_cast<std::uint32_t>(entries_.size());
+            result->entries = entries_.data();
+            return std::uint32_t{0};
+        };
+        functions_.freeFindResult = [](corvane::ProviderContext, corvane::CertFindResult*) {
+            return std::uint32_t{0};
+        };
+    }
+
+    [[nodiscard]] const corvane::ProviderFunctions* Functions() override { return &functions_; }
+    [[nodiscard]] const corvane::ProviderBindFailure& LastFailure() const override { return failure_; }
+
+  private:
+    inline static std::vector<corvane::CertEntry> entries_;
+    std::vector<std::string> owners_;
+    corvane::ProviderFunctions functions_ = {};
+    corvane::ProviderBindFailure failure_;
+};
+
+/// The form with its two lists, as the dialog has them.
+class SelectionLists {
+  public:
+    explicit SelectionLists(const ListWindow& window) : form_(settings_, Start(), text_) {
+        found_.Attach(window.MakeList(), L"Subjects");
+        chosen_.Attach(window.MakeList(), L"Recipients");
+        ShowFound();
+        ShowChosen();
+    }
+    ~SelectionLists() {
+        DestroyWindow(found_.Control().Window());
+        DestroyWindow(chosen_.Control().Window());
+    }
+    SelectionLists(const SelectionLists&) = delete;
+    SelectionLists& operator=(const SelectionLists&) = delete;
+    SelectionLists(SelectionLists&&) = delete;
+    SelectionLists& operator=(SelectionLists&&) = delete;
+
+    [[nodiscard]] RecipientSelectionForm& Form() { return form_; }
+
+    void ShowFound() { Show(found_, form_.FoundSortMark()); }
+    void ShowChosen() { Show(chosen_, form_.ChosenSortMark()); }
+
+    void Answer(NMHDR& header) {
+        for (OwnerListView* const list : {&found_, &chosen_}) {
+            if (header.hwndFrom == list->Control().Window() && header.code == LVN_GETDISPINFOW) {
+                list->AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
+            }
+        }
+    }
+
+  private:
+    static corvane::SelectionStart Start() {
+        corvane::SelectionStart start;
+        for (int i = 0; i < kChosenOwners; ++i) {
+            start.chosen.push_back(OwnerName(kFoundOwners + i));
+        }
+        return start;
+    }
+    static void Show(OwnerListView& list, corvane::SortMark mark) {
+        list.Show(list.CurrentPlace(), mark);
+        UpdateWindow(list.Control().Window());
+    }
+
+    corvane::CertSearchSettings settings_ =
+        corvane::SearchSettingsOf({}, corvane::CertificateUse::kRecipients);
+    toolkit::WindowsSystemText text_;
+    RecipientSelectionForm form_;
+    OwnerListView found_{
+        {[this] { return form_.FoundRowCount(); }, [this](std::size_t row) { return form_.FoundRow(row); }}};
+    OwnerListView chosen_{{[this] { return form_.ChosenRowCount(); },
+                           [this](std::size_t row) { return form_.ChosenRow(row); }}};
+};
+
+class SelectionBench {
+  public:
+    SelectionBench() {
+        window_.AnswerWith([this](NMHDR& header) {
+            if (lists_ != nullptr) {
+                lists_->Answer(header);
+            }
+        });
+        for (int i = 0; i < kFoundOwners; ++i) {
+            allFound_.push_back(OwnerName(i));
+        }
+    }
+
+    /// Lists that are fresh, and filled as far as `prepare` does.
+    double Measure(const std::function<void(SelectionLists&)>& prepare,
+                   const std::function<void(SelectionLists&)>& work) {
+        lists_ = std::make_unique<SelectionLists>(window_);
+        prepare(*lists_);
+        const double milliseconds = MillisecondsOf([&] { work(*lists_); });
+        lists_.reset();
+        return milliseconds;
+    }
+
+    /// The plain way, in a list as fresh: row by row, with redrawing off. Where rows `before` are listed
+    /// already, they make room first; that is what filling a list again means.
+    double InsertPlainly(const TextList& before, const TextList& owners) {
+        toolkit::ListView list;
+        list.Attach(window_.MakeList());
+        list.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
+        list.InsertColumn(0, L"Subjects");
+        list.SetColumnWidth(0, list.ClientWidth());
+        Refill(list, before);
+        const double milliseconds = MillisecondsOf([&] { Refill(list, owners); });
+        DestroyWindow(list.Window());
+        return milliseconds;
+    }
+
+    void FindAll(SelectionLists& lists) {
+        if (!lists.Form().SearchLocalStore(context_, reporter_, nullptr)) {
+            throw std::runtime_error("the owners are not found");
+        }
+        lists.ShowFound();
+    }
+
+    [[nodiscard]] const TextList& AllFound() const { return allFound_; }
+
+  private:
+    static void Refill(const toolkit::ListView& list, const TextList& owners) {
+        {
+            const toolkit::ListView::RedrawLock locked(list);
+            list.DeleteAllRows();
+            for (const std::wstring& owner : owners) {
+                list.AppendRow(owner);
+            }
+        }
+        UpdateWindow(list.Window());
+    }
+
+    ListWindow window_;
+    std::unique_ptr<SelectionLists> lists_;
+    TextList allFound_;
+    ManyCertificates provider_;
+    toolkit::WindowsMessagePresenter messages_;
+    toolkit::WindowsSystemText text_;
+    corvane::WindowsSystemMessages systemMessages_;
+    corvane::ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
+    corvane::Cryptocontext context_{*provider_.Functions(), 0, reporter_, nullptr};
+};
+
+}  // namespace
+
+std::vector<RatioRow> MeasureSelectionLists() {
+    SelectionBench bench;
+    const TextList& all = bench.AllFound();
+    TextList ofTheFirstBank;
+    for (const std::wstring& owner : all) {
+        if (owner.find(L"Northgate") != std::wstring::npos) {
+            ofTheFirstBank.push_back(owner);
+        }
+    }
+    TextList chosenAtTheEnd = all;
+    for (int i = 0; i < kChosenOwners; ++i) {
+        chosenAtTheEnd.push_back(OwnerName(kFoundOwners + i));
+    }
+
+    const auto find = [&bench](SelectionLists& lists) { bench.FindAll(lists); };
+    const auto measured = [&bench](const auto& prepare, const auto& work) {
+        return [&bench, prepare, work] { return bench.Measure(prepare, work); };
+    };
+    const auto inserting = [&bench](const TextList& before, const TextList& owners) {
+        return [&bench, &before, &owners] { return bench.InsertPlainly(before, owners); };
+    };
+    const TextList none;
+    const auto filter = [](const wchar_t* text) {
+        return [text](SelectionLists& lists) {
+            lists.Form().SetFilter(text);
+            lists.ShowFound();
+        };
+    };
+    const auto row = [](const char* what, double ratio, double target) {
+        return RatioRow{
+            .what = what, .against = "inserting the rows shown", .ratio = ratio, .target = target};
+    };
+
+    return {
+        row("finding and listing 20,000 owners",
+            MedianRatio(kTurns, measured([](SelectionLists&) {}, find), inserting(none, all)), 1.50),
+        row("listing 20,000 owners that are known",
+            MedianRatio(kTurns,
+                        measured([&all](SelectionLists& lists) { lists.Form().AddFound(all); },
+                                 [](SelectionLists& lists) { lists.ShowFound(); }),
+                        inserting(none, all)),
+            1.50),
+        // Every owner has the letter, so every row stays.
+        row("one filter keystroke over 20,000 owners",
+            MedianRatio(kTurns, measured(find, filter(L"o")), inserting(none, all)), 0.50),
+        // Half of the rows go; here the list is filled again plainly, its rows deleted first.
+        row("one filter keystroke that leaves 10,000",
+            MedianRatio(kTurns,
+                        measured(
+                            [&](SelectionLists& lists) {
+                                find(lists);
+                                filter(L"o=")(lists);
+                            },
+                            filter(L"o=n")),
+                        inserting(all, ofTheFirstBank)),
+            1.00),
+        row("sorting 20,000 owners by a field",
+            MedianRatio(kTurns,
+                        measured(find,
+                                 [](SelectionLists& lists) {
+                                     lists.Form().SetSortField(kOrganizationField);
+                                     lists.ShowFound();
+                                 }),
+                        inserting(none, all)),
+            1.50),
+        row("adding 20,000 owners to 5,000 chosen",
+            MedianRatio(kTurns,
+                        measured(
+                            [&](SelectionLists& lists) {
+                                find(lists);
+                                lists.Form().CheckAllFound(true);
+                                lists.ShowFound();
+                                lists.ShowChosen();
+                            },
+                            [](SelectionLists& lists) {
+                                static_cast<void>(lists.Form().AddChecked());
+                                lists.ShowChosen();
+                            }),
+                        inserting(none, chosenAtTheEnd)),
+            1.50),
+    };
+}

@@ -1,0 +1,71 @@
+#include "certs/await_dialog.h"
+
+#include <utility>
+
+#include "app/reporting/app_title.h"
+#include "res/ids.h"
+
+namespace corvane {
+
+namespace {
+
+WindowRectangle NormalPosition(HWND window) {
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(window, &placement);
+    const RECT& place = placement.rcNormalPosition;
+    return {.top = place.top, .bottom = place.bottom, .left = place.left, .right = place.right};
+}
+
+}  // namespace
+
+AwaitDlg::AwaitDlg(HWND owner, std::wstring text)
+    : Dialog(IDD_WAIT, owner), owner_(owner), text_(std::move(text)) {}
+
+bool AwaitDlg::ShowPainted() {
+    if (!CreateModeless()) {
+        return false;
+    }
+    MoveToMiddle(owner_);
+    ShowWindow(Window(), SW_SHOWNOACTIVATE);
+    RedrawWindow(Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    // What is drawn may be collected first, and nobody would hand it on during the call.
+    GdiFlush();
+    return true;
+}
+
+void AwaitDlg::MoveToMiddle(HWND owner) const {
+    const WindowRectangle own = NormalPosition(Window());
+    const ScreenPoint place = WaitWindowPlace(NormalPosition(owner), own);
+    MoveWindow(Window(), place.left, place.top, own.right - own.left, own.bottom - own.top, TRUE);
+}
+
+bool AwaitDlg::OnInitDialog() {
+    SetWindowTextW(Window(), AppTitle);
+    PutData();
+    // The focus stays in the window behind, where it is wanted again in a moment.
+    return false;
+}
+
+void AwaitDlg::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_WAIT_TEXT, text_);
+}
+
+AwaitWindow::~AwaitWindow() {
+    Destroy();
+}
+
+void AwaitWindow::Show(toolkit::WindowHandle parent, const std::wstring& text) {
+    formerCursor_ = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+    dialog_ = std::make_unique<AwaitDlg>(parent, text);
+    dialog_->ShowPainted();
+}
+
+void AwaitWindow::Destroy() {
+    if (dialog_ != nullptr) {
+        dialog_.reset();
+        SetCursor(formerCursor_);
+    }
+}
+
+}  // namespace corvane

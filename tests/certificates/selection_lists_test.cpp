@@ -1,0 +1,279 @@
+#include <windows.h>
+
+#include "tests/certificates/selection_driver.h"
+#include "tests/driver/remote_block.h"
+
+namespace corvane {
+namespace {
+
+using driver::Texts;
+using Checks = std::vector<bool>;
+
+constexpr wchar_t kIvanov[] = L"CN=IVANOV,O=Bravo,C=RU";
+constexpr wchar_t kAdams[] = L"CN=Adams,O=Charlie,C=GB";
+constexpr wchar_t kBell[] = L"CN=Bell,C=US";
+constexpr wchar_t kNovak[] = L"CN=novak,O=Alpha,C=CZ";
+
+class SelectionLists : public SelectionTest {
+  protected:
+    void OpenWithFourFound(const TextList& recipients = {}) {
+        for (const char* const owner :
+             {"CN=IVANOV,O=Bravo,C=RU", "CN=Adams,O=Charlie,C=GB", "CN=Bell,C=US", "CN=novak,O=Alpha,C=CZ"}) {
+            script.Certificate(LibraryScriptWriter::kEvery, owner);
+        }
+        OpenRecipients(recipients);
+        Press(IDC_SELECTION_FROM_STORE_BUTTON);
+        ASSERT_EQ(Found().Column(0), (Texts{kIvanov, kAdams, kBell, kNovak}));
+    }
+    /// HDF_SORTUP, HDF_SORTDOWN or 0.
+    [[nodiscard]] static int MarkOf(const driver::ListView& list) {
+        const driver::Window header = HeaderOf(list);
+        driver::RemoteBlock block(header.Handle(), sizeof(HDITEMW));
+        HDITEMW item{};
+        item.mask = HDI_FORMAT;
+        block.Put(item);
+        header.Send(HDM_GETITEMW, 0, block.Parameter());
+        return block.Get<HDITEMW>().fmt & (HDF_SORTUP | HDF_SORTDOWN);
+    }
+};
+
+TEST_F(SelectionLists, FromLocalStoreAddsTheOwnersThatAreNotThere) {
+    OpenWithFourFound();
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false}));
+    EXPECT_EQ(Found().ColumnWidth(0), Found().ClientSize().cx);
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    EXPECT_EQ(Found().RowCount(), 4);
+    const std::vector<std::string> calls = Calls("FindCert");
+    EXPECT_EQ(calls.back(), "FindCert context=1 flags=0 mode=0 pattern=null fields=84 rest=zero -> 0");
+}
+
+TEST_F(SelectionLists, ARecipientSearchPassesOverCertificatesThatCannotEncrypt) {
+    script.Certificate(LibraryScriptWriter::kEvery, "CN=Signer,C=GB", 0x03);
+    script.Certificate(LibraryScriptWriter::kEvery, "CN=Reader,C=GB", 0x04);
+    OpenRecipients();
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    EXPECT_EQ(Found().Column(0), Texts{L"CN=Reader,C=GB"});
+}
+
+TEST_F(SelectionLists, ASignerSearchListsThemToo) {
+    script.Certificate(LibraryScriptWriter::kEvery, "CN=Signer,C=GB", 0x03);
+    OpenNewList();
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    EXPECT_EQ(Found().Column(0), Texts{L"CN=Signer,C=GB"});
+    EXPECT_EQ(Calls("FindCert").back(),
+              "FindCert context=1 flags=100 mode=0 pattern=null fields=84 rest=zero -> 0");
+}
+
+TEST_F(SelectionLists, AFailedLocalSearchIsReportedAndKeepsTheLists) {
+    setup.csProfile.notUseDirectory = 1;
+    script.Certificate(LibraryScriptWriter::kEvery, "CN=Reader,C=GB");
+    script.Status("FindCert", 2, 0xE0700046);
+    script.ErrorText(0xE0700046, "Nothing was found");
+    OpenRecipients();
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    Control(IDC_SELECTION_FROM_STORE_BUTTON).PostClick();
+    ExpectBox(L"Searching of all certificate in local store.\r\nXSIG error 0xE0700046 - Nothing was found.",
+              kBoxReport, IDOK);
+    EXPECT_EQ(Found().Column(0), Texts{L"CN=Reader,C=GB"});
+}
+
+TEST_F(SelectionLists, SelectAllAndClearCheckAndUncheckEveryShownOwner) {
+    OpenWithFourFound();
+    Filter(L"gb");
+    Press(IDC_SELECTION_SELECT_ALL_BUTTON);
+    EXPECT_EQ(Found().Checks(), Checks{true});
+    Filter(L"");
+    EXPECT_EQ(Found().Checks(), (Checks{false, true, false, false}));
+    Press(IDC_SELECTION_SELECT_ALL_BUTTON);
+    EXPECT_EQ(Found().Checks(), (Checks{true, true, true, true}));
+    Press(IDC_SELECTION_CLEAR_BUTTON);
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false}));
+}
+
+TEST_F(SelectionLists, AClickOnACheckBoxChecksTheOwner) {
+    OpenWithFourFound();
+    Found().PostLeftClick(Found().CheckBoxCentre(1));
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, true, false, false}));
+    Press(IDC_SELECTION_ADD_BUTTON);
+    EXPECT_EQ(Chosen().Column(0), Texts{kAdams});
+}
+
+TEST_F(SelectionLists, TheSpaceKeyChecksTheFocusedOwner) {
+    OpenWithFourFound();
+    Found().PostLeftClick(Found().CellCentre(2, 0));
+    Found().WaitForSelection({2});
+    Found().PostKey(VK_SPACE);
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, true, false}));
+}
+
+TEST_F(SelectionLists, DeleteAllAsksAndNoKeepsTheList) {
+    OpenWithFourFound();
+    Control(IDC_SELECTION_DELETE_ALL_BUTTON).PostClick();
+    ExpectBox(L"Delete all list items?", kBoxQuestion, IDNO);
+    EXPECT_EQ(Found().RowCount(), 4);
+    Control(IDC_SELECTION_DELETE_ALL_BUTTON).PostClick();
+    ExpectBox(L"Delete all list items?", kBoxQuestion, IDYES);
+    EXPECT_EQ(Found().RowCount(), 0);
+    Press(IDC_SELECTION_DELETE_ALL_BUTTON);
+    ExpectStaysOpen();
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    EXPECT_EQ(Found().RowCount(), 4);
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false}));
+}
+
+TEST_F(SelectionLists, TheFilterKeepsOwnersWithItsTextWhateverTheLetterCase) {
+    OpenWithFourFound();
+    Control(IDC_SELECTION_FILTER_EDIT).Type(L"ivan");
+    SettleDialog();
+    EXPECT_EQ(Found().Column(0), Texts{kIvanov});
+    Filter(L"O=");
+    EXPECT_EQ(Found().Column(0), (Texts{kIvanov, kAdams, kNovak}));
+    Filter(L"nobody");
+    EXPECT_EQ(Found().RowCount(), 0);
+    Filter(L"");
+    EXPECT_EQ(Found().Column(0), (Texts{kIvanov, kAdams, kBell, kNovak}));
+}
+
+TEST_F(SelectionLists, TheFilterDoesNotConcernTheLowerList) {
+    OpenRecipients({kIvanov, kAdams});
+    Filter(L"ivan");
+    EXPECT_EQ(Chosen().Column(0), (Texts{kIvanov, kAdams}));
+}
+
+TEST_F(SelectionLists, ChecksOutlastTheFilterButHiddenOwnersAreNotAdded) {
+    OpenWithFourFound();
+    Check(Found(), {0, 1, 3});
+    Filter(L"o=");
+    EXPECT_EQ(Found().Checks(), (Checks{true, true, true}));
+    Filter(L"adams");
+    Press(IDC_SELECTION_ADD_BUTTON);
+    EXPECT_EQ(Chosen().Column(0), Texts{kAdams});
+    Filter(L"");
+    EXPECT_EQ(Found().Checks(), (Checks{true, true, false, true}));
+}
+
+TEST_F(SelectionLists, SelectionAndFocusMarkFollowTheirOwners) {
+    OpenWithFourFound();
+    Found().Select({1, 3});
+    Filter(L"o=");
+    EXPECT_EQ(Found().SelectedRows(), (std::vector<int>{1, 2}));
+    EXPECT_EQ(Found().FocusedRow(), 2);
+    SortBy(5);
+    EXPECT_EQ(Found().Column(0), (Texts{kNovak, kIvanov, kAdams}));
+    EXPECT_EQ(Found().SelectedRows(), (std::vector<int>{0, 2}));
+    EXPECT_EQ(Found().FocusedRow(), 0);
+}
+
+TEST_F(SelectionLists, AChangeOfTheSortFieldSortsTheUpperListOnly) {
+    OpenWithFourFound({kNovak, kAdams});
+    SortBy(5);
+    EXPECT_EQ(Found().Column(0), (Texts{kNovak, kIvanov, kAdams, kBell}));
+    EXPECT_EQ(Chosen().Column(0), (Texts{kNovak, kAdams}));
+    SortBy(1);
+    EXPECT_EQ(Found().Column(0), (Texts{kNovak, kAdams, kIvanov, kBell}));
+}
+
+TEST_F(SelectionLists, AHeaderClickSortsItsListAndTheNextOneReversesIt) {
+    OpenWithFourFound({kNovak, kAdams});
+    ClickHeader(Found());
+    EXPECT_EQ(Found().Column(0), (Texts{kAdams, kBell, kIvanov, kNovak}));
+    EXPECT_EQ(Chosen().Column(0), (Texts{kNovak, kAdams}));
+    ClickHeader(Found());
+    EXPECT_EQ(Found().Column(0), (Texts{kNovak, kIvanov, kBell, kAdams}));
+    ClickHeader(Chosen());
+    EXPECT_EQ(Chosen().Column(0), (Texts{kAdams, kNovak}));
+    ClickHeader(Chosen());
+    EXPECT_EQ(Chosen().Column(0), (Texts{kNovak, kAdams}));
+    SortBy(5);
+    EXPECT_EQ(Found().Column(0), (Texts{kAdams, kIvanov, kNovak, kBell}));
+}
+
+TEST_F(SelectionLists, TheHeadingIsMarkedWhileTheListIsSorted) {
+    OpenWithFourFound({kNovak, kAdams});
+    EXPECT_EQ(MarkOf(Found()), 0);
+    ClickHeader(Found());
+    EXPECT_EQ(MarkOf(Found()), HDF_SORTUP);
+    EXPECT_EQ(MarkOf(Chosen()), 0);
+    ClickHeader(Found());
+    EXPECT_EQ(MarkOf(Found()), HDF_SORTDOWN);
+    SortBy(5);
+    EXPECT_EQ(MarkOf(Found()), HDF_SORTDOWN);
+    Filter(L"adams");
+    EXPECT_EQ(MarkOf(Found()), 0);
+    ClickHeader(Chosen());
+    EXPECT_EQ(MarkOf(Chosen()), HDF_SORTUP);
+}
+
+TEST_F(SelectionLists, ChecksFollowTheirOwnersThroughASort) {
+    OpenWithFourFound();
+    Check(Found(), {0, 3});
+    ClickHeader(Found());
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, true, true}));
+    ClickHeader(Found());
+    EXPECT_EQ(Found().Checks(), (Checks{true, true, false, false}));
+}
+
+TEST_F(SelectionLists, TheArrowDownAddsTheCheckedOwnersOnce) {
+    OpenWithFourFound({kBell});
+    Check(Found(), {0, 2, 3});
+    Press(IDC_SELECTION_ADD_BUTTON);
+    EXPECT_EQ(Chosen().Column(0), (Texts{kBell, kIvanov, kNovak}));
+    Press(IDC_SELECTION_ADD_BUTTON);
+    EXPECT_EQ(Chosen().RowCount(), 3);
+    EXPECT_EQ(Found().Checks(), (Checks{true, false, true, true}));
+    EXPECT_EQ(Chosen().ColumnWidth(0), Chosen().ClientSize().cx);
+}
+
+TEST_F(SelectionLists, TheArrowUpRemovesTheCheckedOwners) {
+    OpenRecipients({kIvanov, kAdams, kBell, kNovak});
+    Press(IDC_SELECTION_REMOVE_BUTTON);
+    EXPECT_EQ(Chosen().RowCount(), 4);
+    Check(Chosen(), {0, 2});
+    Press(IDC_SELECTION_REMOVE_BUTTON);
+    EXPECT_EQ(Chosen().Column(0), (Texts{kAdams, kNovak}));
+    EXPECT_EQ(Chosen().Checks(), (Checks{false, false}));
+}
+
+TEST_F(SelectionLists, ADoubleClickInTheUpperListShowsTheSubjectLineByLine) {
+    OpenWithFourFound();
+    Found().PostLeftDoubleClick(Found().CellCentre(1, 0));
+    ExpectBox(L"CN=Adams,\r\nO=Charlie,\r\nC=GB", kBoxInformation, IDOK, L"Subject");
+    Found().PostLeftDoubleClick(Found().PointBelowRows());
+    ExpectStaysOpen();
+}
+
+TEST_F(SelectionLists, ADoubleClickInTheLowerListShowsTheRecipient) {
+    OpenRecipients({L"CN=Ruth Vale,O=Vale, Son and Partners,C=GB"});
+    Chosen().PostLeftDoubleClick(Chosen().CellCentre(0, 0));
+    ExpectBox(L"CN=Ruth Vale,\r\nO=Vale, Son and Partners,\r\nC=GB", kBoxInformation, IDOK, L"Recipient");
+}
+
+TEST_F(SelectionLists, ADoubleClickInTheLowerListOfASignerListShowsTheSigner) {
+    OpenFirstList({{L"Board", {L"CN=Ann,C=GB"}}});
+    Chosen().PostLeftDoubleClick(Chosen().CellCentre(0, 0));
+    ExpectBox(L"CN=Ann,\r\nC=GB", kBoxInformation, IDOK, L"Signer");
+}
+
+TEST_F(SelectionLists, ALongListKeepsItsScrollPositionThroughTheChecks) {
+    for (int i = 0; i < 100; ++i) {
+        script.Certificate(LibraryScriptWriter::kEvery, "CN=Owner " + std::to_string(100 + i));
+    }
+    OpenRecipients();
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    EXPECT_EQ(Found().ColumnWidth(0), Found().ClientSize().cx);
+    EXPECT_EQ(Found().Style() & WS_HSCROLL, 0U);
+    Found().Send(LVM_ENSUREVISIBLE, 60);
+    const int top = Found().TopRow();
+    ASSERT_GT(top, 0);
+    Press(IDC_SELECTION_SELECT_ALL_BUTTON);
+    EXPECT_EQ(Found().TopRow(), top);
+    Press(IDC_SELECTION_CLEAR_BUTTON);
+    EXPECT_EQ(Found().TopRow(), top);
+    Filter(L"owner 1");
+    EXPECT_EQ(Found().TopRow(), top);
+}
+
+}  // namespace
+}  // namespace corvane
