@@ -5,9 +5,6 @@
 
 namespace corvane {
 
-/// Shown by "Add profile" where the provider has no CS profile (refusal).
-inline constexpr wchar_t kNoCsProfilesText[] = L"No CS profiles found.";
-
 /// Shown by "Delete profile", after the confirmation, where the list has no other profile (refusal).
 inline constexpr wchar_t kLastProfileText[] = L"Last profile cannot be deleted.";
 

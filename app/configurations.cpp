@@ -1,11 +1,13 @@
 #include "app/configurations.h"
 
+#include "app/config_page_dialog.h"
+
 namespace corvane {
 
-std::optional<AppSettings> EditConfigurations(toolkit::WindowHandle /*owner*/,
-                                              const AppSettings& /*settings*/, const Services& /*services*/) {
-    // The program has no dialog for this yet, so the command ends like a cancelled one.
-    return std::nullopt;
+std::optional<AppSettings> EditConfigurations(toolkit::WindowHandle owner, const AppSettings& settings,
+                                              const Services& services) {
+    CConfigPage dialog(owner, settings, services.reporter);
+    return dialog.RunModal() == IDOK ? std::optional(dialog.Settings()) : std::nullopt;
 }
 
 }  // namespace corvane

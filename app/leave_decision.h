@@ -5,8 +5,8 @@
 
 namespace corvane {
 
-/// Tells whether the main window may close: at once without unsaved changes, else only if the user answers
-/// the question whether they may be lost with Yes.
+/// Tells whether a window may close: at once without unsaved changes, else only if the user answers the
+/// question whether they may be lost with Yes.
 [[nodiscard]] bool MayLeave(bool isDirty, ErrorReporter& reporter, toolkit::WindowHandle owner);
 
 }  // namespace corvane

@@ -8,6 +8,7 @@
 #include "app/profile_commands.h"
 #include "app/reporting/message_styles.h"
 #include "app/rules_file_commands.h"
+#include "editors/cs_profile_choice_form.h"
 #include "editors/profile_editor.h"
 #include "res/ids.h"
 

@@ -1,11 +1,16 @@
 #include "editors/profile_editor.h"
 
+#include "editors/profile_editor_dialog.h"
+
 namespace corvane {
 
-std::optional<EditedProfile> EditProfile(toolkit::WindowHandle /*owner*/, const ConfigurationState& /*state*/,
-                                         const Profile& /*profile*/, const EditorServices& /*services*/) {
-    // The program has no dialog for this yet, so the command ends like a cancelled one.
-    return std::nullopt;
+std::optional<EditedProfile> EditProfile(toolkit::WindowHandle owner, const ConfigurationState& state,
+                                         const Profile& profile, const EditorServices& services) {
+    CAddProfile dialog(owner, state, profile, services);
+    if (dialog.RunModal() != IDOK) {
+        return std::nullopt;
+    }
+    return EditedProfile{.profile = dialog.Result(), .deletedCsProfiles = dialog.DeletedCsProfiles()};
 }
 
 }  // namespace corvane

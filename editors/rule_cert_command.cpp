@@ -20,9 +20,9 @@ CertCommand CertButtonCommand(const RuleForm& form) {
     return CertCommand::kNone;
 }
 
-CsProfile SelectedCsProfile(const RuleForm& form) {
+std::size_t SelectedCsProfileIndex(const RuleForm& form) {
     const int index = form.csProfile.index;
-    return index < 0 ? CsProfile() : CsProfileAt(form.profile, static_cast<std::size_t>(index));
+    return index < 0 ? form.profile.csProfiles.size() : static_cast<std::size_t>(index);
 }
 
 void TakeCertPath(RuleForm& form, const std::wstring& path) {

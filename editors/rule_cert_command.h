@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,9 @@ enum class CertCommand { kNone, kPickFolder, kPickExecutable, kEditSignerLists, 
 /// What the certificate button opens for the operation whose fields are shown.
 [[nodiscard]] CertCommand CertButtonCommand(const RuleForm& form);
 
-/// The settings of the selected CS profile, under which certificates are searched.
-[[nodiscard]] CsProfile SelectedCsProfile(const RuleForm& form);
+/// The position of the CS profile under which certificates are searched: the selected one, or one beyond
+/// the profile's, which has no settings but the defaults, where none is selected.
+[[nodiscard]] std::size_t SelectedCsProfileIndex(const RuleForm& form);
 
 // What the form takes when the opened dialog ended with OK. After a Cancel nothing is to be called.
 

@@ -114,6 +114,22 @@ void FillSignatureFormats(ChoiceField& choice) {
     choice.entries = {L"Attached signature", L"Detached signature"};
 }
 
+std::wstring CertLabel(Operation operation) {
+    switch (LayoutOf(operation).cert) {
+        case CertUse::kRecipients:
+            return L"Recipients:";
+        case CertUse::kSigners:
+            return L"Signer lists:";
+        case CertUse::kSecondOutputFolder:
+            return L"Second output folder:";
+        case CertUse::kExecutable:
+            return L"Executable file:";
+        case CertUse::kNone:
+            break;
+    }
+    return L"Certificates:";
+}
+
 void ShowCertCount(RuleForm& form, Operation operation) {
     const CertUse use = LayoutOf(operation).cert;
     if (use == CertUse::kRecipients) {

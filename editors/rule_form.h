@@ -129,6 +129,9 @@ void FillArchivers(ChoiceField& choice, const OperationLayout& layout);
 /// Fills the choice with the two signature formats. The index stays.
 void FillSignatureFormats(ChoiceField& choice);
 
+/// The label of the certificate field: what the operation wants to have in it.
+[[nodiscard]] std::wstring CertLabel(Operation operation);
+
 /// Shows the number of recipients or of signer lists in the certificate field of an operation that has such.
 void ShowCertCount(RuleForm& form, Operation operation);
 

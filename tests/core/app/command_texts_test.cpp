@@ -16,7 +16,6 @@ TEST(CommandTexts, DeletingAProfileAsksWithItsName) {
 }
 
 TEST(CommandTexts, RefusalsAreTheUsersWords) {
-    EXPECT_STREQ(kNoCsProfilesText, L"No CS profiles found.");
     EXPECT_STREQ(kLastProfileText, L"Last profile cannot be deleted.");
 }
 

@@ -171,5 +171,17 @@ TEST(OperationLayout, AChangeOfOperationShowsTheFieldsOfEachOperationWhereverItC
     }
 }
 
+TEST(CertLabel, SaysWhatTheOperationWantsInTheField) {
+    for (std::size_t i = 0; i < kOperationLayouts.size(); ++i) {
+        const std::wstring code = kCodes[i];
+        const wchar_t* const expected = IsOneOf(code, L"ENCR LENC SGEN")             ? L"Recipients:"
+                                        : IsOneOf(code, L"CHCK CHKX DCHK RESG DCCX") ? L"Signer lists:"
+                                        : code == L"MOVE" ? L"Second output folder:"
+                                        : code == L"EXEC" ? L"Executable file:"
+                                                          : L"Certificates:";
+        EXPECT_EQ(CertLabel(static_cast<Operation>(i)), expected) << Printable(code);
+    }
+}
+
 }  // namespace
 }  // namespace corvane::testing

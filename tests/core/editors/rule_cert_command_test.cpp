@@ -25,24 +25,17 @@ TEST(CertButtonCommand, TheExecutableIsPickedAmongAllFiles) {
     EXPECT_STREQ(kExecutableDefaultExtension, L"*.*");
 }
 
-TEST(SelectedCsProfile, HasTheSettingsOfTheSelectedEntry) {
+TEST(SelectedCsProfileIndex, IsThatOfTheSelectedEntry) {
     RuleForm form = Opened(FullRule(L"ENCR"));
-    EXPECT_EQ(SelectedCsProfile(form).name, L"Second");
-    EXPECT_EQ(SelectedCsProfile(form).timeStampServer, L"http://second");
-    EXPECT_EQ(SelectedCsProfile(form).notUseDirectory, 0);
-    EXPECT_EQ(SelectedCsProfile(form).crlUpdatePeriod, 24);
+    EXPECT_EQ(CsProfileAt(form.profile, SelectedCsProfileIndex(form)).name, L"Second");
     form.csProfile.index = 0;
-    EXPECT_EQ(SelectedCsProfile(form).name, L"First");
+    EXPECT_EQ(SelectedCsProfileIndex(form), 0U);
 }
 
-TEST(SelectedCsProfile, WithoutASelectionOrWithShortListsHasTheDefaults) {
+TEST(SelectedCsProfileIndex, WithoutASelectionIsThatOfNoCsProfile) {
     RuleForm form = Opened(FullRule(L"ENCR"));
     form.csProfile.index = -1;
-    EXPECT_EQ(SelectedCsProfile(form), CsProfile());
-    form.csProfile.index = 2;
-    form.profile.crlUpdatePeriods.clear();
-    EXPECT_EQ(SelectedCsProfile(form).name, L"Third");
-    EXPECT_EQ(SelectedCsProfile(form).crlUpdatePeriod, 1);
+    EXPECT_EQ(CsProfileAt(form.profile, SelectedCsProfileIndex(form)), CsProfile());
 }
 
 TEST(TakeCertPath, PutsThePathIntoTheCertificateField) {

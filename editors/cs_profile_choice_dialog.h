@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "editors/cs_profile_choice_form.h"
+#include "toolkit/dialog.h"
+
+namespace corvane {
+
+/// Asks for one of the provider's CS profiles.
+class CAddCSProfDlg final : public toolkit::Dialog {
+  public:
+    CAddCSProfDlg(HWND owner, TextList catalogue, ErrorReporter& reporter);
+
+    /// The chosen name, to be taken after a run that ended with OK.
+    [[nodiscard]] std::wstring Name() const { return form_.Name(); }
+
+  protected:
+    bool OnInitDialog() override;
+    void OnOk() override;
+    void ExchangeFields(toolkit::DataExchange& exchange) override;
+
+  private:
+    CsProfileChoiceForm form_;
+    ErrorReporter& reporter_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,103 @@
+#include "editors/cs_profile_commands.h"
+
+#include <algorithm>
+
+#include "app/reporting/message_styles.h"
+#include "editors/cs_profile_list.h"
+#include "toolkit/format_text.h"
+
+namespace corvane {
+
+namespace {
+
+bool IsEntry(const ProfileForm& form, int index) {
+    return index >= 0 && static_cast<std::size_t>(index) < form.result.csProfiles.size();
+}
+
+bool HasCertificatesOf(const Rule& rule, const std::wstring& csProfile) {
+    return rule.csProfile == csProfile && (!rule.recipients.empty() || !rule.signerGroups.empty());
+}
+
+/// The numbers of the rules that hold certificates of a CS profile, counted from 1: "2,5".
+std::wstring RulesWithCertificatesOf(const ProfileForm& form, const std::wstring& csProfile) {
+    std::wstring numbers;
+    std::int64_t number = 0;
+    for (const Rule& rule : form.result.rules) {
+        ++number;
+        if (HasCertificatesOf(rule, csProfile)) {
+            numbers += (numbers.empty() ? L"" : L",") + toolkit::DecimalText(number);
+        }
+    }
+    return numbers;
+}
+
+std::wstring DeletionQuestion(const ProfileForm& form, const std::wstring& csProfile) {
+    const std::wstring rules = RulesWithCertificatesOf(form, csProfile);
+    std::wstring question;
+    if (!rules.empty()) {
+        // The name that the user knows the profile by, not the one being typed.
+        question = toolkit::FormatText(
+            L"Rule(s) '%s' of profile '%s' are using sertificates of CS profile '%s'.\r\n"
+            L"Validation of these rules will be nessesary for proper work.\r\n",
+            {rules, form.openedName, csProfile});
+    }
+    return question + toolkit::FormatText(L"Delete CS profile '%s' from list?", {csProfile});
+}
+
+}  // namespace
+
+bool MayLeaveCsProfile(ProfileForm& form, const ShownCsProfile& shown) {
+    if (!IsTimeStampServerMissing(form)) {
+        return true;
+    }
+    form.selectedCsProfile = shown.index;
+    return false;
+}
+
+void ChangeShownCsProfile(ProfileForm& form, ShownCsProfile& shown) {
+    const int selected = form.selectedCsProfile;
+    if (selected != shown.index && IsEntry(form, selected)) {
+        KeepShownSettings(form, shown.index);
+        ShowCsProfile(form, selected, shown);
+    }
+}
+
+void AddCsProfile(ProfileForm& form, const std::wstring& name, ShownCsProfile& shown,
+                  const toolkit::SystemText& systemText) {
+    if (HasCsProfile(form.result, name, systemText)) {
+        return;
+    }
+    KeepShownSettings(form, shown.index);
+    CsProfile added;
+    added.name = name;
+    AppendCsProfile(form.result, added);
+    ShowCsProfile(form, static_cast<int>(form.result.csProfiles.size()) - 1, shown);
+    std::erase(form.deletedCsProfiles, name);
+}
+
+void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown, ErrorReporter& reporter,
+                     toolkit::WindowHandle dialog) {
+    TextList& names = form.result.csProfiles;
+    if (names.size() == 1) {
+        reporter.ShowMessage(dialog, std::wstring(L"Last CS profile in list cannot be deleted."),
+                             kRefusalStyle);
+        return;
+    }
+    if (!IsEntry(form, form.selectedCsProfile)) {
+        reporter.ShowMessage(dialog, std::wstring(L"Select list item to delete."), kRefusalStyle);
+        return;
+    }
+    const auto selected = static_cast<std::size_t>(form.selectedCsProfile);
+    const std::wstring name = names[selected];
+    if (reporter.ShowMessage(dialog, DeletionQuestion(form, name), kConfirmationStyle) != kAnswerYes) {
+        return;
+    }
+    EraseCsProfile(form.result, selected);
+    ShowCsProfile(form, 0, shown);
+    TextList& deleted = form.deletedCsProfiles;
+    if (std::find(deleted.begin(), deleted.end(), name) == deleted.end()) {
+        deleted.push_back(name);
+    }
+}
+
+}  // namespace corvane

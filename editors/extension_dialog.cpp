@@ -1,0 +1,28 @@
+#include "editors/extension_dialog.h"
+
+#include "res/ids.h"
+
+namespace corvane {
+
+CAddExtDlg::CAddExtDlg(HWND owner, const toolkit::SystemText& systemText)
+    : Dialog(IDD_EXTENSION, owner), systemText_(systemText) {}
+
+bool CAddExtDlg::OnInitDialog() {
+    SetWindowTextW(Window(), kExtensionTitle);
+    SetControlText(IDC_EXTENSION_LABEL, kExtensionTitle);
+    SetControlText(IDCANCEL, kExtensionExitText);
+    return true;
+}
+
+void CAddExtDlg::OnOk() {
+    TakeData();
+    if (form_.Confirm(systemText_)) {
+        EndModal(IDOK);
+    }
+}
+
+void CAddExtDlg::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_EXTENSION_EDIT, form_.text);
+}
+
+}  // namespace corvane

@@ -1,0 +1,32 @@
+#include "editors/mask_dialog.h"
+
+#include <utility>
+
+#include "res/ids.h"
+#include "toolkit/combo_box.h"
+
+namespace corvane {
+
+AddMask::AddMask(HWND owner, MaskForm form, ErrorReporter& reporter)
+    : Dialog(IDD_MASK, owner), form_(std::move(form)), reporter_(reporter) {}
+
+bool AddMask::OnInitDialog() {
+    SetWindowTextW(Window(), kMaskTitle);
+    SetControlText(IDCANCEL, kMaskExitText);
+    toolkit::ComboBox(Control(IDC_MASK_COMBO)).Fill(form_.suggestions);
+    PutData();
+    return true;
+}
+
+void AddMask::OnOk() {
+    TakeData();
+    if (form_.Confirm(reporter_, Window())) {
+        EndModal(IDOK);
+    }
+}
+
+void AddMask::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_MASK_COMBO, form_.text);
+}
+
+}  // namespace corvane

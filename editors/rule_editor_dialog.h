@@ -1,0 +1,67 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "editors/editor_services.h"
+#include "editors/mask_list_view.h"
+#include "editors/rule_form.h"
+#include "toolkit/button_icons.h"
+#include "toolkit/dialog.h"
+#include "toolkit/tool_tip.h"
+
+namespace corvane {
+
+/// The rule editor: one template whose fields follow the operation. It shows a RuleForm, reads it back and
+/// asks the functions on the form what to do.
+class CAddRule final : public toolkit::Dialog {
+  public:
+    /// Opens on a copy of `rule`, which belongs to `profile`; one without an operation is a new rule.
+    CAddRule(HWND owner, const Profile& profile, TextList maskSuggestions, const Rule& rule,
+             const EditorServices& services);
+
+    /// The new rule, to be taken after a run that ended with OK.
+    [[nodiscard]] const Rule& Result() const { return result_; }
+
+  protected:
+    bool OnInitDialog() override;
+    bool OnCommand(int controlId, UINT notificationCode) override;
+    bool OnNotify(NMHDR& header, LRESULT& result) override;
+    void OnOk() override;
+    void OnScaleChanged() override;
+    bool PreTranslateMessage(MSG& message) override;
+    void ExchangeFields(toolkit::DataExchange& exchange) override;
+    void ReportException(const std::exception& exception) override;
+
+  private:
+    void SetUpButtons();
+    /// Shows all of the form in the controls.
+    void ShowForm();
+    void ShowChoices();
+    void ShowFields();
+    void ShowCertButton();
+
+    bool OnSelectionChanged(int controlId);
+    void OnNumberChanged(int controlId);
+    bool OnButton(int controlId);
+
+    void PickFolder(std::wstring& field);
+    void RunCertCommand();
+    void PickCertPath(const std::optional<std::wstring>& path);
+    void ShowErrorBox(const std::wstring& text, RuleIcon icon);
+
+    [[nodiscard]] std::optional<std::wstring> AskForMask(const std::wstring& initialText);
+    void AddMaskToRule();
+    void EditSelectedMask();
+    void DeleteSelectedMasks();
+
+    const EditorServices& services_;
+    TextList maskSuggestions_;
+    RuleForm form_;
+    Rule result_;
+    MaskListView maskList_;
+    toolkit::ToolTip toolTip_;
+    toolkit::ButtonIcons buttonIcons_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "config/records.h"
+
+namespace corvane::testing {
+
+/// A CS profile every value of which differs from its default, and from those of other seeds.
+[[nodiscard]] CsProfile FilledCsProfile(const std::wstring& name, std::int32_t seed);
+
+/// A profile of that name with these CS profiles, each with settings of its own.
+[[nodiscard]] Profile ProfileWith(const std::wstring& name, const TextList& csProfiles);
+
+/// The lengths of the eleven lists, the names first.
+[[nodiscard]] std::vector<std::size_t> ListLengths(const Profile& profile);
+
+}  // namespace corvane::testing
