@@ -23,7 +23,7 @@ function(corvane_test)
   cmake_parse_arguments(TEST "" "NAME;LABEL;TIMEOUT"
     "SOURCES;LIBRARIES;ENVIRONMENT;RESOURCE_LOCK;DPI;CODE_PAGES" ${ARGN})
   if(NOT TEST_TIMEOUT)
-    set(TEST_TIMEOUT 120)
+    set(TEST_TIMEOUT 300)
   endif()
   add_executable(${TEST_NAME} ${TEST_SOURCES})
   target_link_libraries(${TEST_NAME} PRIVATE corvane_settings ${TEST_LIBRARIES} gmock_main)
