@@ -20,7 +20,18 @@ namespace {
 
 using driver::Window;
 
-enum class Kind { kLabel, kPicture, kPushButton, kIconButton, kEdit, kList, kOther };
+enum class Kind {
+    kLabel,
+    kPicture,
+    kPushButton,
+    kIconButton,
+    kCheckBox,
+    kGroupBox,
+    kEdit,
+    kList,
+    kListBox,
+    kOther
+};
 
 Kind KindOf(const Window& control) {
     const DWORD style = control.Style();
@@ -29,10 +40,20 @@ Kind KindOf(const Window& control) {
         return type == SS_ICON || type == SS_BITMAP ? Kind::kPicture : Kind::kLabel;
     }
     if (control.IsOfClass(L"Button")) {
+        const DWORD type = style & BS_TYPEMASK;
+        if (type == BS_GROUPBOX) {
+            return Kind::kGroupBox;
+        }
+        if (type == BS_AUTOCHECKBOX || type == BS_CHECKBOX) {
+            return Kind::kCheckBox;
+        }
         return (style & (BS_ICON | BS_BITMAP)) != 0 ? Kind::kIconButton : Kind::kPushButton;
     }
     if (control.IsOfClass(L"Edit")) {
         return Kind::kEdit;
+    }
+    if (control.IsOfClass(WC_LISTBOXW)) {
+        return Kind::kListBox;
     }
     return control.IsOfClass(WC_LISTVIEWW) ? Kind::kList : Kind::kOther;
 }
@@ -112,6 +133,23 @@ void CheckCaptionBar(const Window& dialog, Faults& faults) {
     }
 }
 
+// Pixels at 96 dots per inch: a check box with its gap, and how far the title of a group stands in.
+constexpr int kCheckBoxWidth = 17;
+constexpr int kGroupTitleIndent = 9;
+
+/// A group box is drawn around its members.
+bool IsGroupAround(const Window& group, const RECT& inner) {
+    const RECT outer = group.Bounds();
+    return KindOf(group) == Kind::kGroupBox && outer.left < inner.left && outer.top < inner.top &&
+           outer.right > inner.right && outer.bottom > inner.bottom;
+}
+
+/// An up-down control sits on the end of its field.
+bool IsUpDownOf(const Window& upDown, const Window& field) {
+    return upDown.IsOfClass(UPDOWN_CLASSW) &&
+           reinterpret_cast<HWND>(upDown.Send(UDM_GETBUDDY)) == field.Handle();
+}
+
 bool IsReadOnly(const Window& edit) {
     return (edit.Style() & ES_READONLY) != 0;
 }
@@ -147,7 +185,8 @@ Faults CutOffTexts(const Window& dialog) {
         if (kind == Kind::kList) {
             CheckHeadings(control, faults);
         }
-        if (kind != Kind::kLabel && kind != Kind::kPushButton && kind != Kind::kEdit) {
+        if (kind != Kind::kLabel && kind != Kind::kPushButton && kind != Kind::kCheckBox &&
+            kind != Kind::kGroupBox && kind != Kind::kEdit) {
             continue;
         }
         const UniqueFont font = FontOf(control);
@@ -164,6 +203,10 @@ Faults CutOffTexts(const Window& dialog) {
             if ((style & BS_MULTILINE) != 0) {
                 width = static_cast<int>(given.cx);
             }
+        } else if (kind == Kind::kCheckBox) {
+            given.cx -= MulDiv(kCheckBoxWidth, ScreenDpi(), 96);
+        } else if (kind == Kind::kGroupBox) {
+            given.cx -= MulDiv(2 * kGroupTitleIndent, ScreenDpi(), 96);
         } else {
             hasPrefix = false;
             if ((style & ES_MULTILINE) != 0) {
@@ -192,7 +235,8 @@ Faults MisplacedControls(const Window& dialog) {
         for (auto second = std::next(first); second != controls.end(); ++second) {
             const RECT other = second->Bounds();
             RECT common{};
-            if (IntersectRect(&common, &bounds, &other)) {
+            if (IntersectRect(&common, &bounds, &other) && !IsGroupAround(*first, other) &&
+                !IsGroupAround(*second, bounds) && !IsUpDownOf(*second, *first)) {
                 faults.push_back(first->Name() + L" and " + second->Name() + L" overlap.");
             }
         }
@@ -203,13 +247,19 @@ Faults MisplacedControls(const Window& dialog) {
 Faults NamelessControls(const Window& dialog) {
     Faults faults;
     std::optional<Window> before;
-    for (const Window& control : VisibleControls(dialog)) {
+    for (const Window& control : dialog.Children()) {
         const Kind kind = KindOf(control);
         const bool hasText = !control.Text().empty();
+        // A hidden label names its field too, where what is seen before the field is something else.
+        if (!control.IsVisible() && (kind != Kind::kLabel || !hasText)) {
+            continue;
+        }
         const bool hasLabel = before && KindOf(*before) == Kind::kLabel && !before->Text().empty();
         switch (kind) {
             case Kind::kPushButton:
             case Kind::kIconButton:
+            case Kind::kCheckBox:
+            case Kind::kGroupBox:
                 if (!hasText) {
                     faults.push_back(control.Name() + L" has no text.");
                 }
@@ -217,6 +267,11 @@ Faults NamelessControls(const Window& dialog) {
             case Kind::kList:
                 if (!hasText && !hasLabel) {
                     faults.push_back(control.Name() + L" has neither a text nor a label.");
+                }
+                break;
+            case Kind::kListBox:
+                if (!hasLabel) {
+                    faults.push_back(control.Name() + L" has no label right before it.");
                 }
                 break;
             case Kind::kEdit:

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
 // The picture library's headers want these two by their bare names.
 using std::max;
@@ -13,6 +15,7 @@ using std::min;
 #include <gdiplus.h>
 
 #include "tests/driver/failure.h"
+#include "tests/driver/waiting.h"
 
 namespace audit {
 namespace {
@@ -45,6 +48,88 @@ std::filesystem::path PictureFolder() {
     return path.front() == L'/' ? L"Z:" + path : path;
 }
 
+/// The rectangle that the window takes on the screen, with its frame: a window manager need not draw the
+/// frame as wide as the window takes it to be, and what lies behind would be in the picture.
+RECT FrameOnScreen(const driver::Window& window) {
+    const RECT bounds = window.Bounds();
+    const RECT client = window.ClientBounds();
+    const COLORREF line = ScreenColour({client.left - 1, (client.top + client.bottom) / 2});
+    // Beside the icon, the title and the buttons of the caption bar.
+    const LONG column = client.left + (client.right - client.left) / 8;
+    LONG top = client.top - 1;
+    while (top > bounds.top && ScreenColour({column, top}) != line) {
+        --top;
+    }
+    if (top == bounds.top || ScreenColour({column, client.bottom}) != line) {
+        return bounds;
+    }
+    return {client.left - 1, top, client.right + 1, client.bottom + 1};
+}
+
+/// A copy of a part of the screen.
+class ScreenCopy {
+  public:
+    explicit ScreenCopy(const RECT& bounds)
+        : width_(bounds.right - bounds.left), height_(bounds.bottom - bounds.top) {
+        const HDC screen = GetDC(nullptr);
+        const HDC memory = CreateCompatibleDC(screen);
+        bitmap_ = CreateCompatibleBitmap(screen, width_, height_);
+        const HGDIOBJ before = SelectObject(memory, bitmap_);
+        BitBlt(memory, 0, 0, width_, height_, screen, bounds.left, bounds.top, SRCCOPY);
+        SelectObject(memory, before);
+        DeleteDC(memory);
+        ReleaseDC(nullptr, screen);
+    }
+    ~ScreenCopy() { DeleteObject(bitmap_); }
+    ScreenCopy(const ScreenCopy&) = delete;
+    ScreenCopy& operator=(const ScreenCopy&) = delete;
+    ScreenCopy(ScreenCopy&&) = delete;
+    ScreenCopy& operator=(ScreenCopy&&) = delete;
+
+    [[nodiscard]] HBITMAP Bitmap() const { return bitmap_; }
+    [[nodiscard]] std::vector<DWORD> Pixels() const {
+        std::vector<DWORD> pixels(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+        BITMAPINFO info{};
+        info.bmiHeader = {.biSize = sizeof info.bmiHeader,
+                          .biWidth = width_,
+                          .biHeight = height_,
+                          .biPlanes = 1,
+                          .biBitCount = 32,
+                          .biCompression = BI_RGB,
+                          .biSizeImage = 0,
+                          .biXPelsPerMeter = 0,
+                          .biYPelsPerMeter = 0,
+                          .biClrUsed = 0,
+                          .biClrImportant = 0};
+        const HDC screen = GetDC(nullptr);
+        GetDIBits(screen, bitmap_, 0, static_cast<UINT>(height_), pixels.data(), &info, DIB_RGB_COLORS);
+        ReleaseDC(nullptr, screen);
+        return pixels;
+    }
+
+  private:
+    int width_;
+    int height_;
+    HBITMAP bitmap_ = nullptr;
+};
+
+/// Comes back when the window has looked the same for a few looks: the window manager draws its frame in its
+/// own time. What never rests is pictured as it is.
+void WaitUntilAtRest(const driver::Window& window) {
+    constexpr int kEnoughLooks = 5;
+    constexpr unsigned kLimitMilliseconds = 5000;
+    int looks = 0;
+    std::vector<DWORD> before;
+    static_cast<void>(driver::WaitUntil(
+        [&] {
+            std::vector<DWORD> now = ScreenCopy(window.Bounds()).Pixels();
+            looks = now == before ? looks + 1 : 0;
+            before = std::move(now);
+            return looks == kEnoughLooks;
+        },
+        kLimitMilliseconds));
+}
+
 }  // namespace
 
 int ScreenDpi() {
@@ -62,32 +147,25 @@ COLORREF ScreenColour(POINT point) {
 }
 
 void KeepPicture(const driver::Window& window, const std::string& name) {
+    RedrawWindow(window.Handle(), nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    window.Send(WM_NULL);
+    KeepPictureAsPainted(window, name);
+}
+
+void KeepPictureAsPainted(const driver::Window& window, const std::string& name) {
     const std::filesystem::path folder = PictureFolder();
     std::filesystem::create_directories(folder);
     const std::filesystem::path file = folder / (name + "_" + std::to_string(ScreenDpi()) + ".png");
 
-    RedrawWindow(window.Handle(), nullptr, nullptr,
-                 RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    window.Send(WM_NULL);
-    const RECT bounds = window.Bounds();
-    const int width = bounds.right - bounds.left;
-    const int height = bounds.bottom - bounds.top;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, bounds.left, bounds.top, SRCCOPY);
-    SelectObject(memory, before);
-
+    WaitUntilAtRest(window);
+    const ScreenCopy copy(FrameOnScreen(window));
     bool isKept = false;
     {
         const PictureLibrary library;
-        Gdiplus::Bitmap picture(bitmap, nullptr);
+        Gdiplus::Bitmap picture(copy.Bitmap(), nullptr);
         isKept = picture.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
     }
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
     if (!isKept) {
         throw driver::Failure(L"The picture could not be kept: " + file.wstring());
     }

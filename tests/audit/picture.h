@@ -10,6 +10,10 @@ namespace audit {
 /// "<folder of pictures>/<name>_<dpi>.png". The folder is what CORVANE_PICTURES names.
 void KeepPicture(const driver::Window& window, const std::string& name);
 
+/// The same of a window whose program is busy: nothing is asked of it, and what it has painted is what there
+/// is.
+void KeepPictureAsPainted(const driver::Window& window, const std::string& name);
+
 /// Colour of one point of the screen.
 [[nodiscard]] COLORREF ScreenColour(POINT point);
 

@@ -14,11 +14,15 @@
 #include "tests/driver/message_box.h"
 #include "tests/driver/program.h"
 #include "tests/driver/window.h"
+#include "tests/journey/certificate_steps.h"
 
 namespace {
 
 constexpr int kMasksColumn = 6;
 constexpr int kExtraColumn = 8;
+
+// One of those who have a certificate of the stand-in library.
+constexpr wchar_t kPerson[] = L"CN=Helen Marsh,OU=Settlement,O=Northgate Clearing,C=GB";
 
 void Show(const char* name, const driver::Window& window) {
     // Wine keeps the id of the display's window as a property of its own.
@@ -34,8 +38,11 @@ void Show(const char* name, const driver::Window& window) {
 }
 
 void Close(const driver::Window& dialog) {
+    const driver::Window owner = dialog.Owner();
     dialog.Post(WM_CLOSE);
     dialog.WaitUntilGone();
+    owner.WaitUntilEnabled();
+    corvane::SettleDialog(owner);
 }
 
 /// The row with the longest text in a column: the one that has most to show.
@@ -47,6 +54,38 @@ int FullestRow(const driver::ListView& list, int column) {
         }
     }
     return fullest;
+}
+
+// Nothing of what is done here is confirmed in the end, so the configuration stays as it is.
+void ShowRuleEditor(const driver::Program& editor, const driver::Window& main) {
+    main.PostMenuCommand(IDM_ADD_RULE);
+    const driver::Window rule = corvane::WaitForDialogWith(editor, main, IDC_RULE_OPERATION_COMBO);
+    Show("rule_editor", rule);
+
+    rule.Control(IDC_RULE_CERT_BUTTON).PostClick();
+    const driver::Window recipients = corvane::WaitForDialogWith(editor, rule, IDC_SELECTION_CHOSEN_LIST);
+    corvane::SearchLocalStore(recipients);
+    // Those whose names every code page can write.
+    recipients.Control(IDC_SELECTION_FILTER_EDIT).SetText(L"northgate");
+    corvane::SettleDialog(recipients);
+    corvane::TakeOwners(recipients, {kPerson});
+    Show("recipients", recipients);
+    Close(recipients);
+
+    corvane::ChooseEntry(rule, IDC_RULE_OPERATION_COMBO, L"Verify attached signature");
+    rule.Control(IDC_RULE_CERT_BUTTON).PostClick();
+    const driver::Window lists = corvane::WaitForDialogWith(editor, rule, IDC_SIGNER_LISTS_EDIT_BUTTON);
+    corvane::AddSignerListByDialog(editor, lists, {L"Settlement desk", {kPerson}});
+    Show("signer_lists", lists);
+    Close(lists);
+    Close(rule);
+}
+
+void ShowByMenu(const driver::Program& editor, const driver::Window& main, int command, const char* name) {
+    main.PostMenuCommand(command);
+    const driver::Window dialog = editor.WaitForDialog(main);
+    Show(name, dialog);
+    Close(dialog);
 }
 
 void LeadThrough(const std::wstring& editorFile) {
@@ -61,10 +100,10 @@ void LeadThrough(const std::wstring& editorFile) {
     Show("about_box", about);
     Close(about);
 
-    main.PostMenuCommand(IDM_LOG_PATH);
-    const driver::Window logSettings = editor.WaitForDialog(main);
-    Show("log_settings", logSettings);
-    Close(logSettings);
+    ShowRuleEditor(editor, main);
+    ShowByMenu(editor, main, IDM_EDIT_PROFILE, "profile_editor");
+    ShowByMenu(editor, main, IDM_CONFIGURATIONS, "configurations");
+    ShowByMenu(editor, main, IDM_LOG_PATH, "log_settings");
 
     rules.PostRightClick(rules.CellCentre(FullestRow(rules, kExtraColumn), kExtraColumn));
     const driver::Window description = editor.WaitForDialog(main);
