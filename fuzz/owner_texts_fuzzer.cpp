@@ -96,9 +96,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (sizeBytes == 0) {
         return 0;
     }
-    static const TextList fields = SubjectFields();
+    static const TextList kFields = SubjectFields();
     const fuzz::DoubleByteText systemText;
-    const std::wstring fieldKey = SubjectFieldKey(fields[data[0] % fields.size()], systemText);
+    const std::wstring fieldKey = SubjectFieldKey(kFields[data[0] % kFields.size()], systemText);
     const std::wstring text =
         systemText.Widen(std::string_view(reinterpret_cast<const char*>(data + 1), sizeBytes - 1));
     OwnerViews owners;

@@ -78,12 +78,14 @@ class CertificateHost {
     };
 
     void AddChild(const wchar_t* windowClass, const wchar_t* text, DWORD style, int id, const Place& place) {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): a child's number stands in the place of a menu.
+        const auto number = reinterpret_cast<HMENU>(static_cast<INT_PTR>(id));
         CreateWindowExW(0, windowClass, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
-                        place.width, place.height, window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                        nullptr, nullptr);
+                        place.width, place.height, window_, number, nullptr, nullptr);
     }
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the platform keeps the pointer as a number.
         auto* const host = reinterpret_cast<CertificateHost*>(GetWindowLongPtrW(window, GWLP_USERDATA));
         if (host != nullptr && message == WM_COMMAND && LOWORD(wParam) == kHostOpenButton &&
             HIWORD(wParam) == BN_CLICKED) {

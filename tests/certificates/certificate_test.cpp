@@ -31,15 +31,6 @@ std::filesystem::path PathFromEnvironment(const std::wstring& variable) {
     return path.front() == L'/' ? L"Z:" + path : path;
 }
 
-std::filesystem::path MakeFolder() {
-    static int count = 0;
-    const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() /
-        (L"certificates_" + std::to_wstring(GetCurrentProcessId()) + L"_" + std::to_wstring(++count));
-    std::filesystem::create_directories(folder);
-    return folder;
-}
-
 void CopyInto(const std::filesystem::path& file, const std::filesystem::path& target) {
     if (CopyFileW(file.c_str(), target.c_str(), FALSE) == FALSE) {
         throw driver::Failure(L"The file could not be copied (system code " +
@@ -49,32 +40,40 @@ void CopyInto(const std::filesystem::path& file, const std::filesystem::path& ta
 
 }  // namespace
 
-CertificateTest::CertificateTest() : folder_(MakeFolder()) {
-    driver::UseScreenPixels();
-    setup.csProfile.name = L"Clearing";
+FolderOfTest::FolderOfTest() {
+    static int count = 0;
+    path_ = std::filesystem::temp_directory_path() /
+            (L"certificates_" + std::to_wstring(GetCurrentProcessId()) + L"_" + std::to_wstring(++count));
+    std::filesystem::create_directories(path_);
 }
 
-CertificateTest::~CertificateTest() {
-    // The program goes first: it holds its own file and the library's.
-    program_.reset();
+FolderOfTest::~FolderOfTest() {
+    // The files of a program that has just ended can be in use for another moment.
     static_cast<void>(driver::WaitUntil([&] {
         std::error_code failure;
-        std::filesystem::remove_all(folder_, failure);
+        std::filesystem::remove_all(path_, failure);
         return !failure;
     }));
 }
 
+CertificateTest::CertificateTest() {
+    driver::UseScreenPixels();
+    setup.csProfile.name = L"Clearing";
+}
+
 void CertificateTest::InstallLibrary(Library library) {
-    std::ofstream(folder_ / L"tarn1_script.txt", std::ios::binary) << script.Lines();
+    std::ofstream(folder_.Path() / L"tarn1_script.txt", std::ios::binary) << script.Lines();
     switch (library) {
         case Library::kScriptable:
-            return CopyInto(PathFromEnvironment(L"CORVANE_SCRIPTABLE_LIBRARY"), folder_ / kLibraryFile);
+            return CopyInto(PathFromEnvironment(L"CORVANE_SCRIPTABLE_LIBRARY"),
+                            folder_.Path() / kLibraryFile);
         case Library::kIncomplete:
-            return CopyInto(PathFromEnvironment(L"CORVANE_INCOMPLETE_LIBRARY"), folder_ / kLibraryFile);
+            return CopyInto(PathFromEnvironment(L"CORVANE_INCOMPLETE_LIBRARY"),
+                            folder_.Path() / kLibraryFile);
         case Library::kStandIn:
-            std::filesystem::copy(PathFromEnvironment(L"CORVANE_CERTIFICATES"), folder_ / L"certificates",
-                                  std::filesystem::copy_options::recursive);
-            return CopyInto(PathFromEnvironment(L"CORVANE_STANDIN_LIBRARY"), folder_ / kLibraryFile);
+            std::filesystem::copy(PathFromEnvironment(L"CORVANE_CERTIFICATES"),
+                                  folder_.Path() / L"certificates", std::filesystem::copy_options::recursive);
+            return CopyInto(PathFromEnvironment(L"CORVANE_STANDIN_LIBRARY"), folder_.Path() / kLibraryFile);
         case Library::kNone:
             return;
     }
@@ -84,8 +83,8 @@ void CertificateTest::Start(const std::wstring& programVariable, const wchar_t* 
                             Library library) {
     driver::WriteRegistryValue(kCatalogueEntry, L"ProfileName", setup.csProfile.name);
     InstallLibrary(library);
-    WriteHostSetup(setup, folder_ / kHostSetupFile);
-    CopyInto(PathFromEnvironment(programVariable), folder_ / programFile);
+    WriteHostSetup(setup, folder_.Path() / kHostSetupFile);
+    CopyInto(PathFromEnvironment(programVariable), folder_.Path() / programFile);
     program_.emplace(Folder() + programFile);
     main_ = program_->WaitForWindow(Window());
 }
@@ -163,7 +162,7 @@ void CertificateTest::Settle(const Window& dialog) {
 
 std::vector<std::string> CertificateTest::Calls(const std::string& function) const {
     std::vector<std::string> calls;
-    std::ifstream stream(folder_ / L"tarn1_log.txt", std::ios::binary);
+    std::ifstream stream(folder_.Path() / L"tarn1_log.txt", std::ios::binary);
     for (std::string line; std::getline(stream, line);) {
         if (function.empty() || line.starts_with(function + " ")) {
             calls.push_back(line.substr(0, line.rfind(" | ")));
@@ -174,12 +173,12 @@ std::vector<std::string> CertificateTest::Calls(const std::string& function) con
 
 void CertificateTest::ForgetCalls() {
     program_.reset();
-    DeleteFileW((folder_ / L"tarn1_log.txt").c_str());
+    DeleteFileW((folder_.Path() / L"tarn1_log.txt").c_str());
 }
 
 std::string CertificateTest::Out() const {
     std::string last;
-    std::ifstream stream(folder_ / L"tarn1_log.txt", std::ios::binary);
+    std::ifstream stream(folder_.Path() / L"tarn1_log.txt", std::ios::binary);
     for (std::string line; std::getline(stream, line);) {
         last = line;
     }

@@ -23,11 +23,27 @@ inline constexpr unsigned kBoxQuestion = 0x134;
 inline constexpr unsigned kBoxReport = 0x10;
 inline constexpr unsigned kBoxInformation = 0x40;
 
+/// A folder among the temporary ones, gone with everything in it when this object goes.
+class FolderOfTest {
+  public:
+    FolderOfTest();
+    ~FolderOfTest();
+    FolderOfTest(const FolderOfTest&) = delete;
+    FolderOfTest& operator=(const FolderOfTest&) = delete;
+    FolderOfTest(FolderOfTest&&) = delete;
+    FolderOfTest& operator=(FolderOfTest&&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+  private:
+    std::filesystem::path path_;
+};
+
 /// A test of the certificate dialogs: a folder of its own with a program and a provider library in it, and a
 /// registry of its own. The program is the host, which shows one dialog at the press of a button, or the
 /// editor itself.
 class CertificateTest : public ::testing::Test {
-  protected:
+  public:
     enum class Library {
         kScriptable,  ///< Does what `script` says.
         kIncomplete,  ///< The scriptable one without XSIG_GetErrorLineEx.
@@ -35,12 +51,12 @@ class CertificateTest : public ::testing::Test {
         kNone,
     };
 
-    CertificateTest();
-    ~CertificateTest() override;
-
     /// What the library does, and what the host shows; to be filled in before the start.
     LibraryScriptWriter script;
     HostSetup setup;
+
+  protected:
+    CertificateTest();
 
     /// Puts library, script and setup into the folder, starts the host there and waits for its window. The
     /// CS profile of the setup, "Clearing" unless told, is in the provider's catalogue.
@@ -54,7 +70,7 @@ class CertificateTest : public ::testing::Test {
     [[nodiscard]] const driver::Program& Program() const { return *program_; }
     [[nodiscard]] const driver::Window& Main() const { return main_; }
     /// The folder with everything in it, ending in a backslash.
-    [[nodiscard]] std::wstring Folder() const { return folder_.wstring() + L"\\"; }
+    [[nodiscard]] std::wstring Folder() const { return folder_.Path().wstring() + L"\\"; }
 
     /// Presses the host's button and comes back at once.
     void PressOpen() const;
@@ -95,7 +111,8 @@ class CertificateTest : public ::testing::Test {
     void Start(const std::wstring& programVariable, const wchar_t* programFile, Library library);
 
     driver::RegistryOfTest registry_;
-    std::filesystem::path folder_;
+    FolderOfTest folder_;
+    // Ended before the folder goes: it holds its own file and the library's.
     std::optional<driver::Program> program_;
     driver::Window main_;
 };

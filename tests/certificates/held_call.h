@@ -18,6 +18,8 @@ class HeldCall {
     ~HeldCall() { Release(); }
     HeldCall(const HeldCall&) = delete;
     HeldCall& operator=(const HeldCall&) = delete;
+    HeldCall(HeldCall&&) = delete;
+    HeldCall& operator=(HeldCall&&) = delete;
 
     void Release() const { SetEvent(event_.get()); }
 

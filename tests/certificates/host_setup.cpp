@@ -45,7 +45,8 @@ std::wstring Wide(const std::string& bytes) {
 
 void ReadField(const std::string& name, const std::string& value, HostSetup& setup) {
     if (name == "dialog") {
-        setup.dialog = static_cast<HostSetup::Dialog>(std::atoi(value.c_str()));
+        setup.dialog =
+            static_cast<HostSetup::Dialog>(static_cast<int>(std::strtol(value.c_str(), nullptr, 10)));
     } else if (name == "cs_profile") {
         setup.csProfile.name = Wide(value);
     } else if (name == "time_stamp_server") {
@@ -59,7 +60,7 @@ void ReadField(const std::string& name, const std::string& value, HostSetup& set
     }
     for (const NamedFlag& flag : kFlags) {
         if (name == flag.name) {
-            setup.csProfile.*flag.field = std::atoi(value.c_str());
+            setup.csProfile.*flag.field = static_cast<int>(std::strtol(value.c_str(), nullptr, 10));
         }
     }
 }

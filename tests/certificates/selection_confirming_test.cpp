@@ -136,7 +136,7 @@ TEST_F(SelectionConfirming, ASignerListNeedsANameOfItsOwn) {
     ExpectBox(L"List with this name already exists", kBoxRefusal, IDOK);
     NameList(L"Staff\\new");
     Control(IDOK).PostClick();
-    ExpectBox(L"List name cannot contain symbol '\\'", kBoxRefusal, IDOK);
+    ExpectBox(L"List name cannot contain the symbol '\\'", kBoxRefusal, IDOK);
     NameList(L"New staff");
     EXPECT_EQ(Confirm(), HostResult(1, std::vector<SignerGroup>{{L"New staff", {kAnn}}, {L"Staff", {kBob}}}));
 }

@@ -5,6 +5,8 @@ namespace {
 
 using driver::Window;
 
+constexpr wchar_t kQuestion[] = L"The store does not answer (0xE0700041).\r\nContinue without NCS?";
+
 class NetworkStoreTest : public SessionTest {
   protected:
     NetworkStoreTest() {
@@ -12,8 +14,6 @@ class NetworkStoreTest : public SessionTest {
         script.ErrorText(0xE0700041, "The store does not answer");
         script.Error(1, "no answer", "ldap.c", 77, "10.0.0.1");
     }
-
-    const std::wstring kQuestion = L"The store does not answer (0xE0700041).\r\nContinue without NCS?";
 
     void ExpectWarning() const {
         ExpectWarningBox(

@@ -128,8 +128,9 @@ TEST_F(OpeningTest, ShowsAStackOfAThousandEntries) {
         const std::string number = std::to_string(i);
         script.Error(0, "error " + number, "file.c", 1, "data");
         const std::wstring wideNumber = std::to_wstring(i);
-        stack += L"XSIG stek, error number " + wideNumber + L"\r\nError: error " + wideNumber +
-                 L"\r\nFile: file.c\r\nData: data\r\n";
+        stack += L"XSIG stek, error number " + wideNumber;
+        stack += L"\r\nError: error " + wideNumber;
+        stack += L"\r\nFile: file.c\r\nData: data\r\n";
     }
     ExpectFailure(0xE0700010, ProviderReport(kOpeningOperation, L"0xE0700010", L"text", stack));
     EXPECT_EQ(Calls("GetErrorLineEx").size(), 1001U);

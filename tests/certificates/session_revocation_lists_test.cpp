@@ -10,6 +10,9 @@ using driver::Window;
 
 constexpr std::int64_t kHour = 3600;
 
+constexpr wchar_t kQuestion[] =
+    L"The distribution point does not answer (0xE0700050).\r\nContinue without loading CRL?";
+
 class RevocationListsTest : public SessionTest {
   protected:
     RevocationListsTest() {
@@ -17,9 +20,6 @@ class RevocationListsTest : public SessionTest {
         driver::CreateRegistryKey(kRefreshTimesKey);
         script.ErrorText(0xE0700050, "The distribution point does not answer");
     }
-
-    const std::wstring kQuestion =
-        L"The distribution point does not answer (0xE0700050).\r\nContinue without loading CRL?";
 
     static std::int64_t Now() { return static_cast<std::int64_t>(std::time(nullptr)); }
     static std::wstring Entry(const std::wstring& name, std::int64_t seconds) {
