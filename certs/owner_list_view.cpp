@@ -65,12 +65,12 @@ void OwnerListView::Show(const Place& place, SortMark mark) {
     FitColumn();
 }
 
-// Rows are alike but for their checks and marks, so as many as there are stay. Where many would have to go,
-// emptying the list is the shorter way: taking a row away costs three times as much as making one.
+// Rows are alike but for their checks and marks, so as many as there are stay. Where most would have to go,
+// emptying the list is the shorter way: taking rows away one by one costs more than making them.
 void OwnerListView::MakeRows(std::size_t count) {
     if (shownChecks_.size() > count) {
         const std::size_t surplus = shownChecks_.size() - count;
-        if (3 * surplus > count) {
+        if (surplus > count) {
             list_.DeleteAllRows();
             shownChecks_.clear();
         } else {
