@@ -93,26 +93,26 @@ bool CPreEncryptDlg::OnInitDialog() {
 
 void CPreEncryptDlg::SetUpControls() {
     using enum toolkit::GrowthShare;
-    layoutDotsPerInch_ = DotsPerInch();
     layout_.Remember(
-        Window(), {
-                      {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
-                      {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
-                      {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
-                      {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
-                      {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
-                      {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
-                      {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
-                      {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
-                      {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
-                  });
+        Window(), DotsPerInch(),
+        {
+            {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
+            {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
+            {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
+            {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
+            {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
+            {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
+            {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
+            {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
+            {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+            {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+        });
     SetWindowTextW(Window(), form_.Title().c_str());
     for (const Caption& caption : kCaptions) {
         SetControlText(caption.controlId, caption.text);
@@ -321,9 +321,13 @@ void CPreEncryptDlg::OnSize(WPARAM kind, int width, int height) {
         return;
     }
     layout_.Arrange(width, height);
+    FitColumns();
+    InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void CPreEncryptDlg::FitColumns() const {
     foundList_.FitColumn();
     chosenList_.FitColumn();
-    InvalidateRect(Window(), nullptr, TRUE);
 }
 
 void CPreEncryptDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
@@ -331,11 +335,8 @@ void CPreEncryptDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
 }
 
 void CPreEncryptDlg::OnScaleChanged() {
-    layout_.Rescale(layoutDotsPerInch_, DotsPerInch());
-    layoutDotsPerInch_ = DotsPerInch();
-    RECT client = {};
-    GetClientRect(Window(), &client);
-    OnSize(SIZE_RESTORED, client.right, client.bottom);
+    layout_.Rescale(DotsPerInch());
+    FitColumns();
     ShowIcons();
 }
 

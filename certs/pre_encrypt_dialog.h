@@ -37,6 +37,7 @@ class CPreEncryptDlg final : public toolkit::Dialog {
 
   private:
     void SetUpControls();
+    void FitColumns() const;
     void ShowIcons();
     bool Press(int buttonId);
     bool OnFoundNotification(NMHDR& header);
@@ -60,7 +61,6 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     OwnerListView foundList_;
     OwnerListView chosenList_;
     toolkit::AnchoredLayout layout_;
-    UINT layoutDotsPerInch_ = USER_DEFAULT_SCREEN_DPI;
     toolkit::ToolTip toolTip_;
     toolkit::ButtonIcons buttonIcons_;
     toolkit::UniqueIcon largeIcon_;

@@ -62,7 +62,6 @@ class SignerList final : public toolkit::Dialog {
     toolkit::UniqueIcon largeIcon_;
     toolkit::UniqueIcon smallIcon_;
     toolkit::AnchoredLayout layout_;
-    UINT layoutDotsPerInch_ = 0;
 };
 
 bool SignerList::OnInitDialog() {
@@ -80,15 +79,15 @@ bool SignerList::OnInitDialog() {
 
 void SignerList::SetUpLayout() {
     using enum toolkit::GrowthShare;
-    layoutDotsPerInch_ = DotsPerInch();
-    layout_.Remember(Window(), {
-                                   {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
-                                   {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
-                                   {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
-                                   {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
-                                   {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
-                                   {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
-                               });
+    layout_.Remember(Window(), DotsPerInch(),
+                     {
+                         {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
+                         {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
+                         {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
+                         {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
+                         {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+                         {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+                     });
 }
 
 void SignerList::ShowIcons() {
@@ -213,11 +212,8 @@ void SignerList::OnMinimumMaximumInfo(MINMAXINFO& info) {
 }
 
 void SignerList::OnScaleChanged() {
-    layout_.Rescale(layoutDotsPerInch_, DotsPerInch());
-    layoutDotsPerInch_ = DotsPerInch();
-    RECT client = {};
-    GetClientRect(Window(), &client);
-    OnSize(SIZE_RESTORED, client.right, client.bottom);
+    layout_.Rescale(DotsPerInch());
+    LayOutColumns();
     ShowIcons();
 }
 

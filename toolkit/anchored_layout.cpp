@@ -23,8 +23,9 @@ int ShareOf(GrowthShare share, int growth) {
 
 }  // namespace
 
-void AnchoredLayout::Remember(HWND dialog, std::initializer_list<Anchor> anchors) {
+void AnchoredLayout::Remember(HWND dialog, UINT dotsPerInch, std::initializer_list<Anchor> anchors) {
     dialog_ = dialog;
+    dotsPerInch_ = dotsPerInch;
     RECT client = {};
     GetClientRect(dialog, &client);
     client_ = {client.right, client.bottom};
@@ -33,9 +34,9 @@ void AnchoredLayout::Remember(HWND dialog, std::initializer_list<Anchor> anchors
     }
 }
 
-void AnchoredLayout::Rescale(UINT from, UINT to) {
-    const auto scale = [from, to](LONG& pixels) {
-        pixels = MulDiv(pixels, static_cast<int>(to), static_cast<int>(from));
+void AnchoredLayout::Rescale(UINT dotsPerInch) {
+    const auto scale = [from = dotsPerInch_, dotsPerInch](LONG& pixels) {
+        pixels = MulDiv(pixels, static_cast<int>(dotsPerInch), static_cast<int>(from));
     };
     scale(client_.cx);
     scale(client_.cy);
@@ -45,6 +46,10 @@ void AnchoredLayout::Rescale(UINT from, UINT to) {
         scale(control.place.right);
         scale(control.place.bottom);
     }
+    dotsPerInch_ = dotsPerInch;
+    RECT client = {};
+    GetClientRect(dialog_, &client);
+    Arrange(client.right, client.bottom);
 }
 
 void AnchoredLayout::Arrange(int width, int height) const {

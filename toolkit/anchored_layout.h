@@ -23,10 +23,11 @@ struct Anchor {
 /// the one in the template, so that nothing drifts, however often the size changes.
 class AnchoredLayout {
   public:
-    /// Remembers the dialog and its controls as the template made them: its smallest size, too.
-    void Remember(HWND dialog, std::initializer_list<Anchor> anchors);
-    /// The dialog has come to another scale: what is remembered is scaled likewise.
-    void Rescale(UINT from, UINT to);
+    /// Remembers the dialog and its controls as the template made them at this scale: its smallest size, too.
+    void Remember(HWND dialog, UINT dotsPerInch, std::initializer_list<Anchor> anchors);
+    /// The dialog has come to another scale: what is remembered is scaled likewise, and the controls are put
+    /// where they belong.
+    void Rescale(UINT dotsPerInch);
     /// Puts the controls where they belong in a client area of this size, in pixels.
     void Arrange(int width, int height) const;
     /// Keeps the user from making the dialog smaller than its template (WM_GETMINMAXINFO).
@@ -39,6 +40,7 @@ class AnchoredLayout {
     };
 
     HWND dialog_ = nullptr;
+    UINT dotsPerInch_ = USER_DEFAULT_SCREEN_DPI;
     SIZE client_ = {};
     std::vector<AnchoredControl> controls_;
 };

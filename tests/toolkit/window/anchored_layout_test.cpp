@@ -18,7 +18,7 @@ class AnchoredLayoutTest : public ::testing::Test {
         MoveWindow(dialog_.Control(IDC_TEXT_EDIT), 10, 20, 100, 30, FALSE);
         MoveWindow(dialog_.Control(IDC_ROW_LIST), 10, 60, 100, 30, FALSE);
         MoveWindow(dialog_.Control(IDOK), 10, 100, 50, 25, FALSE);
-        layout_.Remember(dialog_.Window(),
+        layout_.Remember(dialog_.Window(), 96,
                          {{.controlId = IDC_TEXT_EDIT, .growX = kAll, .growY = kHalf},
                           {.controlId = IDC_ROW_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
                           {.controlId = IDOK, .moveX = kAll, .moveY = kAll}});
@@ -74,13 +74,22 @@ TEST_F(AnchoredLayoutTest, TheTemplateIsTheSmallestSize) {
 }
 
 TEST_F(AnchoredLayoutTest, AnotherScaleScalesWhatIsRemembered) {
-    layout_.Rescale(96, 144);
+    layout_.Rescale(144);
     layout_.Arrange(width_ * 3 / 2 + 10, height_ * 3 / 2 + 10);
     const RECT place = PlaceOf(dialog_.Control(IDC_TEXT_EDIT));
     EXPECT_EQ(place.left, 15);
     EXPECT_EQ(place.top, 30);
     EXPECT_NEAR(place.right - place.left, 160, 1);
     EXPECT_NEAR(place.bottom - place.top, 50, 1);
+}
+
+TEST_F(AnchoredLayoutTest, AnotherScalePutsTheControlsInTheirPlaces) {
+    layout_.Rescale(192);
+    layout_.Rescale(48);
+    const RECT place = PlaceOf(dialog_.Control(IDOK));
+    // The dialog itself has kept its size, so it is half again as large as what is remembered now.
+    EXPECT_NEAR(place.left, 5 + width_ - width_ / 2, 1);
+    EXPECT_NEAR(place.top, 50 + height_ - height_ / 2, 1);
 }
 
 TEST(AnchoredLayoutBeforeItsDialog, LimitsNothing) {
