@@ -56,6 +56,20 @@ TEST_F(DataExchangeTest, TextsAndButtonsAreExchangedLikeEdits) {
     }
 }
 
+TEST_F(DataExchangeTest, ACheckBoxIsCheckedByAnyNumberButZeroAndReadsAsOne) {
+    for (const std::int32_t stored : {1, 7, -1}) {
+        std::int32_t field = stored;
+        ToControls().Check(IDC_CHOICE_CHECK, field);
+        FromControls().Check(IDC_CHOICE_CHECK, field);
+        EXPECT_EQ(field, 1) << "stored as " << stored;
+    }
+    std::int32_t field = 0;
+    ToControls().Check(IDC_CHOICE_CHECK, field);
+    field = 5;
+    FromControls().Check(IDC_CHOICE_CHECK, field);
+    EXPECT_EQ(field, 0);
+}
+
 TEST_F(DataExchangeTest, AControlThatShowsTheTextAlreadyKeepsCaretAndSelection) {
     std::wstring text = L"0123456789";
     ToControls().Text(IDC_TEXT_EDIT, text);

@@ -55,6 +55,15 @@ TEST_F(ToolTipTest, TheTextIsCopied) {
     EXPECT_EQ(TextOf(IDOK), L"Take it");
 }
 
+TEST_F(ToolTipTest, ATextIsReplacedForItsControlOnly) {
+    toolTip_.Add(dialog_.Control(IDOK), L"Add recipients");
+    toolTip_.Add(dialog_.Control(IDCANCEL), L"Leave");
+    toolTip_.SetText(dialog_.Control(IDOK), L"Add signers");
+    EXPECT_EQ(TextOf(IDOK), L"Add signers");
+    EXPECT_EQ(TextOf(IDCANCEL), L"Leave");
+    EXPECT_EQ(SendMessageW(toolTip_.Window(), TTM_GETTOOLCOUNT, 0, 0), 2);
+}
+
 // What the tooltip control is told: relayed messages arrive in it as this.
 class RelayCount {
   public:
