@@ -15,9 +15,6 @@ namespace corvane {
 
 namespace {
 
-// The size of the icons on buttons, in pixels at 96 dots per inch.
-constexpr int kIconSize = 32;
-
 struct ExtensionEdit {
     int editId;
     int labelId;
@@ -47,7 +44,10 @@ bool IsExtensionEdit(int controlId) {
 }  // namespace
 
 CConfigPage::CConfigPage(HWND owner, const AppSettings& settings, ErrorReporter& reporter)
-    : Dialog(IDD_CONFIGURATIONS, owner), reporter_(reporter), form_(settings), buttonIcons_(kIconSize) {}
+    : Dialog(IDD_CONFIGURATIONS, owner),
+      reporter_(reporter),
+      form_(settings),
+      buttonIcons_(toolkit::kButtonIconSize) {}
 
 bool CConfigPage::OnInitDialog() {
     SetUpTexts();

@@ -25,9 +25,6 @@ namespace corvane {
 
 namespace {
 
-// The size of the icons on buttons, in pixels at 96 dots per inch.
-constexpr int kButtonIconSize = 32;
-
 /// Tells whether a button's caption is too long for one line.
 bool HasWrappedCaption(UINT_PTR controlId) {
     return controlId == IDC_SAVE_BUTTON || controlId == IDOK || controlId == IDCANCEL;
@@ -42,7 +39,7 @@ CCorvaneDlg::CCorvaneDlg(const Services& services)
       services_(services),
       registry_(services.registry, services.reporter),
       ruleList_(state_),
-      buttonIcons_(kButtonIconSize) {}
+      buttonIcons_(toolkit::kButtonIconSize) {}
 
 bool CCorvaneDlg::OnInitDialog() {
     RememberSize();

@@ -15,6 +15,7 @@
 namespace corvane {
 
 void CCorvaneDlg::FillProfileList() {
+    const toolkit::ListView::RedrawLock locked(profileList_);
     for (const std::wstring& name : state_.profileNames) {
         if (!name.empty() && profileList_.FindRow(name) < 0) {
             profileList_.AppendRow(name);

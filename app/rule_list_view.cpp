@@ -10,6 +10,7 @@ namespace corvane {
 
 void RuleListView::Attach(HWND control) {
     list_.Attach(control);
+    const toolkit::ListView::RedrawLock locked(list_);
     list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
     columnNames_ = RuleColumnInsertionOrder();
     for (const std::wstring& title : columnNames_) {
@@ -18,6 +19,8 @@ void RuleListView::Attach(HWND control) {
 }
 
 void RuleListView::LayOutColumns(int scrollBarWidth, bool isFirstTime) const {
+    // The list arranges itself anew after each column, and all other columns with it.
+    const toolkit::ListView::RedrawLock locked(list_);
     const RuleColumnWidths widths = LayOutRuleColumns(list_.ClientWidth(), scrollBarWidth, isFirstTime);
     for (std::size_t column = 0; column < kRuleColumnCount; ++column) {
         list_.SetColumnWidth(static_cast<int>(column),

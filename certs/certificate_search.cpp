@@ -2,9 +2,9 @@
 
 #include <cstdint>
 #include <string_view>
-#include <unordered_set>
 
 #include "certs/found_certificates.h"
+#include "toolkit/known_texts.h"
 
 namespace corvane {
 
@@ -28,14 +28,16 @@ bool IsUsable(const CertEntry& entry, const CertSearchSettings& settings) {
 // With tens of thousands of certificates each owner must be known at a glance.
 void AppendOwners(const FoundCertificates& found, const CertSearchSettings& settings,
                   const toolkit::SystemText& systemText, TextList& owners) {
-    std::unordered_set<std::wstring> known;
-    known.reserve(found.Entries().size());
+    toolkit::KnownTexts known(found.Entries().size());
+    // There is room for all of them at once: no owner that is known moves.
+    owners.reserve(owners.size() + found.Entries().size());
     for (const CertEntry& entry : found.Entries()) {
         if (!IsUsable(entry, settings)) {
             continue;
         }
-        if (const auto [owner, isNew] = known.insert(TextOf(entry.owner, systemText)); isNew) {
-            owners.push_back(*owner);
+        owners.push_back(TextOf(entry.owner, systemText));
+        if (!known.Add(owners.back())) {
+            owners.pop_back();
         }
     }
 }

@@ -1,6 +1,6 @@
 #include "certs/owner_list_view.h"
 
-#include <unordered_set>
+#include "toolkit/known_texts.h"
 
 namespace corvane {
 
@@ -41,7 +41,7 @@ void OwnerListView::Attach(HWND control, const std::wstring& heading) {
 
 OwnerListView::Place OwnerListView::CurrentPlace() const {
     Place place;
-    for (const std::size_t row : list_.SelectedRows()) {
+    for (const std::size_t row : SelectedRows()) {
         place.selectedOwners.emplace_back(source_.row(row).owner);
     }
     const int focused = list_.FocusedRow();
@@ -68,46 +68,65 @@ void OwnerListView::Show(const Place& place, SortMark mark) {
 // Rows are alike but for their checks and marks, so as many as there are stay. Where most would have to go,
 // emptying the list is the shorter way: taking rows away one by one costs more than making them.
 void OwnerListView::MakeRows(std::size_t count) {
-    if (shownChecks_.size() > count) {
-        const std::size_t surplus = shownChecks_.size() - count;
+    if (shownRows_.size() > count) {
+        const std::size_t surplus = shownRows_.size() - count;
         if (surplus > count) {
             list_.DeleteAllRows();
-            shownChecks_.clear();
+            shownRows_.clear();
         } else {
-            for (std::size_t row = shownChecks_.size(); row > count; --row) {
+            // The control scrolls in milliseconds: not once for each row that goes, because it was shown or
+            // because it hands its focus mark on to the one before it, but once for all.
+            if (list_.FocusedRow() >= static_cast<int>(count)) {
+                list_.MarkFocus(static_cast<int>(count) - 1);
+            }
+            list_.ScrollTo(0);
+            for (std::size_t row = shownRows_.size(); row > count; --row) {
                 list_.DeleteRow(static_cast<int>(row) - 1);
             }
         }
     }
-    if (shownChecks_.size() < count) {
-        list_.AppendRowsOnRequest(count - shownChecks_.size());
+    if (shownRows_.size() < count) {
+        list_.AppendRowsOnRequest(count - shownRows_.size());
     }
-    shownChecks_.resize(count, false);
+    shownRows_.resize(count);
 }
 
 void OwnerListView::PutChecks() {
-    for (std::size_t row = 0; row < shownChecks_.size(); ++row) {
+    for (std::size_t row = 0; row < shownRows_.size(); ++row) {
         const bool isChecked = source_.row(row).isChecked;
-        if (isChecked != shownChecks_[row]) {
+        if (isChecked != shownRows_[row].isChecked) {
             list_.SetChecked(static_cast<int>(row), isChecked);
-            shownChecks_[row] = isChecked;
+            shownRows_[row].isChecked = isChecked;
         }
     }
 }
 
+// The control knows at once how many rows are selected, but looks at all of them to tell which.
+std::vector<std::size_t> OwnerListView::SelectedRows() const {
+    return ListView_GetSelectedCount(list_.Window()) == 0 ? std::vector<std::size_t>() : list_.SelectedRows();
+}
+
 void OwnerListView::RestoreMarks(const Place& place) const {
-    for (const std::size_t row : list_.SelectedRows()) {
-        list_.RemoveFromSelection(static_cast<int>(row));
-    }
-    const std::unordered_set<std::wstring_view> selected(place.selectedOwners.begin(),
-                                                         place.selectedOwners.end());
-    if (selected.empty() && !place.focusedOwner) {
+    const std::vector<std::size_t> selectedRows = SelectedRows();
+    if (selectedRows.empty() && place.selectedOwners.empty() && !place.focusedOwner) {
         return;
     }
-    for (std::size_t row = 0; row < shownChecks_.size(); ++row) {
+    toolkit::KnownTexts selected(place.selectedOwners.size());
+    for (const std::wstring& owner : place.selectedOwners) {
+        selected.Add(owner);
+    }
+    auto nextSelected = selectedRows.begin();
+    for (std::size_t row = 0; row < shownRows_.size(); ++row) {
         const std::wstring_view owner = source_.row(row).owner;
-        if (selected.contains(owner)) {
+        const bool isSelected = nextSelected != selectedRows.end() && *nextSelected == row;
+        if (isSelected) {
+            ++nextSelected;
+        }
+        const bool isToBeSelected = selected.Contains(owner);
+        if (isToBeSelected && !isSelected) {
             list_.AddToSelection(static_cast<int>(row));
+        } else if (isSelected && !isToBeSelected) {
+            list_.RemoveFromSelection(static_cast<int>(row));
         }
         if (place.focusedOwner && owner == *place.focusedOwner) {
             list_.MarkFocus(static_cast<int>(row));
@@ -125,13 +144,13 @@ void OwnerListView::FitColumn() const {
 std::optional<OwnerListView::CheckChange> OwnerListView::CheckChangeOf(const NMLISTVIEW& notification) {
     const UINT changed = notification.uNewState ^ notification.uOldState;
     if (isFilling_ || (notification.uChanged & LVIF_STATE) == 0 || (changed & LVIS_STATEIMAGEMASK) == 0 ||
-        notification.iItem < 0 || static_cast<std::size_t>(notification.iItem) >= shownChecks_.size()) {
+        notification.iItem < 0 || static_cast<std::size_t>(notification.iItem) >= shownRows_.size()) {
         return std::nullopt;
     }
     const CheckChange change = {
         .row = static_cast<std::size_t>(notification.iItem),
         .isChecked = (notification.uNewState & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2U)};
-    shownChecks_[change.row] = change.isChecked;
+    shownRows_[change.row].isChecked = change.isChecked;
     return change;
 }
 

@@ -58,13 +58,19 @@ class OwnerListView {
     [[nodiscard]] const toolkit::ListView& Control() const { return list_; }
 
   private:
+    /// What a row of the control looks like.
+    struct ShownRow {
+        bool isChecked = false;
+    };
+
     void MakeRows(std::size_t count);
     void PutChecks();
+    [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
     void RestoreMarks(const Place& place) const;
 
     Source source_;
     toolkit::ListView list_;
-    std::vector<bool> shownChecks_;  ///< What the check box of each row shows.
+    std::vector<ShownRow> shownRows_;
     bool isFilling_ = false;
     // An answered text must outlive the next two questions.
     std::array<std::wstring, 4> answers_;

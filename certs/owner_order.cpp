@@ -11,6 +11,7 @@ struct KeyedRow {
     std::wstring_view key;
     bool lacksField = false;
     std::size_t row = 0;
+    std::size_t position = 0;  ///< Before sorting.
 };
 
 }  // namespace
@@ -34,14 +35,18 @@ void SortOwnerRows(std::vector<std::size_t>& rows, const std::vector<std::wstrin
     keyed.reserve(rows.size());
     for (const std::size_t row : rows) {
         const std::optional<std::wstring_view> key = OwnerSortKey(owners[row], fieldKey);
-        keyed.push_back({key.value_or(owners[row]), !key, row});
+        keyed.push_back({key.value_or(owners[row]), !key, row, keyed.size()});
     }
     const bool isDescending = direction == SortDirection::kDescending;
-    std::stable_sort(keyed.begin(), keyed.end(), [isDescending](const KeyedRow& left, const KeyedRow& right) {
+    std::sort(keyed.begin(), keyed.end(), [isDescending](const KeyedRow& left, const KeyedRow& right) {
         if (left.lacksField != right.lacksField) {
             return right.lacksField;
         }
-        return isDescending ? right.key < left.key : left.key < right.key;
+        const int order = left.key.compare(right.key);
+        if (order != 0) {
+            return isDescending ? order > 0 : order < 0;
+        }
+        return left.position < right.position;
     });
     std::transform(keyed.begin(), keyed.end(), rows.begin(), [](const KeyedRow& row) { return row.row; });
 }

@@ -22,9 +22,6 @@ namespace corvane {
 
 namespace {
 
-// The size of the icons on buttons, in pixels at 96 dots per inch.
-constexpr int kButtonIconSize = 32;
-
 struct Caption {
     int controlId;
     const wchar_t* text;
@@ -79,7 +76,7 @@ CPreEncryptDlg::CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const C
                   [&form](std::size_t row) { return form.FoundRow(row); }}),
       chosenList_({[&form] { return form.ChosenRowCount(); },
                    [&form](std::size_t row) { return form.ChosenRow(row); }}),
-      buttonIcons_(kButtonIconSize) {}
+      buttonIcons_(toolkit::kButtonIconSize) {}
 
 bool CPreEncryptDlg::OnInitDialog() {
     SetUpControls();

@@ -1,7 +1,7 @@
 #include "certs/recipient_selection_form.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <optional>
 #include <utility>
 
 #include "app/reporting/message_styles.h"
@@ -9,6 +9,7 @@
 #include "certs/owner_lines.h"
 #include "certs/subject_fields.h"
 #include "toolkit/format_text.h"
+#include "toolkit/known_texts.h"
 
 namespace corvane {
 
@@ -79,10 +80,14 @@ void RecipientSelectionForm::CheckAllFound(bool isChecked) {
 }
 
 void RecipientSelectionForm::AddFound(const TextList& owners) {
+    toolkit::KnownTexts known(found_.size() + owners.size());
+    // There is room for all of them at once: no owner that is known moves.
     found_.reserve(found_.size() + owners.size());
-    foundTexts_.reserve(found_.size() + owners.size());
+    for (const FoundOwner& owner : found_) {
+        known.Add(owner.text);
+    }
     for (const std::wstring& owner : owners) {
-        if (foundTexts_.insert(owner).second) {
+        if (known.Add(owner)) {
             found_.push_back({owner, systemText_.UpperCase(owner), false});
         }
     }
@@ -119,7 +124,6 @@ bool RecipientSelectionForm::DeleteAllFound(ErrorReporter& reporter, toolkit::Wi
         return false;
     }
     found_.clear();
-    foundTexts_.clear();
     lastGroupPath.clear();
     FillFound();
     return true;
@@ -163,15 +167,14 @@ void RecipientSelectionForm::CheckChosen(std::size_t position, bool isChecked) {
 }
 
 std::wstring RecipientSelectionForm::AddChecked() {
-    std::unordered_set<std::wstring_view> chosenTexts;
+    toolkit::KnownTexts known(chosen_.size());
     for (const ChosenOwner& owner : chosen_) {
-        chosenTexts.insert(owner.text);
+        known.Add(owner.text);
     }
     // Which of them are new is known before the first one is added: adding moves the texts in memory. The
     // upper list has no owner twice.
     TextList newOwners = CheckedFoundOwners();
-    std::erase_if(newOwners,
-                  [&chosenTexts](const std::wstring& owner) { return chosenTexts.contains(owner); });
+    std::erase_if(newOwners, [&known](const std::wstring& owner) { return known.Contains(owner); });
     for (std::wstring& owner : newOwners) {
         chosen_.push_back({std::move(owner), false});
     }
@@ -185,28 +188,33 @@ std::wstring RecipientSelectionForm::AddChecked() {
 // Deliberate: what other lists hold is taken out again here, among the chosen ones of before too, so that a
 // signer belongs to one list of the rule.
 std::wstring RecipientSelectionForm::ExcludeSignersOfOtherLists() {
-    std::unordered_map<std::wstring, std::size_t> counts;
-    if (!existingLists_.empty()) {
-        for (const ChosenOwner& owner : chosen_) {
-            ++counts[owner.text];
-        }
+    if (existingLists_.empty()) {
+        return {};
     }
+    toolkit::KnownTexts chosen(chosen_.size());
+    std::vector<std::size_t> counts(chosen_.size());  // By number; what the caller gave may hold one twice.
+    for (const ChosenOwner& owner : chosen_) {
+        chosen.Add(owner.text);
+        ++counts[*chosen.NumberOf(owner.text)];
+    }
+    toolkit::KnownTexts excluded;
     std::wstring report;
     for (const SignerGroup& list : existingLists_) {
         if (list.name == previousListName_) {
             continue;
         }
         for (const std::wstring& signer : list.signers) {
-            const auto found = counts.find(signer);
-            for (; found != counts.end() && found->second > 0; --found->second) {
+            const std::optional<std::size_t> number = chosen.NumberOf(signer);
+            if (!number || !excluded.Add(signer)) {
+                continue;
+            }
+            for (std::size_t i = 0; i < counts[*number]; ++i) {
                 report += toolkit::FormatText(L"Signer\r\n\"%s\"\r\nis used in list\r\n\"%s\"\r\n\r\n",
                                               {signer, list.name});
             }
         }
     }
-    if (!report.empty()) {
-        std::erase_if(chosen_, [&counts](const ChosenOwner& owner) { return counts[owner.text] == 0; });
-    }
+    std::erase_if(chosen_, [&excluded](const ChosenOwner& owner) { return excluded.Contains(owner.text); });
     return report;
 }
 

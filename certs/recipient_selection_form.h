@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "app/reporting/error_reporter.h"
@@ -148,7 +147,6 @@ class RecipientSelectionForm {
     std::size_t sortField_ = 0;
     std::wstring upperFilter_;
     std::vector<FoundOwner> found_;
-    std::unordered_set<std::wstring> foundTexts_;
     std::vector<std::size_t> foundRows_;  ///< Indices of found_, as shown.
     ListSort foundSort_;
     std::vector<ChosenOwner> chosen_;

@@ -1,6 +1,6 @@
 #include "certs/signer_lists_form.h"
 
-#include <set>
+#include <algorithm>
 #include <utility>
 
 #include "app/reporting/message_styles.h"
@@ -47,19 +47,23 @@ void SignerListsForm::Replace(std::size_t position, const RecipientSelectionForm
 
 bool SignerListsForm::Delete(const std::vector<std::size_t>& positions, ErrorReporter& reporter,
                              toolkit::WindowHandle dialog) {
-    std::set<std::size_t> deleted(positions.begin(), positions.end());
-    deleted.erase(deleted.lower_bound(lists_.size()), deleted.end());
-    if (deleted.empty()) {
+    std::vector<char> isDeleted(lists_.size());
+    for (const std::size_t position : positions) {
+        if (position < lists_.size()) {
+            isDeleted[position] = 1;
+        }
+    }
+    const std::int64_t count = std::count(isDeleted.begin(), isDeleted.end(), 1);
+    if (count == 0) {
         return false;
     }
-    const std::wstring question =
-        toolkit::FormatText(L"Delete %d list(s)?", {static_cast<std::int64_t>(deleted.size())});
+    const std::wstring question = toolkit::FormatText(L"Delete %d list(s)?", {count});
     if (reporter.ShowMessage(dialog, question, kWarningQuestionStyle) != kAnswerYes) {
         return false;
     }
     std::vector<SignerGroup> kept;
     for (std::size_t i = 0; i < lists_.size(); ++i) {
-        if (!deleted.contains(i)) {
+        if (isDeleted[i] == 0) {
             kept.push_back(std::move(lists_[i]));
         }
     }

@@ -29,6 +29,14 @@ function(corvane_floor)
     target_link_libraries(${FLOOR_NAME} ${scope} ${FLOOR_SYSTEM_LIBRARIES})
   endif()
 
+  if(sources AND CORVANE_WHOLE_PROGRAM)
+    # For the program itself, which is made from all floors at once.
+    add_library(${FLOOR_NAME}_parts OBJECT ${sources})
+    target_link_libraries(${FLOOR_NAME}_parts PRIVATE corvane_settings)
+    target_compile_options(${FLOOR_NAME}_parts PRIVATE -flto)
+    set_target_properties(${FLOOR_NAME}_parts PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+  endif()
+
   add_custom_target(${FLOOR_NAME}_arrows
     COMMAND ${CMAKE_COMMAND}
       -D "FOLDER=${CMAKE_CURRENT_SOURCE_DIR}"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "config/system_codes.h"
 #include "toolkit/format_text.h"
 
 namespace corvane {
@@ -17,8 +18,6 @@ constexpr std::uint32_t kDeletedKeyNameCapacityChars = 256;
 constexpr std::uint32_t kListFlags = 3;
 /// What a value of more bytes than the system counts would be refused with.
 constexpr std::uint32_t kCodeInvalidParameter = 87;
-/// What the system's heap leaves as the last error when it has no memory left.
-constexpr std::uint32_t kCodeNotEnoughMemory = 8;
 
 constexpr char kReadStringOperation[] = "Reading string value '%s' from register";
 constexpr char kReadListOperation[] = "Reading multistring value '%s' from register";

@@ -10,78 +10,77 @@ namespace corvane {
 namespace {
 
 // ReportError's flags. Both show the report; which value has which is part of the layout.
-constexpr std::uint32_t kShow = 1;
-constexpr std::uint32_t kShowThree = 3;
+constexpr std::uint8_t kShow = 1;
+constexpr std::uint8_t kShowThree = 3;
 
 template <typename Record>
-constexpr StoredValue<Record> Number(std::wstring_view name, std::int32_t Record::*field,
-                                     std::int32_t defaultNumber, std::uint32_t loadFlags,
-                                     std::uint32_t saveFlags) {
-    return {.storedAs = StoredAs::kNumber,
-            .name = name,
-            .number = field,
-            .defaultNumber = defaultNumber,
-            .loadFlags = loadFlags,
-            .saveFlags = saveFlags};
+constexpr StoredValue<Record> Number(ValueName name, std::int32_t Record::*field, std::int32_t defaultNumber,
+                                     std::uint8_t loadFlags, std::uint8_t saveFlags) {
+    return {{.name = name,
+             .defaultNumber = defaultNumber,
+             .storedAs = StoredAs::kNumber,
+             .loadFlags = loadFlags,
+             .saveFlags = saveFlags},
+            {.number = field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Text(std::wstring_view name, std::wstring Record::*field,
-                                   std::wstring_view defaultText, std::uint32_t loadFlags,
-                                   std::uint32_t saveFlags) {
-    return {.storedAs = StoredAs::kText,
-            .name = name,
-            .text = field,
-            .defaultText = defaultText,
-            .loadFlags = loadFlags,
-            .saveFlags = saveFlags};
+constexpr StoredValue<Record> Text(ValueName name, std::wstring Record::*field, const wchar_t* defaultText,
+                                   std::uint8_t loadFlags, std::uint8_t saveFlags) {
+    return {{.name = name,
+             .defaultText = defaultText,
+             .storedAs = StoredAs::kText,
+             .loadFlags = loadFlags,
+             .saveFlags = saveFlags},
+            {.text = field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> List(std::wstring_view name, TextList Record::*field,
+constexpr StoredValue<Record> List(ValueName name, TextList Record::*field,
                                    StoredAs storedAs = StoredAs::kTextList) {
-    return {.storedAs = storedAs, .name = name, .texts = field};
+    return {{.name = name, .defaultNumber = 0, .storedAs = storedAs}, {}, field};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> List(std::wstring_view name, NumberList Record::*field) {
-    return {.storedAs = StoredAs::kNumberList, .name = name, .numbers = field};
+constexpr StoredValue<Record> List(ValueName name, NumberList Record::*field) {
+    return {{.name = name, .defaultNumber = 0, .storedAs = StoredAs::kNumberList}, {.numbers = field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Count(std::wstring_view name, TextList Record::*field,
-                                    std::uint32_t saveFlags) {
-    return {.storedAs = StoredAs::kCount,
-            .name = name,
-            .texts = field,
-            .loadFlags = kShowThree,
-            .saveFlags = saveFlags};
+constexpr StoredValue<Record> Count(ValueName name, TextList Record::*field, std::uint8_t saveFlags) {
+    return {{.name = name,
+             .defaultNumber = 0,
+             .storedAs = StoredAs::kCount,
+             .loadFlags = kShowThree,
+             .saveFlags = saveFlags},
+            {},
+            field};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Elements(std::wstring_view prefix, TextList Record::*field) {
-    return {.storedAs = StoredAs::kElements,
-            .name = prefix,
-            .texts = field,
-            .loadFlags = kShowThree,
-            .saveFlags = kShow};
+constexpr StoredValue<Record> Elements(ValueName prefix, TextList Record::*field) {
+    return {{.name = prefix,
+             .defaultNumber = 0,
+             .storedAs = StoredAs::kElements,
+             .loadFlags = kShowThree,
+             .saveFlags = kShow},
+            {},
+            field};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> OldElement(std::wstring_view name, std::wstring Record::*field,
+constexpr StoredValue<Record> OldElement(ValueName name, std::wstring Record::*field,
                                          TextList Record::*list) {
-    return {.storedAs = StoredAs::kOldElement,
-            .name = name,
-            .text = field,
-            .texts = list,
-            .loadFlags = kShowThree};
+    return {{.name = name, .defaultText = L"", .storedAs = StoredAs::kOldElement, .loadFlags = kShowThree},
+            {.text = field},
+            list};
 }
 
-constexpr StoredValue<Rule> RuleText(std::wstring_view name, std::wstring Rule::*field) {
+constexpr StoredValue<Rule> RuleText(ValueName name, std::wstring Rule::*field) {
     return Text(name, field, L"", kShowThree, kShowThree);
 }
 
-constexpr StoredValue<Rule> RuleNumber(std::wstring_view name, std::int32_t Rule::*field) {
+constexpr StoredValue<Rule> RuleNumber(ValueName name, std::int32_t Rule::*field) {
     return Number(name, field, 0, kShowThree, kShowThree);
 }
 
@@ -174,7 +173,7 @@ constexpr std::array kSignerGroupRows{
 template <typename Rows>
 consteval auto RowNamed(const Rows& rows, std::wstring_view name) {
     for (const auto& row : rows) {
-        if (row.name == name) {
+        if (std::wstring_view(row.name) == name) {
             return row;
         }
     }

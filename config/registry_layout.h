@@ -18,7 +18,7 @@
 namespace corvane {
 
 /// How a value is stored, and how it is read back.
-enum class StoredAs {
+enum class StoredAs : std::uint8_t {
     kNumber,      ///< DWORD.
     kText,        ///< SZ.
     kTextList,    ///< MULTI_SZ of texts; an empty one is stored as "0".
@@ -29,20 +29,43 @@ enum class StoredAs {
     kOldElement,  ///< SZ: read only where the count is 0, then the list's one element. Never written.
 };
 
-/// One value of a record: a row of the layout. Rows stand in the order in which values are read and
-/// written. The one field that is set is the one that `storedAs` speaks of.
-template <typename Record>
-struct StoredValue {
+/// The name of a value, written in the program: half as big as a view of it.
+class ValueName {
+  public:
+    // NOLINTNEXTLINE(google-explicit-constructor): names are written as they are.
+    constexpr ValueName(const wchar_t* literal) : literal_(literal) {}
+    // NOLINTNEXTLINE(google-explicit-constructor): it serves wherever a text is only read.
+    constexpr operator std::wstring_view() const { return literal_; }
+    // NOLINTNEXTLINE(readability-identifier-naming): called as with a view.
+    [[nodiscard]] constexpr const wchar_t* data() const { return literal_; }
+
+  private:
+    const wchar_t* literal_;
+};
+
+/// How a value is named, stored and reported, whatever record it is of.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): of the union, one member is set and enough.
+struct ValueForm {
+    ValueName name = L"";
+    union {
+        std::int32_t defaultNumber = 0;  ///< Of kNumber: where the number is missing.
+        const wchar_t* defaultText;      ///< Of kText and kOldElement: where the text is missing.
+    };
     StoredAs storedAs = StoredAs::kNumber;
-    std::wstring_view name;
-    std::int32_t Record::*number = nullptr;
-    std::wstring Record::*text = nullptr;
+    std::uint8_t loadFlags = 0;  ///< ReportError's flags when loading; lists have fixed ones.
+    std::uint8_t saveFlags = 0;  ///< ReportError's flags when saving; lists have fixed ones.
+};
+
+/// One value of a record: a row of the layout. Rows stand in the order in which values are read and
+/// written. The field that is set is the one that `storedAs` speaks of; a kOldElement has a text and texts.
+template <typename Record>
+struct StoredValue : ValueForm {
+    union {
+        std::int32_t Record::*number = nullptr;
+        std::wstring Record::*text;
+        NumberList Record::*numbers;
+    };
     TextList Record::*texts = nullptr;
-    NumberList Record::*numbers = nullptr;
-    std::int32_t defaultNumber = 0;      ///< Where a number is missing.
-    std::wstring_view defaultText = {};  ///< Where a text is missing.
-    std::uint32_t loadFlags = 0;         ///< ReportError's flags when loading; lists have fixed ones.
-    std::uint32_t saveFlags = 0;         ///< ReportError's flags when saving; lists have fixed ones.
 };
 
 /// A CS profile of the crypto provider, as far as this program reads it.

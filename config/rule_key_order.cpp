@@ -42,8 +42,8 @@ std::vector<std::uint32_t> OrderedPositions(const std::vector<std::int32_t>& num
     const auto range = static_cast<std::size_t>(*highest - base);
     if (range > 2 * numbers.size()) {
         std::iota(order.begin(), order.end(), std::uint32_t{0});
-        std::stable_sort(order.begin(), order.end(), [&numbers](std::uint32_t left, std::uint32_t right) {
-            return numbers[left] < numbers[right];
+        std::sort(order.begin(), order.end(), [&numbers](std::uint32_t left, std::uint32_t right) {
+            return numbers[left] != numbers[right] ? numbers[left] < numbers[right] : left < right;
         });
         return order;
     }

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <string_view>
 
 #include "app/reporting/error_reporter.h"
 #include "config/records.h"
@@ -19,6 +18,34 @@ namespace corvane {
 /// seconds instead of hours and all memory.
 inline constexpr std::int32_t kHighestElementCount = 100000;
 
+/// The field of a record that a row speaks of; the other pointers are null. `Number` and so on are constant
+/// where the record is.
+template <typename Number, typename Text, typename Texts, typename Numbers>
+struct FieldOfRow {
+    Number* number = nullptr;
+    Text* text = nullptr;
+    Texts* texts = nullptr;
+    Numbers* numbers = nullptr;
+};
+using FieldToRead = FieldOfRow<std::int32_t, std::wstring, TextList, NumberList>;
+using FieldToWrite = FieldOfRow<const std::int32_t, const std::wstring, const TextList, const NumberList>;
+
+template <typename Field, typename Row, typename Record>
+[[nodiscard]] Field FindField(const Row& row, Record& record) {
+    switch (row.storedAs) {
+        case StoredAs::kNumber:
+            return {.number = &(record.*row.number)};
+        case StoredAs::kText:
+            return {.text = &(record.*row.text)};
+        case StoredAs::kOldElement:
+            return {.text = &(record.*row.text), .texts = &(record.*row.texts)};
+        case StoredAs::kNumberList:
+            return {.numbers = &(record.*row.numbers)};
+        default:
+            return {.texts = &(record.*row.texts)};
+    }
+}
+
 /// Reads the values of records from the current key, in the order of their layout. A value that cannot be
 /// read is reported and keeps what the record held; reading goes on.
 class RecordReader {
@@ -29,50 +56,14 @@ class RecordReader {
     template <typename Record>
     void Read(std::span<const StoredValue<Record>> layout, Record& record) {
         for (const StoredValue<Record>& row : layout) {
-            ReadValue(row, record);
+            ReadValue(row, FindField<FieldToRead>(row, record));
         }
     }
 
   private:
-    template <typename Record>
-    void ReadValue(const StoredValue<Record>& row, Record& record) {
-        switch (row.storedAs) {
-            case StoredAs::kNumber:
-                ReadNumber(row.name, record.*row.number, row.loadFlags, row.defaultNumber);
-                break;
-            case StoredAs::kText:
-                ReadText(row.name, record.*row.text, row.loadFlags, row.defaultText);
-                break;
-            case StoredAs::kTextList:
-                static_cast<void>(registry_.ReadStringList(row.name, record.*row.texts, owner_));
-                break;
-            case StoredAs::kTextArray:
-                static_cast<void>(registry_.ReadStringArray(row.name, record.*row.texts, owner_));
-                break;
-            case StoredAs::kNumberList:
-                static_cast<void>(registry_.ReadIntList(row.name, record.*row.numbers, owner_));
-                break;
-            case StoredAs::kCount:
-                ReadCount(row.name, row.loadFlags);
-                break;
-            case StoredAs::kElements:
-                ReadElements(row.name, record.*row.texts, row.loadFlags);
-                break;
-            case StoredAs::kOldElement:
-                if (count_ == 0) {
-                    ReadText(row.name, record.*row.text, row.loadFlags, row.defaultText);
-                    (record.*row.texts).push_back(record.*row.text);
-                }
-                break;
-        }
-    }
-
-    void ReadNumber(std::wstring_view name, std::int32_t& number, std::uint32_t flags,
-                    std::int32_t defaultNumber);
-    void ReadText(std::wstring_view name, std::wstring& text, std::uint32_t flags,
-                  std::wstring_view defaultText);
-    void ReadCount(std::wstring_view name, std::uint32_t flags);
-    void ReadElements(std::wstring_view prefix, TextList& list, std::uint32_t flags);
+    void ReadValue(const ValueForm& form, const FieldToRead& field);
+    void ReadCount(const ValueForm& form);
+    void ReadElements(const ValueForm& form, TextList& list);
 
     RegistryAccess& registry_;
     ErrorReporter& reporter_;
@@ -91,42 +82,13 @@ class RecordWriter {
     template <typename Record>
     void Write(std::span<const StoredValue<Record>> layout, const Record& record) {
         for (const StoredValue<Record>& row : layout) {
-            WriteValue(row, record);
+            WriteValue(row, FindField<FieldToWrite>(row, record));
         }
     }
 
   private:
-    template <typename Record>
-    void WriteValue(const StoredValue<Record>& row, const Record& record) {
-        switch (row.storedAs) {
-            case StoredAs::kNumber:
-                static_cast<void>(registry_.WriteInt(row.name, record.*row.number, owner_, row.saveFlags));
-                break;
-            case StoredAs::kText:
-                static_cast<void>(registry_.WriteString(row.name, record.*row.text, owner_, row.saveFlags));
-                break;
-            case StoredAs::kTextList:
-                static_cast<void>(registry_.WriteStringList(row.name, record.*row.texts, owner_));
-                break;
-            case StoredAs::kTextArray:
-                static_cast<void>(registry_.WriteStringArray(row.name, record.*row.texts, owner_));
-                break;
-            case StoredAs::kNumberList:
-                static_cast<void>(registry_.WriteIntList(row.name, record.*row.numbers, owner_));
-                break;
-            case StoredAs::kCount:
-                WriteCount(row.name, record.*row.texts, row.saveFlags);
-                break;
-            case StoredAs::kElements:
-                WriteElements(row.name, record.*row.texts, row.saveFlags);
-                break;
-            case StoredAs::kOldElement:
-                break;
-        }
-    }
-
-    void WriteCount(std::wstring_view name, const TextList& list, std::uint32_t flags);
-    void WriteElements(std::wstring_view prefix, const TextList& list, std::uint32_t flags);
+    void WriteValue(const ValueForm& form, const FieldToWrite& field);
+    void WriteElements(const ValueForm& form, const TextList& list);
 
     RegistryAccess& registry_;
     toolkit::WindowHandle owner_;

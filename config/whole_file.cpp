@@ -5,11 +5,12 @@
 #include <new>
 #include <utility>
 
+#include "config/system_codes.h"
+
 namespace corvane {
 
 namespace {
 
-constexpr std::uint32_t kCodeNotEnoughMemory = 8;
 constexpr std::uint32_t kCodeWriteFault = 29;
 
 // The owner of an open file. Whoever wants to know how closing went calls Close; otherwise the file is

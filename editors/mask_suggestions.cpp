@@ -1,19 +1,19 @@
 #include "editors/mask_suggestions.h"
 
 #include <algorithm>
-#include <set>
-#include <string_view>
+
+#include "toolkit/known_texts.h"
 
 namespace corvane {
 
 namespace {
 
 /// The masks of the rules, last one first, each once.
-TextList RuleMasksFromTheEnd(const std::vector<Rule>& rules, std::set<std::wstring_view>& known) {
+TextList RuleMasksFromTheEnd(const std::vector<Rule>& rules, toolkit::KnownTexts& known) {
     TextList masks;
     for (auto rule = rules.rbegin(); rule != rules.rend(); ++rule) {
         for (auto mask = rule->masks.rbegin(); mask != rule->masks.rend(); ++mask) {
-            if (known.insert(*mask).second) {
+            if (known.Add(*mask)) {
                 masks.push_back(*mask);
             }
         }
@@ -37,13 +37,12 @@ TextList ExtensionMasks(const AppSettings& settings) {
 }  // namespace
 
 TextList BuildMaskSuggestions(const AppSettings& settings, const std::vector<Rule>& rules) {
-    // Views of texts that stay where they are while this runs.
-    std::set<std::wstring_view> known;
     const TextList extensionMasks = ExtensionMasks(settings);
+    toolkit::KnownTexts known;
     TextList suggestions = RuleMasksFromTheEnd(rules, known);
     std::reverse(suggestions.begin(), suggestions.end());
     for (const std::wstring& mask : extensionMasks) {
-        if (known.insert(mask).second) {
+        if (known.Add(mask)) {
             suggestions.push_back(mask);
         }
     }

@@ -22,9 +22,6 @@ namespace corvane {
 
 namespace {
 
-// The size of the icons on buttons, in pixels at 96 dots per inch.
-constexpr int kIconSize = 32;
-
 struct FixedText {
     int controlId;
     const wchar_t* text;
@@ -67,7 +64,10 @@ int ControlOf(ProfileField field) {
 
 CAddProfile::CAddProfile(HWND owner, const ConfigurationState& state, const Profile& profile,
                          const EditorServices& services)
-    : Dialog(IDD_PROFILE_EDITOR, owner), state_(state), services_(services), buttonIcons_(kIconSize) {
+    : Dialog(IDD_PROFILE_EDITOR, owner),
+      state_(state),
+      services_(services),
+      buttonIcons_(toolkit::kButtonIconSize) {
     form_.result = profile;
 }
 

@@ -27,9 +27,6 @@ namespace corvane {
 
 namespace {
 
-// The size of the icons on buttons and in the error box, in pixels at 96 dots per inch.
-constexpr int kIconSize = 32;
-
 // The controls of the option rows.
 constexpr std::array kRowLabels = {IDC_RULE_ROW1_LABEL, IDC_RULE_ROW2_LABEL, IDC_RULE_ROW3_LABEL,
                                    IDC_RULE_ROW4_LABEL};
@@ -104,7 +101,7 @@ CAddRule::CAddRule(HWND owner, const Profile& profile, TextList maskSuggestions,
       services_(services),
       maskSuggestions_(std::move(maskSuggestions)),
       form_(OpenRule(profile, rule, services.acceptedCsProfile)),
-      buttonIcons_(kIconSize) {}
+      buttonIcons_(toolkit::kButtonIconSize) {}
 
 bool CAddRule::OnInitDialog() {
     SetWindowTextW(Window(), form_.title.c_str());
@@ -307,7 +304,8 @@ void CAddRule::OnOk() {
 }
 
 void CAddRule::ShowErrorBox(const std::wstring& text, RuleIcon icon) {
-    const int size = MulDiv(kIconSize, static_cast<int>(DotsPerInch()), USER_DEFAULT_SCREEN_DPI);
+    const int size =
+        MulDiv(toolkit::kButtonIconSize, static_cast<int>(DotsPerInch()), USER_DEFAULT_SCREEN_DPI);
     const toolkit::UniqueIcon picture = toolkit::LoadIconResource(IconResource(icon), size);
     ErrBox(Window(), text, picture.get()).RunModal();
 }

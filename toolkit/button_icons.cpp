@@ -1,5 +1,6 @@
 #include "toolkit/button_icons.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace toolkit {
@@ -9,12 +10,19 @@ void ButtonIcons::Show(HWND dialog, UINT dotsPerInch, int buttonId, int iconId) 
         LoadIconResource(iconId, MulDiv(size_, static_cast<int>(dotsPerInch), USER_DEFAULT_SCREEN_DPI));
     SendDlgItemMessageW(dialog, buttonId, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
     // Only now may the icon shown until here go.
-    icons_[buttonId] = {iconId, std::move(icon)};
+    const auto shown = std::find_if(icons_.begin(), icons_.end(), [buttonId](const ShownIcon& candidate) {
+        return candidate.buttonId == buttonId;
+    });
+    if (shown == icons_.end()) {
+        icons_.push_back({buttonId, iconId, std::move(icon)});
+    } else {
+        *shown = {buttonId, iconId, std::move(icon)};
+    }
 }
 
 void ButtonIcons::Rescale(HWND dialog, UINT dotsPerInch) {
-    for (const auto& [buttonId, shown] : icons_) {
-        Show(dialog, dotsPerInch, buttonId, shown.iconId);
+    for (const ShownIcon& shown : icons_) {
+        Show(dialog, dotsPerInch, shown.buttonId, shown.iconId);
     }
 }
 

@@ -2,11 +2,14 @@
 
 #include <windows.h>
 
-#include <map>
+#include <vector>
 
 #include "toolkit/icon.h"
 
 namespace toolkit {
+
+/// The usual side of the icons on buttons, in pixels at 96 dots per inch.
+inline constexpr int kButtonIconSize = 32;
 
 /// The pictures of a dialog's icon buttons, kept for as long as the buttons show them. A button also keeps
 /// its text, which is its accessible name.
@@ -22,12 +25,13 @@ class ButtonIcons {
 
   private:
     struct ShownIcon {
+        int buttonId = 0;
         int iconId = 0;
         UniqueIcon icon;
     };
 
     int size_;
-    std::map<int, ShownIcon> icons_;  ///< By button.
+    std::vector<ShownIcon> icons_;  ///< One for each button that shows an icon.
 };
 
 }  // namespace toolkit

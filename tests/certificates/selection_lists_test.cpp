@@ -275,5 +275,24 @@ TEST_F(SelectionLists, ALongListKeepsItsScrollPositionThroughTheChecks) {
     EXPECT_EQ(Found().TopRow(), top);
 }
 
+TEST_F(SelectionLists, TheFocusGoesToTheLastRowThatStaysWhenItsOwnGoes) {
+    constexpr int kOwners = 600;
+    for (int i = 0; i < kOwners; ++i) {
+        script.Certificate(LibraryScriptWriter::kEvery,
+                           "CN=Owner " + std::to_string(1000 + i) + (i % 2 == 0 ? ",O=North" : ",O=South"));
+    }
+    OpenRecipients();
+    Press(IDC_SELECTION_FROM_STORE_BUTTON);
+    Found().Select({kOwners - 1});
+    Found().Send(LVM_ENSUREVISIBLE, kOwners - 1);
+    ASSERT_EQ(Found().FocusedRow(), kOwners - 1);
+    Filter(L"north");
+    ASSERT_EQ(Found().RowCount(), kOwners / 2);
+    EXPECT_EQ(Found().FocusedRow(), kOwners / 2 - 1);
+    EXPECT_TRUE(Found().IsInView(kOwners / 2 - 1));
+    EXPECT_EQ(Found().SelectedRows(), std::vector<int>());
+    EXPECT_EQ(Found().Cell(kOwners / 2 - 1, 0), L"CN=Owner 1598,O=North");
+}
+
 }  // namespace
 }  // namespace corvane

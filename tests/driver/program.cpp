@@ -21,16 +21,30 @@ std::wstring WindowsPath(std::wstring path) {
     return path;
 }
 
+/// Under Wine one start in some thousands ends as an internal error, before anything of the program has run;
+/// the next one goes well.
+bool StartProcess(const std::wstring& file, PROCESS_INFORMATION& process) {
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        std::wstring commandLine = L"\"" + file + L"\"";
+        STARTUPINFOW start{};
+        start.cb = sizeof start;
+        if (CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                           &start, &process)) {
+            return true;
+        }
+        if (GetLastError() != ERROR_INTERNAL_ERROR) {
+            return false;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 Program::Program(const std::wstring& path) {
     const std::wstring file = WindowsPath(path);
-    std::wstring commandLine = L"\"" + file + L"\"";
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &start, &process)) {
+    if (!StartProcess(file, process)) {
         throw Failure(L"The program could not be started (system code " + std::to_wstring(GetLastError()) +
                       L"): " + file);
     }

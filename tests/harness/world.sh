@@ -1,7 +1,9 @@
-# The world that Windows programs live in while they are tested: a display with a window manager, and Wine
-# prefixes, in a folder of its own under build/worlds/ that is named for the process that owns it. Whatever is
-# started in a world, by whomever, has CORVANE_WORLD=<that folder> in its environment and is found by it in the
-# end, also when its parent has gone: Wine detaches the processes that it starts. Sourced, never run.
+# The world that Windows programs live in while they are tested, in a folder of its own under build/worlds/ that
+# is named for the process that owns it. It has CORVANE_DESKTOPS desktops, one unless told: each is a display
+# with a window manager, and Wine prefixes, so that each has one focus and one registry, and tests on different
+# desktops do not meet. Whatever is started in a world, by whomever, has CORVANE_WORLD=<that folder> in its
+# environment and is found by it in the end, also when its parent has gone: Wine detaches the processes that it
+# starts. Sourced, never run.
 # shellcheck shell=bash
 
 harness=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -54,9 +56,10 @@ with_lock() {
     (flock 9 && "$@" 9>&-) 9>"$file"
 }
 
-# --- The display ---
+# --- The desktops ---
 
 start_world() {
+    local number
     end_abandoned_worlds
     export CORVANE_WORLD=$buildFolder/worlds/$$
     mkdir -p "$CORVANE_WORLD/home"
@@ -65,25 +68,50 @@ start_world() {
     trap 'exit 143' TERM HUP
     export HOME=$CORVANE_WORLD/home XDG_RUNTIME_DIR=$CORVANE_WORLD/home
     unset WAYLAND_DISPLAY XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME
+    # The first is started last, so it is the one whose display those use who do not ask for a desktop.
+    for ((number = ${CORVANE_DESKTOPS:-1}; number > 0; number--)); do
+        start_desktop "$CORVANE_WORLD/desktop-$number"
+    done
+}
 
-    local display number
+start_desktop() {
+    local folder=$1 display number
+    mkdir "$folder"
     exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1920x1200x24 -dpi 96 -nolisten tcp -noreset \
-        2>"$CORVANE_WORLD/display.log")
+        2>"$folder/display.log")
     if ! read -r -t 60 number <&"$display"; then
-        cat "$CORVANE_WORLD/display.log" >&2
+        cat "$folder/display.log" >&2
         return 1
     fi
     export DISPLAY=:$number
     # Without a window manager each closing window costs two seconds under Wine.
-    openbox --sm-disable --config-file "$harness/openbox.xml" >"$CORVANE_WORLD/openbox.log" 2>&1 &
+    openbox --sm-disable --config-file "$harness/openbox.xml" >"$folder/openbox.log" 2>&1 &
     disown
-    wait_until 60 xdotool get_num_desktops || { cat "$CORVANE_WORLD/openbox.log" >&2 && return 1; }
+    wait_until 60 xdotool get_num_desktops || { cat "$folder/openbox.log" >&2 && return 1; }
+    printf '%s\n' "$DISPLAY" >"$folder/display"
+}
+
+# Takes a desktop that nobody is at, for as long as this shell runs; waits where there is none. What this shell
+# starts must not keep the file of the lock, {desktopLock}, open, for Wine's servers live on.
+take_desktop() {
+    while true; do
+        for desktop in "$CORVANE_WORLD"/desktop-*; do
+            exec {desktopLock}>"$desktop/taken"
+            if flock --nonblock "$desktopLock"; then
+                DISPLAY=$(<"$desktop/display")
+                export DISPLAY
+                return 0
+            fi
+            exec {desktopLock}>&-
+        done
+        sleep 0.05
+    done
 }
 
 end_world() {
     local prefix
     trap '' INT TERM HUP
-    for prefix in "$CORVANE_WORLD"/prefix*; do
+    for prefix in "$CORVANE_WORLD"/desktop-*/prefix*; do
         if [[ -d $prefix ]]; then
             WINEPREFIX=$prefix wineserver -k 2>/dev/null || true
         fi
@@ -159,16 +187,16 @@ make_locale() {
     fi
 }
 
-# enter_prefix DPI CODE_PAGE: Wine works in the world's prefix for the two from now on. What takes the code
-# page is started with the variables in programEnvironment.
+# enter_prefix DPI CODE_PAGE: Wine works in the prefix for the two that belongs to the desktop taken, from now
+# on. What takes the code page is started with the variables in programEnvironment.
 enter_prefix() {
     local dpi=$1 codePage=$2 name
-    export WINEPREFIX=$CORVANE_WORLD/prefix-$dpi-$codePage
+    export WINEPREFIX=$desktop/prefix-$dpi-$codePage
     programEnvironment=(LC_ALL=C.UTF-8)
     if [[ $codePage != 1252 ]]; then
         name=${localeOfCodePage[$codePage]?no locale is known for this code page}
         with_lock "$buildFolder/locales.lock" make_locale "$name"
         programEnvironment=("LOCPATH=$buildFolder/locales" "LC_ALL=$name.UTF-8")
     fi
-    with_lock "$WINEPREFIX.lock" make_prefix "$dpi"
+    (exec {desktopLock}>&- && make_prefix "$dpi")
 }
