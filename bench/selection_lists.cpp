@@ -51,12 +51,12 @@ class ManyCertificates final : public corvane::ProviderLibrary {
             corvane::CertEntry entry = {};
             entry.owner = owner.data();
             entry.usage = 0xFF;
-            entries_.push_back(entry);
+            certEntries.push_back(entry);
         }
         functions_.findCert = [](corvane::ProviderContext, corvane::CertQuery*,
                                  corvane::CertFindResult* result) {
-            result->count = static_cast<std::uint32_t>(entries_.size());
-            result->entries = entries_.data();
+            result->count = static_cast<std::uint32_t>(certEntries.size());
+            result->entries = certEntries.data();
             return std::uint32_t{0};
         };
         functions_.freeFindResult = [](corvane::ProviderContext, corvane::CertFindResult*) {
@@ -68,7 +68,7 @@ class ManyCertificates final : public corvane::ProviderLibrary {
     [[nodiscard]] const corvane::ProviderBindFailure& LastFailure() const override { return failure_; }
 
   private:
-    inline static std::vector<corvane::CertEntry> entries_;
+    inline static std::vector<corvane::CertEntry> certEntries;
     std::vector<std::string> owners_;
     corvane::ProviderFunctions functions_ = {};
     corvane::ProviderBindFailure failure_;

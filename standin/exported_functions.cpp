@@ -38,8 +38,12 @@ std::uint32_t Serve(Call call) {
 }  // namespace
 }  // namespace corvane::standin
 
+namespace {
+
 using corvane::standin::Serve;
 using corvane::standin::StandInProvider;
+
+}  // namespace
 
 std::uint32_t XSIG_Initialize(const char* csProfileName, std::uint32_t flags,
                               corvane::ProviderContext* context) {

@@ -1,5 +1,7 @@
 #include "toolkit/combo_box.h"
 
+#include <algorithm>
+
 namespace toolkit {
 
 void ComboBox::Fill(const std::vector<std::wstring>& entries) const {
@@ -26,6 +28,7 @@ void ComboBox::Fill(const std::vector<std::wstring>& entries) const {
 std::vector<std::wstring> ComboBox::Entries() const {
     std::vector<std::wstring> entries;
     const int count = static_cast<int>(Send(CB_GETCOUNT));
+    entries.reserve(static_cast<std::size_t>(std::max(count, 0)));
     for (int index = 0; index < count; ++index) {
         entries.push_back(Entry(index));
     }

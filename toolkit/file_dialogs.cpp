@@ -18,8 +18,8 @@ using FileDialogFunction = BOOL(WINAPI*)(OPENFILENAMEW*);
 
 std::optional<std::wstring> Ask(const char* functionName, HWND owner, const FileDialogOffer& offer,
                                 DWORD flags) {
-    static const LateLibrary library(L"comdlg32.dll");
-    const auto function = library.Find<FileDialogFunction>(functionName);
+    static const LateLibrary kLibrary(L"comdlg32.dll");
+    const auto function = kLibrary.Find<FileDialogFunction>(functionName);
     if (function == nullptr) {
         return std::nullopt;
     }

@@ -67,7 +67,9 @@ std::wstring ListBox::Entry(int index) const {
 
 std::vector<std::wstring> ListBox::Entries() const {
     std::vector<std::wstring> entries;
-    for (int index = 0; index < Count(); ++index) {
+    const int count = Count();
+    entries.reserve(static_cast<std::size_t>(std::max(count, 0)));
+    for (int index = 0; index < count; ++index) {
         entries.push_back(Entry(index));
     }
     return entries;

@@ -12,8 +12,8 @@ namespace toolkit {
 namespace {
 
 const LateLibrary& ComLibrary() {
-    static const LateLibrary library(L"ole32.dll");
-    return library;
+    static const LateLibrary kLibrary(L"ole32.dll");
+    return kLibrary;
 }
 
 struct InterfaceReleaser {

@@ -18,9 +18,9 @@ void ScaleRectangle(RECT& rectangle, UINT from, UINT to) {
 }  // namespace
 
 UINT WindowDotsPerInch(HWND window) {
-    static const auto dpiForWindow =
+    static const auto kDpiForWindow =
         FindSystemFunction<UINT(WINAPI*)(HWND)>(L"user32.dll", "GetDpiForWindow");
-    const UINT dotsPerInch = dpiForWindow != nullptr ? dpiForWindow(window) : 0;
+    const UINT dotsPerInch = kDpiForWindow != nullptr ? kDpiForWindow(window) : 0;
     if (dotsPerInch != 0) {
         return dotsPerInch;
     }
@@ -31,18 +31,18 @@ UINT WindowDotsPerInch(HWND window) {
 }
 
 int SystemMetric(int metric, UINT dotsPerInch) {
-    static const auto metricForDpi =
+    static const auto kMetricForDpi =
         FindSystemFunction<int(WINAPI*)(int, UINT)>(L"user32.dll", "GetSystemMetricsForDpi");
-    return metricForDpi != nullptr ? metricForDpi(metric, dotsPerInch) : GetSystemMetrics(metric);
+    return kMetricForDpi != nullptr ? kMetricForDpi(metric, dotsPerInch) : GetSystemMetrics(metric);
 }
 
 void TakeOverScaling(HWND dialog) {
     // DIALOG_DPI_CHANGE_BEHAVIORS: DDC_DISABLE_ALL, as value and as mask.
     constexpr int kDisableAll = 1;
-    static const auto setBehavior =
+    static const auto kSetBehavior =
         FindSystemFunction<BOOL(WINAPI*)(HWND, int, int)>(L"user32.dll", "SetDialogDpiChangeBehavior");
-    if (setBehavior != nullptr) {
-        setBehavior(dialog, kDisableAll, kDisableAll);
+    if (kSetBehavior != nullptr) {
+        kSetBehavior(dialog, kDisableAll, kDisableAll);
     }
 }
 

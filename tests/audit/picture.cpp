@@ -9,8 +9,10 @@
 #include <vector>
 
 // The picture library's headers want these two by their bare names.
+namespace Gdiplus {
 using std::max;
 using std::min;
+}  // namespace Gdiplus
 
 #include <gdiplus.h>
 

@@ -25,14 +25,14 @@ struct HookRemover {
 
 ProbeRequest Probe(const Window& window, const ProbeRequest& question) {
     // Stays loaded for the life of the test program; the system unloads it from the driven one.
-    static const HMODULE library = LoadLibraryW(LibraryPath().c_str());
-    const FARPROC function = library == nullptr ? nullptr : GetProcAddress(library, kProbeHook);
+    static const HMODULE kLibrary = LoadLibraryW(LibraryPath().c_str());
+    const FARPROC function = kLibrary == nullptr ? nullptr : GetProcAddress(kLibrary, kProbeHook);
     if (function == nullptr) {
         throw Failure(L"The probe library is missing: " + LibraryPath());
     }
     const std::unique_ptr<HHOOK, HookRemover> hook(
         SetWindowsHookExW(WH_CALLWNDPROC, reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(function)),
-                          library, window.ThreadId()));
+                          kLibrary, window.ThreadId()));
     if (!hook) {
         throw Failure(L"The probe could not be hooked into the program of " + window.Name() + L".");
     }

@@ -28,10 +28,10 @@ class HandMadeKeys : public RealStore {
 
 TEST_F(HandMadeKeys, NumbersOfEveryTypeAndSize) {
     struct Case {
-        const char* what;
+        const char* what = nullptr;
         StoredData stored;
-        std::int32_t number;
-        bool isReported;
+        std::int32_t number = 0;
+        bool isReported = false;
     };
     const Case cases[] = {
         {"DWORD", Number(7), 7, false},

@@ -13,7 +13,7 @@ constexpr std::uint32_t kAccess = 0x2001F;
 
 class RealCalls : public ::testing::Test {
   protected:
-    ~RealCalls() override {
+    void TearDown() override {
         for (const RegistryCalls::Key key : opened_) {
             EXPECT_EQ(calls.Close(key), 0U);
         }

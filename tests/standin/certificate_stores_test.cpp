@@ -103,7 +103,7 @@ TEST(LocalStore, ASerialReadsAsTheCertificateHoldsIt) {
 TEST(LocalStore, FilesThatAreNoCertificatesArePassedOver) {
     LoadedStandIn library;
     std::ofstream(ToCodePage(library.Certificates() + L"local\\broken.cer")) << "no certificate";
-    std::ofstream(ToCodePage(library.Certificates() + L"local\\empty.pem"));
+    std::ofstream(ToCodePage(library.Certificates() + L"local\\empty.pem")) << "";
     std::ofstream(ToCodePage(library.Certificates() + L"local\\notes.txt")) << "notes";
     const ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;

@@ -35,9 +35,10 @@ class RulesFile : public EditorTest {
                   (L"corvane rules " + std::to_wstring(GetCurrentProcessId()));
         std::filesystem::create_directories(folder_);
     }
-    ~RulesFile() override {
+    void TearDown() override {
         std::error_code ignored;
         std::filesystem::remove_all(folder_, ignored);
+        EditorTest::TearDown();
     }
     [[nodiscard]] std::wstring Path(const std::wstring& name) const { return (folder_ / name).wstring(); }
     [[nodiscard]] std::string Content(const std::wstring& name) const {

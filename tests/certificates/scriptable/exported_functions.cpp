@@ -39,8 +39,12 @@ std::uint32_t Serve(Call call) {
 }  // namespace
 }  // namespace scriptable
 
+namespace {
+
 using scriptable::ScriptableLibrary;
 using scriptable::Serve;
+
+}  // namespace
 
 std::uint32_t XSIG_Initialize(const char* csProfileName, std::uint32_t flags,
                               corvane::ProviderContext* context) {

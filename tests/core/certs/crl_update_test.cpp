@@ -60,7 +60,7 @@ TEST_F(CrlUpdate, DoesNothingBeforeThePeriodHasPassed) {
 }
 
 TEST_F(CrlUpdate, RunsExactlyAfterThePeriod) {
-    Store({L"main;;" + std::to_wstring(clock_.seconds - 24 * 3600)});
+    Store({L"main;;" + std::to_wstring(clock_.seconds - 86'400)});
     EXPECT_TRUE(Update());
     EXPECT_EQ(sessions_.Controls().size(), 1U);
     EXPECT_THAT(Stored(), ElementsAre(L"main;;1600000000"));
@@ -71,7 +71,7 @@ TEST_F(CrlUpdate, TwoCsProfilesLeaveTwoEntriesInTheOrderOfTheirFirstRefresh) {
     csProfile_.name = L"alpha";
     EXPECT_TRUE(Update());
     csProfile_.name = L"main";
-    clock_.seconds += 100 * 3600;
+    clock_.seconds += 360'000;
     EXPECT_TRUE(Update());
     EXPECT_THAT(Stored(), ElementsAre(L"main;;1600360000", L"alpha;;1600000000"));
 }

@@ -74,7 +74,7 @@ TEST(ParseGroupFile, ALoneCrOrLfBelongsToItsLine) {
 }
 
 TEST(ParseGroupFile, AZeroByteEndsTheFile) {
-    EXPECT_THAT(Parse(std::string_view("CN=A\r\nCN=B\0\r\nCN=C\r\n", 20)), ElementsAre(L"CN=A"));
+    EXPECT_THAT(Parse(std::string_view("CN=A\r\nCN=B\0\r\nCN=C\r\n", 19)), ElementsAre(L"CN=A"));
     EXPECT_THAT(Parse(std::string_view("\0CN=A\r\n", 7)), IsEmpty());
 }
 

@@ -10,6 +10,7 @@ namespace {
 using ::testing::ElementsAre;
 
 constexpr std::int64_t kNow = 1'600'000'020;  // A whole minute.
+constexpr std::int64_t kDay = 86'400;         // Seconds.
 
 bool IsDue(const TextList& entries, std::int32_t periodHours = 24, std::int64_t now = kNow) {
     return FindRefreshState(entries, L"main", periodHours, now).isDue;
@@ -26,16 +27,16 @@ TEST(RefreshState, WithoutAnEntryItIsDue) {
 }
 
 TEST(RefreshState, AMinuteBeforeThePeriodEndsItIsNotDue) {
-    EXPECT_FALSE(IsDue({Entry(kNow - 24 * 3600 + 60)}));
+    EXPECT_FALSE(IsDue({Entry(kNow - kDay + 60)}));
 }
 
 TEST(RefreshState, ExactlyAtThePeriodItIsDue) {
-    EXPECT_TRUE(IsDue({Entry(kNow - 24 * 3600)}));
+    EXPECT_TRUE(IsDue({Entry(kNow - kDay)}));
 }
 
 TEST(RefreshState, WholeMinutesCount) {
-    EXPECT_TRUE(IsDue({Entry(kNow - 24 * 3600 + 59)})) << "the minute is the same";
-    EXPECT_FALSE(IsDue({Entry(kNow - 24 * 3600)}, 24, kNow - 1)) << "the minute before";
+    EXPECT_TRUE(IsDue({Entry(kNow - kDay + 59)})) << "the minute is the same";
+    EXPECT_FALSE(IsDue({Entry(kNow - kDay)}, 24, kNow - 1)) << "the minute before";
 }
 
 TEST(RefreshState, ATimeInTheFutureIsNotDue) {

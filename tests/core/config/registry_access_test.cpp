@@ -281,10 +281,10 @@ struct ReadOutcome {
 
 TEST_F(ReadInt, StoresTheDefaultOrLeavesTheFieldAndReports) {
     struct Case {
-        const char* what;
+        const char* what = nullptr;
         std::optional<StoredData> stored;
-        std::int32_t value;
-        std::uint32_t reportedCode;
+        std::int32_t value = 0;
+        std::uint32_t reportedCode = 0;
     };
     const Case cases[] = {
         {"a number", Number(7), 7, 0},

@@ -10,8 +10,8 @@ namespace corvane::testing {
 namespace {
 
 struct Entry {
-    const wchar_t* text;
-    std::int32_t number;
+    const wchar_t* text = nullptr;
+    std::int32_t number = 0;
     std::optional<std::wstring> correction;
 };
 

@@ -2,10 +2,14 @@
 
 // Functions that only say which of them was called.
 
+namespace {
+
 using corvane::CertFindResult;
 using corvane::CertQuery;
 using corvane::ProviderContext;
 using corvane::XsigBlob;
+
+}  // namespace
 
 extern "C" {
 

@@ -88,8 +88,10 @@ TEST_F(AnchoredLayoutTest, AnotherScalePutsTheControlsInTheirPlaces) {
     layout_.Rescale(48);
     const RECT place = PlaceOf(dialog_.Control(IDOK));
     // The dialog itself has kept its size, so it is half again as large as what is remembered now.
-    EXPECT_NEAR(place.left, 5 + width_ - width_ / 2, 1);
-    EXPECT_NEAR(place.top, 50 + height_ - height_ / 2, 1);
+    const auto halfWidth = width_ / 2;
+    const auto halfHeight = height_ / 2;
+    EXPECT_NEAR(place.left, 5 + width_ - halfWidth, 1);
+    EXPECT_NEAR(place.top, 50 + height_ - halfHeight, 1);
 }
 
 TEST(AnchoredLayoutBeforeItsDialog, LimitsNothing) {
