@@ -32,7 +32,7 @@ function(corvane_floor)
   if(sources AND CORVANE_WHOLE_PROGRAM)
     # For the program itself, which is made from all floors at once.
     add_library(${FLOOR_NAME}_parts OBJECT ${sources})
-    target_link_libraries(${FLOOR_NAME}_parts PRIVATE corvane_settings)
+    target_link_libraries(${FLOOR_NAME}_parts PUBLIC corvane_settings ${FLOOR_SYSTEM_LIBRARIES})
     target_compile_options(${FLOOR_NAME}_parts PRIVATE -flto)
     set_target_properties(${FLOOR_NAME}_parts PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
   endif()

@@ -36,8 +36,6 @@ class ValueName {
     constexpr ValueName(const wchar_t* literal) : literal_(literal) {}
     // NOLINTNEXTLINE(google-explicit-constructor): it serves wherever a text is only read.
     constexpr operator std::wstring_view() const { return literal_; }
-    // NOLINTNEXTLINE(readability-identifier-naming): called as with a view.
-    [[nodiscard]] constexpr const wchar_t* data() const { return literal_; }
 
   private:
     const wchar_t* literal_;

@@ -30,6 +30,7 @@ struct FieldOfRow {
 using FieldToRead = FieldOfRow<std::int32_t, std::wstring, TextList, NumberList>;
 using FieldToWrite = FieldOfRow<const std::int32_t, const std::wstring, const TextList, const NumberList>;
 
+/// The field of `record` that the row speaks of, as `Field`, which is one of the two above.
 template <typename Field, typename Row, typename Record>
 [[nodiscard]] Field FindField(const Row& row, Record& record) {
     switch (row.storedAs) {

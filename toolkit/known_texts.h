@@ -23,8 +23,6 @@ class KnownTexts {
     /// The number of the text; none where it was never added.
     [[nodiscard]] std::optional<std::size_t> NumberOf(std::wstring_view text) const;
     [[nodiscard]] bool Contains(std::wstring_view text) const { return NumberOf(text).has_value(); }
-    /// How many different texts there are; the next new one gets this number.
-    [[nodiscard]] std::size_t Count() const { return texts_.size(); }
 
   private:
     /// The place of the text, or the free one where it belongs.

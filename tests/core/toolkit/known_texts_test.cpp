@@ -17,7 +17,6 @@ TEST(KnownTexts, ComeInTheOrderOfArrival) {
     EXPECT_TRUE(known.Add(L"CN=Adam"));
     EXPECT_EQ(known.NumberOf(L"CN=Bell"), 0U);
     EXPECT_EQ(known.NumberOf(L"CN=Adam"), 1U);
-    EXPECT_EQ(known.Count(), 2U);
 }
 
 TEST(KnownTexts, ATextThatIsMetAgainKeepsItsNumber) {
@@ -26,7 +25,8 @@ TEST(KnownTexts, ATextThatIsMetAgainKeepsItsNumber) {
     known.Add(L"second");
     EXPECT_FALSE(known.Add(std::wstring(L"first")));
     EXPECT_EQ(known.NumberOf(L"first"), 0U);
-    EXPECT_EQ(known.Count(), 2U);
+    EXPECT_TRUE(known.Add(L"third"));
+    EXPECT_EQ(known.NumberOf(L"third"), 2U);
 }
 
 TEST(KnownTexts, LetterCaseTellsTextsApart) {
@@ -34,7 +34,7 @@ TEST(KnownTexts, LetterCaseTellsTextsApart) {
     known.Add(L"a");
     EXPECT_FALSE(known.Contains(L"A"));
     EXPECT_TRUE(known.Add(L"A"));
-    EXPECT_EQ(known.Count(), 2U);
+    EXPECT_EQ(known.NumberOf(L"A"), 1U);
 }
 
 TEST(KnownTexts, ATextThatWasNeverAddedHasNone) {
@@ -70,7 +70,6 @@ TEST_P(ManyKnownTexts, AreAllKeptApartAndFoundAgain) {
         ASSERT_FALSE(known.Add(texts[i]));
         ASSERT_EQ(known.NumberOf(texts[i]), i);
     }
-    EXPECT_EQ(known.Count(), texts.size());
     EXPECT_FALSE(known.Contains(L"CN=Owner 20000,OU=Settlement,O=Northgate,C=GB"));
 }
 
