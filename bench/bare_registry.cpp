@@ -82,7 +82,7 @@ class BareReader {
                     Query(key, corvane::ElementName(row.name, index).c_str());
                 }
             } else if (row.storedAs != StoredAs::kOldElement || count == 0) {
-                Query(key, row.name.data());
+                Query(key, row.name.Literal());
                 if (row.storedAs == StoredAs::kCount) {
                     count = buffer_[0];  // The sample has fewer than 256 of anything.
                 }
@@ -143,20 +143,20 @@ void Write(HKEY key, std::span<const StoredValue<Record>> layout, const Record& 
     for (const StoredValue<Record>& row : layout) {
         switch (row.storedAs) {
             case StoredAs::kNumber:
-                SetNumber(key, row.name.data(), record.*row.number);
+                SetNumber(key, row.name.Literal(), record.*row.number);
                 break;
             case StoredAs::kText:
-                SetText(key, row.name.data(), record.*row.text);
+                SetText(key, row.name.Literal(), record.*row.text);
                 break;
             case StoredAs::kTextList:
             case StoredAs::kTextArray:
-                SetText(key, row.name.data(), Joined(record.*row.texts), REG_MULTI_SZ);
+                SetText(key, row.name.Literal(), Joined(record.*row.texts), REG_MULTI_SZ);
                 break;
             case StoredAs::kNumberList:
-                SetText(key, row.name.data(), Joined(record.*row.numbers), REG_MULTI_SZ);
+                SetText(key, row.name.Literal(), Joined(record.*row.numbers), REG_MULTI_SZ);
                 break;
             case StoredAs::kCount:
-                SetNumber(key, row.name.data(), static_cast<std::int32_t>((record.*row.texts).size()));
+                SetNumber(key, row.name.Literal(), static_cast<std::int32_t>((record.*row.texts).size()));
                 break;
             case StoredAs::kElements:
                 for (std::size_t index = 0; index < (record.*row.texts).size(); ++index) {

@@ -36,6 +36,8 @@ class ValueName {
     constexpr ValueName(const wchar_t* literal) : literal_(literal) {}
     // NOLINTNEXTLINE(google-explicit-constructor): it serves wherever a text is only read.
     constexpr operator std::wstring_view() const { return literal_; }
+    /// Ends with a NUL, as the system wants it.
+    [[nodiscard]] constexpr const wchar_t* Literal() const { return literal_; }
 
   private:
     const wchar_t* literal_;
