@@ -4,15 +4,14 @@
 #include <utility>
 
 #include "app/reporting/message_styles.h"
+#include "config/folder_path.h"
 #include "config/records.h"
+#include "config/system_codes.h"
 #include "toolkit/format_text.h"
 
 namespace corvane {
 
 namespace {
-
-constexpr std::uint32_t kPathNotFound = 3;
-constexpr std::uint32_t kFileExists = 80;
 
 void ReportBadPath(std::uint32_t code, const std::wstring& path, ErrorReporter& reporter,
                    toolkit::WindowHandle dialog) {
@@ -26,15 +25,11 @@ bool IsFolderThere(const std::wstring& path, toolkit::FileCalls& files, ErrorRep
                    toolkit::WindowHandle dialog) {
     const std::uint32_t code = files.CheckExists(path);
     // Deliberate: "file exists" as the reason why a path does not exist lets it pass.
-    if (code == 0 || code == kFileExists) {
+    if (code == 0 || code == kCodeFileExists) {
         return true;
     }
     ReportBadPath(code, path, reporter, dialog);
     return false;
-}
-
-bool IsDriveOrNetworkPath(const std::wstring& path) {
-    return path.find(L':') != std::wstring::npos || path.find(L"\\\\") != std::wstring::npos;
 }
 
 }  // namespace
@@ -73,7 +68,7 @@ bool LogSettingsForm::Confirm(toolkit::FileCalls& files, ErrorReporter& reporter
         return false;
     }
     if (!IsDriveOrNetworkPath(editedPath)) {
-        ReportBadPath(kPathNotFound, editedPath, reporter, dialog);
+        ReportBadPath(kCodePathNotFound, editedPath, reporter, dialog);
         return false;
     }
     logPath_ = editedPath;

@@ -11,15 +11,12 @@ namespace corvane {
 
 namespace {
 
-constexpr wchar_t kSeparator[] = L"; ";
-
-// The marker for "not set" in path and profile fields.
-constexpr wchar_t kNotSet[] = L"0";
+constexpr wchar_t kPartSeparator[] = L"; ";
 
 /// Appends a part, with the separator before it unless it is the first one.
 void AppendPart(std::wstring& text, const std::wstring& part) {
     if (!text.empty()) {
-        text += kSeparator;
+        text += kPartSeparator;
     }
     text += part;
 }
@@ -39,10 +36,10 @@ std::wstring ResignPartsText(const Rule& rule) {
     std::wstring text;
     if (!rule.signerGroups.empty()) {
         text += toolkit::DecimalText(static_cast<std::int64_t>(rule.signerGroups.size()));
-        text += kSeparator;
+        text += kPartSeparator;
     }
     text += rule.resignProfile;
-    text += kSeparator;
+    text += kPartSeparator;
     text += SignatureFormatsText(rule);
     return text;
 }
@@ -54,7 +51,7 @@ void AppendArchiveFormat(std::wstring& text, const Rule& rule) {
     // Deliberate: the separator also stands where recipients or signer lists exist whose number this
     // operation does not show; users read such rows so.
     if (!rule.recipients.empty() || !rule.signerGroups.empty()) {
-        text += kSeparator;
+        text += kPartSeparator;
     }
     text += ArchiveFormatText(rule);
 }
@@ -73,7 +70,7 @@ void AppendPackParts(std::wstring& text, const Rule& rule) {
 void AppendExecutionParts(std::wstring& text, const Rule& rule) {
     AppendPart(text, rule.executable);
     if (rule.executionTimeout > 0) {
-        text += kSeparator;
+        text += kPartSeparator;
         text += toolkit::DecimalText(rule.executionTimeout);
     }
 }
@@ -81,7 +78,7 @@ void AppendExecutionParts(std::wstring& text, const Rule& rule) {
 std::wstring OperationText(const Rule& rule) {
     // Deliberate: an output folder that is not set blanks the operation, not the folder. Users know such
     // rules by it.
-    if (rule.outputFolder == kNotSet) {
+    if (rule.outputFolder == kNotSetText) {
         return {};
     }
     return std::wstring(OperationDisplayName(rule.operation));
@@ -90,7 +87,7 @@ std::wstring OperationText(const Rule& rule) {
 std::wstring ErrorFolderText(const Rule& rule) {
     // Deliberate: a CS profile that is not set blanks the error folder, not the profile. Users know such
     // rules by it.
-    return rule.csProfile == kNotSet ? std::wstring() : rule.errorFolder;
+    return rule.csProfile == kNotSetText ? std::wstring() : rule.errorFolder;
 }
 
 std::wstring MasksText(const Rule& rule) {

@@ -69,7 +69,7 @@ class ConfigurationLoad {
         writer.Write(FirstSettingsLayout(), AppSettings{});
 
         Profile profile;
-        profile.timeStampServers = {L"0"};
+        profile.timeStampServers = {kNotSetText};
         profile.csProfiles = {state_.csProfileCatalogue.front()};
         for (NumberList Profile::*const list :
              {&Profile::autoUseTimeStamp, &Profile::autoVerifyTimeStamp, &Profile::notAddCertificate,

@@ -7,6 +7,9 @@
 
 namespace corvane {
 
+/// What stands for "not set" in stored paths, profile names and lists of texts.
+inline constexpr wchar_t kNotSetText[] = L"0";
+
 using TextList = std::vector<std::wstring>;
 using NumberList = std::vector<std::int32_t>;
 
@@ -83,17 +86,17 @@ struct Rule {
 
 /// The settings of one CS profile that a processing profile uses: entry i of the profile's eleven lists.
 struct CsProfile {
-    std::wstring name;                     ///< "ZCSProfile"
-    std::wstring timeStampServer = L"0";   ///< "ServerTSP"
-    std::int32_t autoUseTimeStamp = 0;     ///< "AutoUseTSP"
-    std::int32_t autoVerifyTimeStamp = 0;  ///< "AutoVerifyTSP"
-    std::int32_t noTimeStampIsError = 0;   ///< "NoTSPisError"
-    std::int32_t notAddCertificate = 0;    ///< "NotAddCert"
-    std::int32_t notCopyToLocal = 0;       ///< "NotCopyToLocal"
-    std::int32_t notLoadCrl = 0;           ///< "NotLoadCrl"
-    std::int32_t crlUpdatePeriod = 1;      ///< "CrlUpdatePeriod", hours
-    std::int32_t notUseDirectory = 1;      ///< "NotUseLDAP"
-    std::int32_t useAuthorityAccess = 0;   ///< "UseAIA"
+    std::wstring name;                           ///< "ZCSProfile"
+    std::wstring timeStampServer = kNotSetText;  ///< "ServerTSP"
+    std::int32_t autoUseTimeStamp = 0;           ///< "AutoUseTSP"
+    std::int32_t autoVerifyTimeStamp = 0;        ///< "AutoVerifyTSP"
+    std::int32_t noTimeStampIsError = 0;         ///< "NoTSPisError"
+    std::int32_t notAddCertificate = 0;          ///< "NotAddCert"
+    std::int32_t notCopyToLocal = 0;             ///< "NotCopyToLocal"
+    std::int32_t notLoadCrl = 0;                 ///< "NotLoadCrl"
+    std::int32_t crlUpdatePeriod = 1;            ///< "CrlUpdatePeriod", hours
+    std::int32_t notUseDirectory = 1;            ///< "NotUseLDAP"
+    std::int32_t useAuthorityAccess = 0;         ///< "UseAIA"
 
     bool operator==(const CsProfile&) const = default;
 };

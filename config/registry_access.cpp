@@ -203,7 +203,7 @@ bool RegistryAccess::WriteIntList(std::wstring_view name, const NumberList& list
 bool RegistryAccess::WriteStringList(std::wstring_view name, const TextList& list,
                                      toolkit::WindowHandle owner) {
     TextList elements = list;
-    std::replace(elements.begin(), elements.end(), std::wstring(), std::wstring(L"0"));
+    std::replace(elements.begin(), elements.end(), std::wstring(), std::wstring(kNotSetText));
     return WriteList(name, elements, owner);
 }
 

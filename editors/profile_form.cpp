@@ -10,8 +10,6 @@ namespace corvane {
 
 namespace {
 
-constexpr wchar_t kNotSet[] = L"0";
-
 void ClampCrlUpdatePeriod(CsProfile& entry) {
     entry.crlUpdatePeriod = std::clamp(entry.crlUpdatePeriod, 0, kLongestCrlUpdatePeriod);
 }
@@ -40,7 +38,7 @@ bool IsTimeStampServerMissing(const ProfileForm& form) {
 
 void OnUseTimeStampServerClicked(ProfileForm& form) {
     if (form.shown.autoUseTimeStamp == 0) {
-        form.shown.timeStampServer = kNotSet;
+        form.shown.timeStampServer = kNotSetText;
     }
 }
 
@@ -76,7 +74,7 @@ void KeepShownSettings(ProfileForm& form, int index) {
     CsProfile entry = form.shown;
     entry.name = CsProfileAt(form.result, position).name;
     if (entry.timeStampServer.empty()) {
-        entry.timeStampServer = kNotSet;
+        entry.timeStampServer = kNotSetText;
     }
     StoreCsProfile(form.result, position, entry);
 }

@@ -140,7 +140,7 @@ void ShowCertCount(RuleForm& form, Operation operation) {
 }
 
 bool IsNotSet(const std::wstring& text) {
-    return text.empty() || text == L"0";
+    return text.empty() || text == kNotSetText;
 }
 
 }  // namespace corvane

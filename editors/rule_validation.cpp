@@ -1,15 +1,14 @@
 #include "editors/rule_validation.h"
 
 #include "app/reporting/message_styles.h"
+#include "config/folder_path.h"
+#include "config/system_codes.h"
 
 namespace corvane {
 
 namespace {
 
 using Refusal = std::optional<RuleRefusal>;
-
-constexpr std::uint32_t kPathNotFound = 3;
-constexpr std::uint32_t kFileExists = 80;
 
 RuleRefusal Message(const wchar_t* text) {
     return {.kind = RefusalKind::kMessage, .text = text, .icon = {}, .folder = {}, .code = 0};
@@ -23,20 +22,16 @@ RuleRefusal FileReport(const wchar_t* detail, const std::wstring& folder, std::u
     return {.kind = RefusalKind::kFileReport, .text = detail, .icon = {}, .folder = folder, .code = code};
 }
 
-bool IsDriveOrNetworkPath(const std::wstring& path) {
-    return path.find(L':') != std::wstring::npos || path.find(L"\\\\") != std::wstring::npos;
-}
-
 Refusal CheckFolder(const std::wstring& folder, const wchar_t* detail, toolkit::FileCalls& files) {
     if (!IsDriveOrNetworkPath(folder)) {
-        return FileReport(detail, folder, kPathNotFound);
+        return FileReport(detail, folder, kCodePathNotFound);
     }
     // A file of this name passes as well: the client tells the two apart itself.
     const std::uint32_t code = files.CheckExists(folder);
     if (code == 0) {
         return std::nullopt;
     }
-    if (code == kFileExists) {
+    if (code == kCodeFileExists) {
         // Deliberate: "file exists" as the reason why a path does not exist is kept from users, who could
         // make nothing of it; the editor just stays open.
         return RuleRefusal{

@@ -4,8 +4,8 @@
 namespace corvane {
 
 std::wstring FormatStatus(std::uint32_t code) {
-    constexpr std::uint32_t kCustomerBit = 0x20000000;
-    const bool isProviderCode = (code & kCustomerBit) != 0 && code != 0xFFFFFFFF;
+    constexpr std::uint32_t kProviderBit = 0x20000000;
+    const bool isProviderCode = (code & kProviderBit) != 0 && code != 0xFFFFFFFF;
     return toolkit::FormatText(isProviderCode ? L"XSIG error 0x%X" : L"Error 0x%X", {code});
 }
 
