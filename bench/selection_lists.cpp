@@ -25,7 +25,7 @@ using corvane::OwnerListView;
 using corvane::RecipientSelectionForm;
 using corvane::TextList;
 
-constexpr int kTurns = 7;
+constexpr int kListTurns = 7;
 constexpr int kFoundOwners = 20000;
 constexpr int kChosenOwners = 5000;
 constexpr std::size_t kOrganizationField = 5;
@@ -234,19 +234,19 @@ std::vector<RatioRow> MeasureSelectionLists() {
 
     return {
         row("finding and listing 20,000 owners",
-            MedianRatio(kTurns, measured([](SelectionLists&) {}, find), inserting(none, all)), 1.50),
+            MedianRatio(kListTurns, measured([](SelectionLists&) {}, find), inserting(none, all)), 1.50),
         row("listing 20,000 owners that are known",
-            MedianRatio(kTurns,
+            MedianRatio(kListTurns,
                         measured([&all](SelectionLists& lists) { lists.Form().AddFound(all); },
                                  [](SelectionLists& lists) { lists.ShowFound(); }),
                         inserting(none, all)),
             1.50),
         // Every owner has the letter, so every row stays.
         row("one filter keystroke over 20,000 owners",
-            MedianRatio(kTurns, measured(find, filter(L"o")), inserting(none, all)), 0.50),
+            MedianRatio(kListTurns, measured(find, filter(L"o")), inserting(none, all)), 0.50),
         // Half of the rows go; here the list is filled again plainly, its rows deleted first.
         row("one filter keystroke that leaves 10,000",
-            MedianRatio(kTurns,
+            MedianRatio(kListTurns,
                         measured(
                             [&](SelectionLists& lists) {
                                 find(lists);
@@ -256,7 +256,7 @@ std::vector<RatioRow> MeasureSelectionLists() {
                         inserting(all, ofTheFirstBank)),
             1.00),
         row("sorting 20,000 owners by a field",
-            MedianRatio(kTurns,
+            MedianRatio(kListTurns,
                         measured(find,
                                  [](SelectionLists& lists) {
                                      lists.Form().SetSortField(kOrganizationField);
@@ -265,7 +265,7 @@ std::vector<RatioRow> MeasureSelectionLists() {
                         inserting(none, all)),
             1.50),
         row("adding 20,000 owners to 5,000 chosen",
-            MedianRatio(kTurns,
+            MedianRatio(kListTurns,
                         measured(
                             [&](SelectionLists& lists) {
                                 find(lists);

@@ -5,7 +5,7 @@ namespace {
 
 using driver::Window;
 
-constexpr wchar_t kQuestion[] = L"The store does not answer (0xE0700041).\r\nContinue without NCS?";
+constexpr wchar_t kStoreQuestion[] = L"The store does not answer (0xE0700041).\r\nContinue without NCS?";
 
 class NetworkStoreTest : public SessionTest {
   protected:
@@ -54,7 +54,7 @@ TEST_F(NetworkStoreTest, DoesNotAnswerAndIsDoneWithout) {
     StartHost();
     PressOpen();
     ExpectWarning();
-    ExpectMessageBox(Main(), kQuestion, kBoxContinue, IDOK);
+    ExpectMessageBox(Main(), kStoreQuestion, kBoxContinue, IDOK);
     const Window dialog = WaitForDialogOf(Main());
     EXPECT_FALSE(dialog.Control(IDC_SELECTION_FROM_NCS_BUTTON).IsEnabled());
     EXPECT_EQ(Calls("FreeFindResult").size(), 1U);
@@ -68,7 +68,7 @@ TEST_F(NetworkStoreTest, DoesNotAnswerAndTheUserStops) {
     StartHost();
     PressOpen();
     ExpectWarning();
-    ExpectMessageBox(Main(), kQuestion, kBoxContinue, IDCANCEL);
+    ExpectMessageBox(Main(), kStoreQuestion, kBoxContinue, IDCANCEL);
     EXPECT_EQ(Result(), HostCancelled(1));
     EXPECT_EQ(Calls("Uninitialize"), std::vector<std::string>{"Uninitialize context=1 -> 0"});
     ExpectNothingOut();
@@ -91,7 +91,7 @@ TEST_F(NetworkStoreTest, IsStoppedByAUserWhoIsToldThatClosingFailed) {
     StartHost();
     PressOpen();
     ExpectWarning();
-    ExpectMessageBox(Main(), kQuestion, kBoxContinue, IDCANCEL);
+    ExpectMessageBox(Main(), kStoreQuestion, kBoxContinue, IDCANCEL);
     ExpectMessageBox(Main(), ProviderReport(kClosingOperation, L"0xE0700050", L"Still in use"), kBoxReport,
                      IDOK);
     EXPECT_EQ(Result(), HostCancelled(1));
@@ -130,7 +130,7 @@ TEST_F(NetworkStoreTest, IsCheckedForSignerListsToo) {
     const Window lists = OpenDialog();
     lists.Control(IDC_SIGNER_LISTS_ADD_BUTTON).PostClick();
     ExpectWarning();
-    ExpectMessageBox(lists, kQuestion, kBoxContinue, IDOK);
+    ExpectMessageBox(lists, kStoreQuestion, kBoxContinue, IDOK);
     const Window dialog = WaitForDialogOf(lists);
     EXPECT_FALSE(dialog.Control(IDC_SELECTION_FROM_NCS_BUTTON).IsEnabled());
 }

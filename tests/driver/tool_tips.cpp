@@ -8,7 +8,7 @@
 namespace driver {
 namespace {
 
-constexpr std::size_t kTextRoomChars = 256;
+constexpr std::size_t kToolTipRoomChars = 256;
 
 HWND FindToolTip(const Window& dialog) {
     struct Search {
@@ -40,7 +40,7 @@ std::map<int, std::wstring> ToolTipTexts(const Window& dialog) {
     const Window toolTip(FindToolTip(dialog));
     std::map<int, std::wstring> texts;
     const auto count = toolTip.Send(TTM_GETTOOLCOUNT);
-    RemoteBlock block(toolTip.Handle(), sizeof(TTTOOLINFOW) + kTextRoomChars * sizeof(wchar_t));
+    RemoteBlock block(toolTip.Handle(), sizeof(TTTOOLINFOW) + kToolTipRoomChars * sizeof(wchar_t));
     for (LRESULT i = 0; i < count; ++i) {
         TTTOOLINFOW tool{};
         tool.cbSize = sizeof tool;
@@ -54,10 +54,10 @@ std::map<int, std::wstring> ToolTipTexts(const Window& dialog) {
         tool = block.Get<TTTOOLINFOW>();
         tool.lpszText = static_cast<wchar_t*>(block.Address(sizeof tool));
         block.Put(tool);
-        toolTip.Send(TTM_GETTEXTW, kTextRoomChars, block.Parameter());
+        toolTip.Send(TTM_GETTEXTW, kToolTipRoomChars, block.Parameter());
         const bool isWindow = (tool.uFlags & TTF_IDISHWND) != 0;
         const int id = isWindow ? Window(reinterpret_cast<HWND>(tool.uId)).Id() : static_cast<int>(tool.uId);
-        texts[id] = block.Text(sizeof tool, kTextRoomChars);
+        texts[id] = block.Text(sizeof tool, kToolTipRoomChars);
     }
     return texts;
 }

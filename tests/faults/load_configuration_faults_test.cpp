@@ -14,7 +14,7 @@
 namespace corvane::testing {
 namespace {
 
-struct Outcome {
+struct LoadOutcome {
     bool result = false;
     std::vector<RegistryCall> calls;
     std::vector<std::wstring> reports;
@@ -26,11 +26,11 @@ struct Outcome {
 
 using Preparation = std::function<void(MemoryRegistry&)>;
 
-Outcome Load(const Preparation& prepare) {
+LoadOutcome Load(const Preparation& prepare) {
     ReporterFixture reports;
     MemoryRegistry registry;
     prepare(registry);
-    Outcome outcome;
+    LoadOutcome outcome;
     {
         RegistryAccess access(registry, reports.reporter);
         outcome.result = LoadConfiguration(outcome.state, access, reports.reporter, nullptr);
@@ -75,7 +75,7 @@ bool IsReadOf(const RegistryCall& call, const RegistryCall& other) {
 }
 
 // What is owed when one call of a clean load fails.
-struct Expectation {
+struct ExpectedLoad {
     bool result = true;
     std::vector<RegistryCall> calls;  // Without the closing ones.
     std::vector<std::wstring> reports;
@@ -83,7 +83,7 @@ struct Expectation {
 };
 
 // The calls that follow a value that came out as its default.
-void AppendAfterDefault(const std::vector<RegistryCall>& clean, std::size_t failed, Expectation& expected) {
+void AppendAfterDefault(const std::vector<RegistryCall>& clean, std::size_t failed, ExpectedLoad& expected) {
     const RegistryCall& call = clean[failed];
     const wchar_t letter = ElementLetter(call.name);
     if (call.name == L"Mask num") {
@@ -108,13 +108,13 @@ void AppendAfterDefault(const std::vector<RegistryCall>& clean, std::size_t fail
         if (call.keyPath == kCatalogue + L"\\{1}" && clean[next].operation == RegistryOperation::kSet &&
             clean[next].name == L"ZCSProfile") {
             // The first profile takes the first name of the catalogue, which is empty then.
-            expected.calls.back().written = TextList({L"0"});
+            expected.calls.back().written = MultiText({L"0"});
         }
     }
 }
 
-Expectation Expect(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code) {
-    Expectation expected;
+ExpectedLoad Expect(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code) {
+    ExpectedLoad expected;
     const std::vector<RegistryCall> clean = WithoutClosing(allClean);
     const RegistryCall& call = allClean[failedIndex];
     if (call.operation == RegistryOperation::kClose) {
@@ -185,7 +185,7 @@ ConfigurationState LoadWithout(const RegistrySnapshot& stored, const corvane::Te
 }
 
 void FailEveryCallOfALoad(const Preparation& prepare) {
-    const Outcome clean = Load(prepare);
+    const LoadOutcome clean = Load(prepare);
     ASSERT_TRUE(clean.result);
     ASSERT_TRUE(clean.reports.empty());
     MemoryRegistry registryBefore;
@@ -196,8 +196,8 @@ void FailEveryCallOfALoad(const Preparation& prepare) {
         for (const std::uint32_t code : kFailureCodes) {
             SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
                          Describe(clean.calls[index]));
-            const Expectation expected = Expect(clean.calls, index, code);
-            const Outcome outcome = Load([&](MemoryRegistry& registry) {
+            const ExpectedLoad expected = Expect(clean.calls, index, code);
+            const LoadOutcome outcome = Load([&](MemoryRegistry& registry) {
                 prepare(registry);
                 registry.FailCall(index, code);
             });

@@ -16,7 +16,7 @@ namespace {
 
 const std::wstring kGone = kProgram + L"\\Gone";
 
-struct Outcome {
+struct SaveOutcome {
     std::vector<RegistryCall> calls;
     std::vector<std::wstring> reports;
     RegistrySnapshot stored;
@@ -26,14 +26,14 @@ struct Outcome {
     std::size_t misuses = 0;
 };
 
-Outcome Save(std::optional<std::size_t> failedIndex, std::uint32_t code) {
+SaveOutcome Save(std::optional<std::size_t> failedIndex, std::uint32_t code) {
     ReporterFixture reports;
     MemoryRegistry registry;
     PutStoredConfiguration(registry);
     if (failedIndex) {
         registry.FailCall(*failedIndex, code);
     }
-    Outcome outcome;
+    SaveOutcome outcome;
     outcome.state = ChangedConfiguration();
     {
         RegistryAccess access(registry, reports.reporter);
@@ -115,9 +115,9 @@ Step StepOf(const std::vector<RegistryCall>& clean, std::size_t index) {
 }
 
 // What is owed when one call of a clean save fails.
-class Expectation {
+class ExpectedSave {
   public:
-    Expectation(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code)
+    ExpectedSave(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code)
         : clean_(WithoutClosing(allClean)), code_(code) {
         const RegistryCall& call = allClean[failedIndex];
         if (call.operation == RegistryOperation::kClose) {
@@ -245,7 +245,7 @@ class Expectation {
 };
 
 TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
-    const Outcome clean = Save(std::nullopt, 0);
+    const SaveOutcome clean = Save(std::nullopt, 0);
     ASSERT_TRUE(clean.reports.empty());
     ASSERT_FALSE(clean.state.isDirty);
     MemoryRegistry registryBefore;
@@ -255,8 +255,8 @@ TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
         for (const std::uint32_t code : kFailureCodes) {
             SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
                          Describe(clean.calls[index]));
-            const Expectation expected(clean.calls, index, code);
-            const Outcome outcome = Save(index, code);
+            const ExpectedSave expected(clean.calls, index, code);
+            const SaveOutcome outcome = Save(index, code);
             EXPECT_EQ(outcome.reports, expected.reports);
             ExpectSameCalls(expected.calls, outcome.calls);
             EXPECT_EQ(Differences(Replay(before, expected.calls), outcome.stored), "");

@@ -18,7 +18,7 @@ void AddNumbered(RegistryValues& values, const wchar_t* countName, const wchar_t
 }
 
 /// What a rule stores, by key below its own.
-StoredTree StoredFormOf(const TypicalRule& rule) {
+StoredTree StoredFormOfRule(const TypicalRule& rule) {
     RegistryValues values = {{L"Operation", rule.code},
                              {L"Path In", kExchangeIn},
                              {L"Path Out", rule.code == L"DELE" ? L"" : kExchangeOut},
@@ -81,7 +81,7 @@ StoredTree StoredFormOf(const std::wstring& profile, const RegistryValues& profi
     StoredTree tree = {{L"", DefaultSettings()}, {profile, profileValues}, {profile + L"\\rules", {}}};
     for (std::size_t i = 0; i < rules.size(); ++i) {
         const std::wstring key = profile + L"\\rules\\Rule " + std::to_wstring(i);
-        for (const auto& [name, values] : StoredFormOf(rules[i])) {
+        for (const auto& [name, values] : StoredFormOfRule(rules[i])) {
             std::wstring subkey = key;
             if (!name.empty()) {
                 subkey.append(L"\\").append(name);

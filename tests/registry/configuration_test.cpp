@@ -122,8 +122,8 @@ TEST_F(RealConfiguration, IsStoredValueByValueAndTypeByType) {
     };
     expected[kProgram + L"\\Office"] = {
         {L"ServerTSP", Bytes(kTypeTextList, {'0', 0, 0, 0, 'x', 0, 0, 0, 0, 0})},
-        {L"ZCSProfile", TextList({L"Main CSP"})},
-        {L"NotUseLDAP", TextList({L"1", L"-2"})},
+        {L"ZCSProfile", MultiText({L"Main CSP"})},
+        {L"NotUseLDAP", MultiText({L"1", L"-2"})},
         {L"NotCopyToLocal", none},
         {L"AutoUseTSP", none},
         {L"AutoVerifyTSP", none},
@@ -194,7 +194,7 @@ TEST_F(RealConfiguration, LosesWhatWasDeletedAndKeepsWhatIsUnknown) {
     state = FullConfiguration();
     root.PutKey(kProgram);
     root.PutKey(kCatalogue);
-    root.Put(kProgram, L"LastCrlUpdate", TextList({L"Main CSP;;1700000000"}));
+    root.Put(kProgram, L"LastCrlUpdate", MultiText({L"Main CSP;;1700000000"}));
     Save();
     state.profiles.erase(state.profiles.begin());
     state.profileNames.erase(state.profileNames.begin());
@@ -205,7 +205,7 @@ TEST_F(RealConfiguration, LosesWhatWasDeletedAndKeepsWhatIsUnknown) {
     EXPECT_EQ(root.SubkeyNames(kProgram + L"\\\x041F\x043E\x0447\x0442\x0430\\rules"),
               (std::vector<std::wstring>{L"Rule 0", L"Rule 1"}));
     EXPECT_TRUE(root.SubkeyNames(kProgram + L"\\\x041F\x043E\x0447\x0442\x0430\\rules\\Rule 0").empty());
-    EXPECT_EQ(root.Find(kProgram, L"LastCrlUpdate"), TextList({L"Main CSP;;1700000000"}));
+    EXPECT_EQ(root.Find(kProgram, L"LastCrlUpdate"), MultiText({L"Main CSP;;1700000000"}));
     EXPECT_TRUE(ReportTexts().empty());
 }
 
@@ -228,8 +228,8 @@ TEST_F(RealConfiguration, AFirstStartMakesTheProfileDefaultThatLoadsTheNextTime)
     ASSERT_TRUE(Load());
     const ConfigurationState first = state;
     EXPECT_EQ(root.Find(kProgram + L"\\default", L"CrlUpdatePeriod"), Bytes(kTypeTextList, {0, 0}));
-    EXPECT_EQ(root.Find(kProgram + L"\\default", L"NotUseLDAP"), TextList({L"1"}));
-    EXPECT_EQ(root.Find(kProgram + L"\\default", L"ZCSProfile"), TextList({L"Main CSP"}));
+    EXPECT_EQ(root.Find(kProgram + L"\\default", L"NotUseLDAP"), MultiText({L"1"}));
+    EXPECT_EQ(root.Find(kProgram + L"\\default", L"ZCSProfile"), MultiText({L"Main CSP"}));
     EXPECT_EQ(first.profiles.at(0).crlUpdatePeriods, NumberList{1});
     ASSERT_TRUE(Load());
     EXPECT_TRUE(state == first);

@@ -76,7 +76,7 @@ TEST_F(HandMadeKeys, TextsOfEveryTypeAndShape) {
         {"two terminators", Bytes(kTypeText, {'a', 0, 0, 0, 0, 0}), L"a", false},
         {"NUL inside", Bytes(kTypeText, {'a', 0, 0, 0, 'b', 0, 0, 0}), L"a", false},
         {"number", Number(7), L"p7s", false},
-        {"list", TextList({L"a"}), L"p7s", false},
+        {"list", MultiText({L"a"}), L"p7s", false},
         {"binary", Bytes(kTypeBinary, {'a', 0, 0, 0}), L"p7s", false},
         {"519 characters", Text(std::wstring(519, L'x')), std::wstring(519, L'x'), false},
         {"520 characters", Text(std::wstring(520, L'x')), L"p7s", true},
@@ -107,10 +107,10 @@ TEST_F(HandMadeKeys, ListsOfEveryTypeAndShape) {
         bool isReported;
     };
     const Case cases[] = {
-        {"list", TextList({L"a", L"b"}), {L"a", L"b"}, false},
+        {"list", MultiText({L"a", L"b"}), {L"a", L"b"}, false},
         {"one NUL", Bytes(kTypeTextList, {0, 0}), {}, false},
         {"two NULs", Bytes(kTypeTextList, {0, 0, 0, 0}), {}, false},
-        {"empty element inside", TextList({L"A", L"", L"B"}), {L"A"}, false},
+        {"empty element inside", MultiText({L"A", L"", L"B"}), {L"A"}, false},
         {"text", Text(L"one"), {L"one"}, false},
         {"expandable text", Bytes(kTypeExpandableText, {'%', 0, 0, 0}), {L"%"}, false},
         {"no bytes", Bytes(kTypeTextList, {}), {}, true},
@@ -120,7 +120,7 @@ TEST_F(HandMadeKeys, ListsOfEveryTypeAndShape) {
         {"odd size", Bytes(kTypeTextList, {'a', 0, 0, 0, 0, 0, 0}), {}, true},
         {"number", Number(1), {}, true},
         {"binary", Bytes(kTypeBinary, {'a', 0, 0, 0, 0, 0}), {}, true},
-        {"long list", TextList({std::wstring(5000, L'x'), L"b"}), {std::wstring(5000, L'x'), L"b"}, false},
+        {"long list", MultiText({std::wstring(5000, L'x'), L"b"}), {std::wstring(5000, L'x'), L"b"}, false},
     };
     for (const Case& item : cases) {
         root.Put(kProgram, L"ExtExt", item.stored);
@@ -138,7 +138,7 @@ TEST_F(HandMadeKeys, ListsOfEveryTypeAndShape) {
 }
 
 TEST_F(HandMadeKeys, NumberListsTakeWhatStandsInFrontOfTheFirstNonDigit) {
-    root.Put(kProfile, L"NotLoadCrl", TextList({L" 1", L"-2x", L"x", L"99999999999", L"+3"}));
+    root.Put(kProfile, L"NotLoadCrl", MultiText({L" 1", L"-2x", L"x", L"99999999999", L"+3"}));
     ASSERT_TRUE(Load());
     EXPECT_EQ(state.profiles.at(0).notLoadCrl, (NumberList{1, -2, 0, 2147483647, 3}));
     EXPECT_EQ(state.profiles.at(0).crlUpdatePeriods, (NumberList{1, 1, 1, 1, 1}));

@@ -7,7 +7,7 @@ namespace corvane::testing {
 namespace {
 
 constexpr std::uint32_t kCodeFileNotFound = 2;
-constexpr std::uint32_t kCodeInvalidHandle = 6;
+constexpr std::uint32_t kCodeFileNotOpen = 6;
 
 }  // namespace
 
@@ -110,7 +110,7 @@ MemoryFiles::OpenedFile* MemoryFiles::EnterWith(Handle file, FileOperation opera
                               (operation == FileOperation::kWrite && !opened->isForWriting));
     if (opened == nullptr || isWrongWay) {
         ++misuses_;
-        code = Fail(kCodeInvalidHandle);
+        code = Fail(kCodeFileNotOpen);
     }
     return code == 0 ? opened : nullptr;
 }

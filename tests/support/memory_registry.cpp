@@ -359,7 +359,7 @@ void MemoryRegistry::PutText(std::wstring_view path, std::wstring_view name, std
 
 void MemoryRegistry::PutTextList(std::wstring_view path, std::wstring_view name,
                                  const std::vector<std::wstring>& list) {
-    Put(path, name, TextList(list));
+    Put(path, name, MultiText(list));
 }
 
 void MemoryRegistry::PutAll(const RegistrySnapshot& snapshot) {

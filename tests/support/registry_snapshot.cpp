@@ -24,7 +24,7 @@ StoredData Text(std::wstring_view text) {
     return data;
 }
 
-StoredData TextList(const std::vector<std::wstring>& list) {
+StoredData MultiText(const std::vector<std::wstring>& list) {
     StoredData data{kTypeTextList, {}};
     for (const std::wstring& element : list) {
         const std::vector<std::uint8_t> bytes = CharacterBytes(element);

@@ -21,13 +21,16 @@ struct StoredData {
 /// too.
 using RegistrySnapshot = std::map<std::wstring, std::map<std::wstring, StoredData>>;
 
+/// The type of a 64-bit number, REG_QWORD, which no value of ours has.
+inline constexpr std::uint32_t kTypeQuadNumber = 11;
+
 // Stored data, spelled out by the tests themselves so that a fault of the product's own conversion shows.
 [[nodiscard]] StoredData Bytes(std::uint32_t type, std::vector<std::uint8_t> bytes);
 [[nodiscard]] StoredData Number(std::uint32_t number);
 /// SZ: the characters and their NUL.
 [[nodiscard]] StoredData Text(std::wstring_view text);
 /// MULTI_SZ: each element with its NUL, and one more NUL.
-[[nodiscard]] StoredData TextList(const std::vector<std::wstring>& list);
+[[nodiscard]] StoredData MultiText(const std::vector<std::wstring>& list);
 
 /// The two bytes of each character, the low one first.
 [[nodiscard]] std::vector<std::uint8_t> CharacterBytes(std::wstring_view text);

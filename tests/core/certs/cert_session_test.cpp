@@ -12,8 +12,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr ProviderContext kContext = ScriptedSessions::kFirstContext;
-
 class CertSessionTest : public CertsFixture {
   protected:
     CertSessionTest() {
@@ -34,7 +32,7 @@ class CertSessionTest : public CertsFixture {
 TEST_F(CertSessionTest, OpensBehindTheWaitWindow) {
     const std::optional<CertSession> session = Open();
     ASSERT_TRUE(session);
-    EXPECT_EQ(session->context.Get(), kContext);
+    EXPECT_EQ(session->context.Get(), ScriptedSessions::kFirstContext);
     EXPECT_THAT(sessions_.log, ElementsAre("show wait window", "initialize", "destroy wait window"));
     EXPECT_EQ(waitWindow_.lastParent, owner_);
     EXPECT_EQ(waitWindow_.lastText, L"Please, wait, cryptocontext initialization can take up to 30 seconds.");
@@ -67,7 +65,7 @@ TEST_F(CertSessionTest, TheSettingsAreThoseOfTheCsProfileAndTheUse) {
 
 TEST_F(CertSessionTest, IsClosedWithItsEnd) {
     static_cast<void>(Open());
-    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
 }
 
 TEST_F(CertSessionTest, AFailedInitializationIsShownInAnErrorBoxWithTheStackOfContextZero) {
@@ -131,7 +129,7 @@ TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheNetworkStore) {
     sessions_.findStatus = 0xE0700001;
     Reports().presenter.AnswerNext(kAnswerCancel);
     EXPECT_FALSE(Open());
-    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
     EXPECT_THAT(sessions_.Controls(), IsEmpty());
 }
 
@@ -172,7 +170,7 @@ TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheRevocationLists) {
     sessions_.controlText = "no route";
     Reports().presenter.AnswerNext(kAnswerCancel);
     EXPECT_FALSE(Open());
-    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
 }
 
 TEST_F(CertSessionTest, ListsThatAreTooShortGiveTheirDefaults) {

@@ -12,13 +12,11 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr ProviderContext kContext = ScriptedSessions::kFirstContext;
-
 class CertificateSearch : public CertsFixture {
   protected:
     CertificateSearch() {
         settings_.signerMode = 0;
-        Reports().provider.PushError(kContext, {"Detail", "f.c", 7, "d"});
+        Reports().provider.PushError(ScriptedSessions::kFirstContext, {"Detail", "f.c", 7, "d"});
         Reports().provider.SetErrorText(kFailure, "Store broken.");
         Reports().provider.SetErrorText(kStatusNothingFound, "Nothing found.");
     }
@@ -59,14 +57,16 @@ class FindByOwnerTest : public CertificateSearch {
 
 TEST_F(FindAllLocalTest, AsksForAllRecipients) {
     EXPECT_TRUE(Find());
-    EXPECT_THAT(sessions_.Searches(), ElementsAre(FindCall{kContext, 0, 0, std::nullopt, 0x84, true}));
+    EXPECT_THAT(sessions_.Searches(),
+                ElementsAre(FindCall{ScriptedSessions::kFirstContext, 0, 0, std::nullopt, 0x84, true}));
     EXPECT_THAT(owners_, IsEmpty());
 }
 
 TEST_F(FindAllLocalTest, AsksForAllSigners) {
     settings_.signerMode = 1;
     EXPECT_TRUE(Find());
-    EXPECT_THAT(sessions_.Searches(), ElementsAre(FindCall{kContext, 0x100, 0, std::nullopt, 0x84, true}));
+    EXPECT_THAT(sessions_.Searches(),
+                ElementsAre(FindCall{ScriptedSessions::kFirstContext, 0x100, 0, std::nullopt, 0x84, true}));
 }
 
 TEST_F(FindAllLocalTest, ForRecipientsPassesOverCertificatesWithoutEncryption) {
@@ -167,13 +167,15 @@ TEST_F(FindAllLocalTest, TwentyThousandCertificatesOfTenThousandOwnersAreListedI
 
 TEST_F(FindByPatternTest, AsksTheNetworkStoreForRecipients) {
     EXPECT_TRUE(Find());
-    EXPECT_THAT(sessions_.Searches(), ElementsAre(FindCall{kContext, 0xE04, 4, "CN=Iva*", 0x84, true}));
+    EXPECT_THAT(sessions_.Searches(),
+                ElementsAre(FindCall{ScriptedSessions::kFirstContext, 0xE04, 4, "CN=Iva*", 0x84, true}));
 }
 
 TEST_F(FindByPatternTest, AsksTheNetworkStoreForSigners) {
     settings_.signerMode = 1;
     EXPECT_TRUE(Find(L"CN=\x0418*"));
-    EXPECT_THAT(sessions_.Searches(), ElementsAre(FindCall{kContext, 0xF04, 4, "CN=\xC8*", 0x84, true}));
+    EXPECT_THAT(sessions_.Searches(),
+                ElementsAre(FindCall{ScriptedSessions::kFirstContext, 0xF04, 4, "CN=\xC8*", 0x84, true}));
 }
 
 TEST_F(FindByPatternTest, OnlyTheExactStarBecomesAnAttributePattern) {
@@ -215,7 +217,8 @@ TEST_F(FindByOwnerTest, AsksTheNetworkStoreUnlessTheSettingsForbid) {
         settings_.notUseDirectory = flags.first;
         settings_.signerMode = flags.second;
         EXPECT_TRUE(Find(L"CN=Ann"));
-        EXPECT_EQ(sessions_.Searches().back(), (FindCall{kContext, searchFlags, 4, "CN=Ann", 0x28084, true}));
+        EXPECT_EQ(sessions_.Searches().back(),
+                  (FindCall{ScriptedSessions::kFirstContext, searchFlags, 4, "CN=Ann", 0x28084, true}));
     }
 }
 

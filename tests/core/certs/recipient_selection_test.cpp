@@ -11,8 +11,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr ProviderContext kContext = ScriptedSessions::kFirstContext;
-
 class Selection : public CertsFixture {
   protected:
     Selection() {
@@ -67,7 +65,7 @@ TEST_F(Selection, ChosenRecipientsComeBackAndTheContextIsClosed) {
     EXPECT_FALSE(wasNetworkStoreAvailable_);
     EXPECT_THAT(sessions_.log, ElementsAre("show wait window", "initialize", "destroy wait window", "dialog",
                                            "find", "free result", "find", "free result", "uninitialize"));
-    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
 }
 
 TEST_F(Selection, ACancelledChoiceOfRecipientsDropsTheContextUnclosed) {
@@ -108,7 +106,7 @@ TEST_F(Selection, ANewSignerListIsAppended) {
     EXPECT_EQ(title_, L"Add list");
     EXPECT_THAT(lists_.Lists(), ElementsAre(SignerGroup{L"one", {L"CN=A"}}, SignerGroup{L"two", {L"CN=B"}},
                                             SignerGroup{L"three", {L"CN=New"}}));
-    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext));
+    EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
     EXPECT_EQ(sessions_.Searches()[0].searchFlags, 0x100U) << "signers, without the network store";
 }
 
@@ -131,7 +129,8 @@ TEST_F(Selection, ASignerListMayNotTakeTheNameOfAnotherOne) {
 TEST_F(Selection, ACancelledSignerListClosesTheContext) {
     EXPECT_FALSE(AddSignerList(lists_, Place(), Cancelling()));
     EXPECT_FALSE(EditSignerList(lists_, 1, Place(), Cancelling()));
-    EXPECT_THAT(sessions_.Closed(), ElementsAre(kContext, kContext + 1));
+    EXPECT_THAT(sessions_.Closed(),
+                ElementsAre(ScriptedSessions::kFirstContext, ScriptedSessions::kFirstContext + 1));
     EXPECT_EQ(lists_.Lists().size(), 2U);
 }
 

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "config/stored_record.h"
+#include "tests/core/config/stored_paths.h"
 #include "tests/support/memory_registry.h"
 #include "tests/support/store_fixture.h"
 
@@ -12,6 +13,10 @@ namespace corvane {
 namespace {
 
 using testing::Bytes;
+using testing::kCatalogue;
+using testing::kProfile;
+using testing::kProgram;
+using testing::kRules;
 using testing::Number;
 using testing::RegistryCall;
 using testing::RegistryOperation;
@@ -19,11 +24,6 @@ using testing::RegistrySnapshot;
 using testing::ReportText;
 using testing::Text;
 
-// Paths are written out here, as other programs know them.
-const std::wstring kCatalogue = L"SOFTWARE\\HOLVAN\\tarn\\Profiles";
-const std::wstring kProgram = L"SOFTWARE\\HOLVAN\\tarntray";
-const std::wstring kProfile = L"SOFTWARE\\HOLVAN\\tarntray\\Office";
-const std::wstring kRules = L"SOFTWARE\\HOLVAN\\tarntray\\Office\\rules";
 const std::wstring kRule = L"SOFTWARE\\HOLVAN\\tarntray\\Office\\rules\\Rule 0";
 
 class LoadConfiguration : public ::testing::Test {
@@ -604,7 +604,7 @@ class FirstProfile : public ::testing::Test {
 TEST_F(FirstProfile, IsStoredValueByValue) {
     registry.PutText(kCatalogue + L"\\{1}", L"ProfileName", L"Main CSP");
     ASSERT_TRUE(store.Load());
-    const auto one = [](const wchar_t* text) { return testing::TextList({text}); };
+    const auto one = [](const wchar_t* text) { return testing::MultiText({text}); };
     RegistrySnapshot expected;
     expected[L"SOFTWARE"];
     expected[L"SOFTWARE\\HOLVAN"];
@@ -688,7 +688,7 @@ TEST_F(FirstProfile, KeepsTheSettingsThatStandInTheProgramKey) {
 TEST_F(FirstProfile, HasTheMarkerWhereTheFirstCatalogueNameIsEmpty) {
     registry.PutKey(kCatalogue + L"\\{1}");
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(registry.Find(kProgram + L"\\default", L"ZCSProfile"), testing::TextList({L"0"}));
+    EXPECT_EQ(registry.Find(kProgram + L"\\default", L"ZCSProfile"), testing::MultiText({L"0"}));
 }
 
 TEST_F(FirstProfile, CannotBeMadeWithoutACsProfileAndThenNothingOfItIsWritten) {

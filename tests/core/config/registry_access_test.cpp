@@ -22,7 +22,6 @@ using testing::StoredData;
 using testing::StoreFixture;
 using testing::Text;
 
-constexpr std::uint32_t kTypeQuadNumber = 11;
 constexpr std::uint32_t kFlagsShown = 1;
 const std::wstring kKey = L"Software\\Test";
 
@@ -295,7 +294,7 @@ TEST_F(ReadInt, StoresTheDefaultOrLeavesTheFieldAndReports) {
         {"the empty text", Text(L""), 99, 0},
         {"a DWORD of two bytes", Bytes(kTypeNumber, {7, 0}), 99, 0},
         {"a DWORD of no bytes", Bytes(kTypeNumber, {}), 99, 0},
-        {"a QWORD", Bytes(kTypeQuadNumber, {7, 0, 0, 0, 0, 0, 0, 0}), 55, kCodeMoreData},
+        {"a QWORD", Bytes(testing::kTypeQuadNumber, {7, 0, 0, 0, 0, 0, 0, 0}), 55, kCodeMoreData},
         {"a DWORD of five bytes", Bytes(kTypeNumber, {7, 0, 0, 0, 0}), 55, kCodeMoreData},
         {"a longer text", Text(L"77"), 55, kCodeMoreData},
     };
@@ -367,14 +366,14 @@ TEST_F(ReadString, StoresTheDefaultOrLeavesTheFieldAndReports) {
         {"nothing", std::nullopt, L"default", 0},
         {"an expandable text", Bytes(kTypeExpandableText, {'%', 0, 'a', 0, '%', 0, 0, 0}), L"%a%", 0},
         {"a number", Number(7), L"default", 0},
-        {"a list", testing::TextList({L"a"}), L"default", 0},
+        {"a list", testing::MultiText({L"a"}), L"default", 0},
         {"an odd size", Bytes(kTypeText, {'a', 0, 0}), L"default", 0},
         {"no terminator", Bytes(kTypeText, {'a', 0}), L"default", 0},
         {"two terminators", Bytes(kTypeText, {'a', 0, 0, 0, 0, 0}), L"a", 0},
         {"a NUL inside", Bytes(kTypeText, {'a', 0, 0, 0, 'b', 0, 0, 0}), L"a", 0},
         {"519 characters", Text(std::wstring(519, L'x')), std::wstring(519, L'x'), 0},
         {"520 characters", Text(std::wstring(520, L'x')), L"before", kCodeMoreData},
-        {"a list of 1042 bytes", testing::TextList({std::wstring(519, L'x')}), L"before", kCodeMoreData},
+        {"a list of 1042 bytes", testing::MultiText({std::wstring(519, L'x')}), L"before", kCodeMoreData},
     };
     for (const Case& item : cases) {
         registry.RemoveValue(kKey, L"LogPath");
@@ -440,7 +439,7 @@ TEST_F(ReadStringArray, ReadsEveryShapeOrReportsInvalidData) {
         bool result;
     };
     const Case cases[] = {
-        {"an empty element ends the list", testing::TextList({L"A", L"", L"B"}), {L"A"}, true},
+        {"an empty element ends the list", testing::MultiText({L"A", L"", L"B"}), {L"A"}, true},
         {"one NUL", Bytes(kTypeTextList, {0, 0}), {}, true},
         {"a text", Text(L"one"), {L"one"}, true},
         {"an expandable text", Bytes(kTypeExpandableText, {'%', 0, 0, 0}), {L"%"}, true},
@@ -589,7 +588,7 @@ TEST_F(WriteString, StoresMoreThanCanBeReadBack) {
 TEST_F(WriteIntList, StoresEachNumberInDecimal) {
     const NumberList list = {0, -5, 2147483647, -2147483647 - 1};
     ASSERT_TRUE(access.WriteIntList(L"List", list, owner));
-    EXPECT_EQ(registry.Find(kKey, L"List"), testing::TextList({L"0", L"-5", L"2147483647", L"-2147483648"}));
+    EXPECT_EQ(registry.Find(kKey, L"List"), testing::MultiText({L"0", L"-5", L"2147483647", L"-2147483648"}));
 }
 
 TEST_F(WriteIntList, AnEmptyListIsOneNulAndReadsBackEmpty) {

@@ -15,8 +15,6 @@ namespace {
 using testing::CharacterBytes;
 using testing::Printable;
 
-constexpr std::uint32_t kTypeQuadNumber = 11;
-
 RegistryBytes Span(const std::vector<std::uint8_t>& bytes) {
     return std::as_bytes(std::span(bytes));
 }
@@ -124,7 +122,7 @@ TEST(DecodeNumber, TakesFourBytesOfDwordOnly) {
         {"five bytes", kTypeNumber, {1, 2, 3, 4, 5}, kCodeInvalidData, 77},
         {"binary", kTypeBinary, {1, 0, 0, 0}, kCodeInvalidData, 77},
         {"a text of two characters", kTypeText, {'1', 0, 0, 0}, kCodeInvalidData, 77},
-        {"eight bytes", kTypeQuadNumber, {1, 0, 0, 0, 0, 0, 0, 0}, kCodeInvalidData, 77},
+        {"eight bytes", testing::kTypeQuadNumber, {1, 0, 0, 0, 0, 0, 0, 0}, kCodeInvalidData, 77},
     };
     for (const NumberCase& item : cases) {
         std::int32_t number = 77;

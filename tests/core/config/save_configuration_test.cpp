@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "tests/core/config/stored_paths.h"
 #include "tests/support/memory_registry.h"
 #include "tests/support/store_fixture.h"
 
@@ -11,18 +12,16 @@ namespace corvane {
 namespace {
 
 using testing::Bytes;
+using testing::kCatalogue;
+using testing::kProfile;
+using testing::kProgram;
+using testing::kRules;
 using testing::Number;
 using testing::RegistryCall;
 using testing::RegistryOperation;
 using testing::RegistrySnapshot;
 using testing::ReportText;
 using testing::Text;
-
-// Paths are written out here, as other programs know them.
-const std::wstring kCatalogue = L"SOFTWARE\\HOLVAN\\tarn\\Profiles";
-const std::wstring kProgram = L"SOFTWARE\\HOLVAN\\tarntray";
-const std::wstring kProfile = L"SOFTWARE\\HOLVAN\\tarntray\\Office";
-const std::wstring kRules = L"SOFTWARE\\HOLVAN\\tarntray\\Office\\rules";
 
 Rule RuleOf(const wchar_t* operation) {
     Rule rule;
@@ -143,7 +142,7 @@ TEST_F(SaveConfiguration, StoresEveryValueUnderItsNameTypeAndData) {
         {L"ExtExt", Bytes(kTypeTextList, {'d', 0, 'o', 0, 'c', 0, 0, 0, 'p', 0, 'd', 0, 'f', 0, 0, 0, 0, 0})},
     };
     const auto two = [](const wchar_t* first, const wchar_t* second) {
-        return testing::TextList({first, second});
+        return testing::MultiText({first, second});
     };
     expected[kProfile] = {
         {L"ServerTSP", two(L"http://tsp", L"0")},
@@ -360,15 +359,15 @@ TEST_F(SaveConfiguration, StoresAnEmptyTimeStampServerAsZero) {
     state.profiles[0].timeStampServers = {L""};
     state.profiles[0].csProfiles = {L"", L"Second"};
     store.Save();
-    EXPECT_EQ(registry.Find(kProfile, L"ServerTSP"), testing::TextList({L"0"}));
-    EXPECT_EQ(registry.Find(kProfile, L"ZCSProfile"), testing::TextList({L"0", L"Second"}));
+    EXPECT_EQ(registry.Find(kProfile, L"ServerTSP"), testing::MultiText({L"0"}));
+    EXPECT_EQ(registry.Find(kProfile, L"ZCSProfile"), testing::MultiText({L"0", L"Second"}));
     EXPECT_EQ(state.profiles[0].timeStampServers, TextList{L""}) << "in memory it stays empty";
 }
 
 TEST_F(SaveConfiguration, StoresTheAdditionalExtensionsAsTheyAre) {
     state.settings.additionalExtensions = {L"doc", L"", L"pdf"};
     store.Save();
-    EXPECT_EQ(registry.Find(kProgram, L"ExtExt"), testing::TextList({L"doc", L"", L"pdf"}));
+    EXPECT_EQ(registry.Find(kProgram, L"ExtExt"), testing::MultiText({L"doc", L"", L"pdf"}));
 }
 
 TEST_F(SaveConfiguration, StoresTextsThatAreLongerThanCanBeReadBack) {

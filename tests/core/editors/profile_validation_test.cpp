@@ -7,7 +7,7 @@
 namespace corvane::testing {
 namespace {
 
-using Refusal = std::optional<ProfileRefusal>;
+using RefusedProfile = std::optional<ProfileRefusal>;
 
 class ProfileCheck : public ::testing::Test {
   protected:
@@ -16,12 +16,12 @@ class ProfileCheck : public ::testing::Test {
         form_.shown = FilledCsProfile(L"CS one", 0);
     }
 
-    Refusal CheckName(const std::wstring& name) {
+    RefusedProfile CheckName(const std::wstring& name) {
         form_.result.name = name;
         return CheckProfile(form_, {L"abc", L"default"});
     }
 
-    static Refusal OfName(const wchar_t* text) { return ProfileRefusal{text, ProfileField::kName}; }
+    static RefusedProfile OfName(const wchar_t* text) { return ProfileRefusal{text, ProfileField::kName}; }
 
     ProfileForm form_;
 };
@@ -36,13 +36,13 @@ TEST_F(ProfileCheck, AnEmptyNameIsRefused) {
 
 TEST_F(ProfileCheck, ANameOf15CharactersPassesAndOneOf16IsRefused) {
     EXPECT_EQ(CheckName(L"123456789012345"), std::nullopt);
-    const Refusal tooLong = OfName(L"Profile name cannot be longer than 15 symbols.");
+    const RefusedProfile tooLong = OfName(L"Profile name cannot be longer than 15 symbols.");
     EXPECT_EQ(CheckName(L"1234567890123456"), tooLong);
     EXPECT_EQ(CheckName(std::wstring(5000, L'x')), tooLong);
 }
 
 TEST_F(ProfileCheck, SpacesAreNoNameWhileOtherWhiteSpaceIs) {
-    const Refusal onlySpaces = OfName(L"Profile name cannot consist from spaces only.");
+    const RefusedProfile onlySpaces = OfName(L"Profile name cannot consist from spaces only.");
     EXPECT_EQ(CheckName(L" "), onlySpaces);
     EXPECT_EQ(CheckName(L"   "), onlySpaces);
     EXPECT_EQ(CheckName(L"\t"), std::nullopt);
@@ -57,8 +57,8 @@ TEST_F(ProfileCheck, SixteenSpacesAreTooLongFirst) {
 
 TEST_F(ProfileCheck, ATimeoutOfZeroIsRefusedAndThereIsNoUpperBound) {
     form_.result.handlerTimeout = 0;
-    EXPECT_EQ(CheckName(L"beta"),
-              Refusal(ProfileRefusal{L"Please, choose handler timeout.", ProfileField::kHandlerTimeout}));
+    EXPECT_EQ(CheckName(L"beta"), RefusedProfile(ProfileRefusal{L"Please, choose handler timeout.",
+                                                                ProfileField::kHandlerTimeout}));
     form_.result.handlerTimeout = 100000;
     EXPECT_EQ(CheckName(L"beta"), std::nullopt);
     form_.result.handlerTimeout = 2147483647;
@@ -86,13 +86,13 @@ TEST_F(ProfileCheck, NamesAreComparedWithTheirCaseAndBlanks) {
 TEST_F(ProfileCheck, AMissingTimeStampServerIsRefused) {
     form_.shown.timeStampServer.clear();
     EXPECT_EQ(CheckName(L"beta"),
-              Refusal(ProfileRefusal{L"Please, type TSP data.", ProfileField::kTimeStampServer}));
+              RefusedProfile(ProfileRefusal{L"Please, type TSP data.", ProfileField::kTimeStampServer}));
     form_.shown.timeStampServer = L"0";
     EXPECT_EQ(CheckName(L"beta"), std::nullopt);
 }
 
 TEST_F(ProfileCheck, ANameWithABackslashIsRefused) {
-    const Refusal refusal = OfName(L"Profile name cannot contain the symbol '\\'.");
+    const RefusedProfile refusal = OfName(L"Profile name cannot contain the symbol '\\'.");
     EXPECT_EQ(CheckName(L"a\\b"), refusal);
     EXPECT_EQ(CheckName(L"\\"), refusal);
     EXPECT_EQ(CheckName(L"a/b"), std::nullopt);

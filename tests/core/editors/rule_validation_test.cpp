@@ -15,7 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using Refusal = std::optional<RuleRefusal>;
+using RefusedRule = std::optional<RuleRefusal>;
 
 RuleRefusal Box(const wchar_t* text, RuleIcon icon) {
     return {RefusalKind::kErrorBox, text, icon, L"", 0};
@@ -38,7 +38,7 @@ class RuleCheck : public ::testing::Test {
         }
     }
 
-    Refusal Check() { return CheckRule(form_, files_); }
+    RefusedRule Check() { return CheckRule(form_, files_); }
 
     void Show(const RuleRefusal& refusal) {
         ShowRefusal(refusal, fixture_.reporter, dialog_, [this](const std::wstring& text, RuleIcon icon) {
@@ -71,20 +71,20 @@ TEST_F(RuleCheck, ARuleOfEveryOperationThatIsCompletePasses) {
 TEST_F(RuleCheck, NoOperationIsRefusedFirst) {
     form_.operation.index = -1;
     form_.inputFolder.text = L"";
-    EXPECT_EQ(Check(), Refusal(Message(L"No operation selected.")));
+    EXPECT_EQ(Check(), RefusedRule(Message(L"No operation selected.")));
 }
 
 TEST_F(RuleCheck, EachFolderThatIsNotSetIsRefusedWithItsPicture) {
     for (const wchar_t* const notSet : {L"", L"0"}) {
         form_ = Opened(FullRule(L"HASH"));
         form_.inputFolder.text = notSet;
-        EXPECT_EQ(Check(), Refusal(Box(L"No Input folder selected.", RuleIcon::kInputFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", RuleIcon::kInputFolder)));
         form_ = Opened(FullRule(L"HASH"));
         form_.outputFolder.text = notSet;
-        EXPECT_EQ(Check(), Refusal(Box(L"No Output folder selected.", RuleIcon::kOutputFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Output folder selected.", RuleIcon::kOutputFolder)));
         form_ = Opened(FullRule(L"HASH"));
         form_.errorFolder.text = notSet;
-        EXPECT_EQ(Check(), Refusal(Box(L"No Error folder selected.", RuleIcon::kErrorFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", RuleIcon::kErrorFolder)));
     }
     EXPECT_THAT(AskedPaths(), IsEmpty());
 }
@@ -92,20 +92,20 @@ TEST_F(RuleCheck, EachFolderThatIsNotSetIsRefusedWithItsPicture) {
 TEST_F(RuleCheck, ARuleWithThreeMissingFoldersReportsOnlyTheInputFolder) {
     form_.inputFolder.text = form_.outputFolder.text = form_.errorFolder.text = L"";
     form_.result.masks.clear();
-    EXPECT_EQ(Check(), Refusal(Box(L"No Input folder selected.", RuleIcon::kInputFolder)));
+    EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", RuleIcon::kInputFolder)));
 }
 
 TEST_F(RuleCheck, AFolderThatIsNotSetComesBeforeABadOne) {
     form_.inputFolder.text = L"relative";
     form_.errorFolder.text = L"";
-    EXPECT_EQ(Check(), Refusal(Box(L"No Error folder selected.", RuleIcon::kErrorFolder)));
+    EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", RuleIcon::kErrorFolder)));
 }
 
 TEST_F(RuleCheck, BlanksAreAFolderLikeAnyOther) {
     form_.inputFolder.text = L"   ";
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Input folder.", L"   ", 3)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Input folder.", L"   ", 3)));
     form_.inputFolder.text = L" 0";
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Input folder.", L" 0", 3)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Input folder.", L" 0", 3)));
 }
 
 TEST_F(RuleCheck, ADeleteRuleWithAnEmptyOutputFolderPasses) {
@@ -125,14 +125,14 @@ TEST_F(RuleCheck, ARelativeFolderIsRefusedWithCode3EvenIfItExists) {
     for (const wchar_t* const folder : {L"data\\in", L"in", L"\\in", L"/in", L"\\?\\in"}) {
         files_.contents[folder] = "";
         form_.inputFolder.text = folder;
-        EXPECT_EQ(Check(), Refusal(Report(L"Bad Input folder.", folder, 3)));
+        EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Input folder.", folder, 3)));
     }
     EXPECT_THAT(AskedPaths(), IsEmpty());
 }
 
 TEST_F(RuleCheck, ANetworkFolderPassesTheFormTestAndIsTestedForExistence) {
     form_.inputFolder.text = L"\\\\server\\share\\in";
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Input folder.", L"\\\\server\\share\\in", 2)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Input folder.", L"\\\\server\\share\\in", 2)));
     files_.contents[L"\\\\server\\share\\in"] = "";
     EXPECT_EQ(Check(), std::nullopt);
 }
@@ -147,16 +147,16 @@ TEST_F(RuleCheck, AColonOrTwoBackslashesAnywhereAreEnoughForTheFormTest) {
 
 TEST_F(RuleCheck, EachBadFolderIsReportedWithItsMessageAndTheSystemsCode) {
     files_.FailCall(0, 5);
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Input folder.", L"C:\\in", 5)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Input folder.", L"C:\\in", 5)));
     files_.FailCall(2, 53);
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Output folder.", L"C:\\out", 53)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Output folder.", L"C:\\out", 53)));
     files_.FailCall(5, 21);
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Error folder.", L"C:\\error", 21)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Error folder.", L"C:\\error", 21)));
 }
 
 TEST_F(RuleCheck, AFolderThatDoesNotExistWithCode80RefusesSilently) {
     files_.FailCall(0, 80);
-    const Refusal refusal = Check();
+    const RefusedRule refusal = Check();
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->kind, RefusalKind::kSilent);
     Show(*refusal);
@@ -173,8 +173,8 @@ TEST_F(RuleCheck, AFolderOf300CharactersIsAskedForAndReportedWhole) {
     const std::wstring folder = L"C:\\" + std::wstring(297, L'x');
     form_.inputFolder.text = folder;
     files_.FailCall(0, 206);
-    const Refusal refusal = Check();
-    EXPECT_EQ(refusal, Refusal(Report(L"Bad Input folder.", folder, 206)));
+    const RefusedRule refusal = Check();
+    EXPECT_EQ(refusal, RefusedRule(Report(L"Bad Input folder.", folder, 206)));
     EXPECT_THAT(AskedPaths(), ElementsAre(folder));
     Show(refusal.value_or(RuleRefusal()));
     EXPECT_EQ(fixture_.presenter.OnlyText(),
@@ -183,9 +183,9 @@ TEST_F(RuleCheck, AFolderOf300CharactersIsAskedForAndReportedWhole) {
 
 TEST_F(RuleCheck, NoMaskIsRefusedAfterTheFolders) {
     form_.result.masks.clear();
-    EXPECT_EQ(Check(), Refusal(Message(L"No Mask selected.")));
+    EXPECT_EQ(Check(), RefusedRule(Message(L"No Mask selected.")));
     files_.FailCall(5, 5);
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Error folder.", L"C:\\error", 5)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Error folder.", L"C:\\error", 5)));
 }
 
 TEST_F(RuleCheck, ARecipientOperationWithoutRecipientsIsRefusedOnlyAfterFoldersAndMasks) {
@@ -193,11 +193,11 @@ TEST_F(RuleCheck, ARecipientOperationWithoutRecipientsIsRefusedOnlyAfterFoldersA
         form_ = Opened(FullRule(code));
         form_.recipients.clear();
         EXPECT_EQ(Check(),
-                  Refusal(Box(L"No certificate is selected for operation.", RuleIcon::kCertificates)));
+                  RefusedRule(Box(L"No certificate is selected for operation.", RuleIcon::kCertificates)));
         form_.result.masks.clear();
-        EXPECT_EQ(Check(), Refusal(Message(L"No Mask selected.")));
+        EXPECT_EQ(Check(), RefusedRule(Message(L"No Mask selected.")));
         form_.errorFolder.text = L"relative";
-        EXPECT_EQ(Check(), Refusal(Report(L"Bad Error folder.", L"relative", 3)));
+        EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Error folder.", L"relative", 3)));
     }
 }
 
@@ -224,16 +224,16 @@ TEST_F(RuleCheck, AMoveRuleWithoutASecondOutputFolderPasses) {
 TEST_F(RuleCheck, AMoveRuleWithABadSecondOutputFolderIsRefused) {
     form_ = Opened(FullRule(L"MOVE"));
     form_.cert.text = L"D:\\gone";
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Second Output folder.", L"D:\\gone", 2)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Second Output folder.", L"D:\\gone", 2)));
     form_.cert.text = L"relative";
-    EXPECT_EQ(Check(), Refusal(Report(L"Bad Second Output folder.", L"relative", 3)));
+    EXPECT_EQ(Check(), RefusedRule(Report(L"Bad Second Output folder.", L"relative", 3)));
 }
 
 TEST_F(RuleCheck, AnExecuteRuleWithoutAnExecutableIsRefused) {
     for (const wchar_t* const notSet : {L"", L"0"}) {
         form_ = Opened(FullRule(L"EXEC"));
         form_.cert.text = notSet;
-        EXPECT_EQ(Check(), Refusal(Box(L"Executable file is not set.", RuleIcon::kExecutable)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"Executable file is not set.", RuleIcon::kExecutable)));
     }
 }
 

@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "app/reporting/provider_error_stack.h"
+#include "tests/core/reporting/failed_call.h"
 #include "tests/support/reporter_fixture.h"
 
 namespace corvane {
 namespace {
 
+using testing::kSession;
 using testing::ReleasedText;
 using testing::ReporterFixture;
-
-constexpr ProviderContext kSession = 0xFEDCBA9876543210;
 
 std::wstring StackOf(ReporterFixture& fixture, ProviderContext session = kSession) {
     std::wstring description = L"D";

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
+#include "tests/core/reporting/failed_call.h"
 #include "tests/support/reporter_fixture.h"
 
 namespace corvane {
 namespace {
 
+using testing::kProviderCode;
+using testing::kSession;
 using testing::ReporterFixture;
-
-constexpr std::uint32_t kProviderCode = 0xE0700012;
-constexpr ProviderContext kSession = 0x1234567890;
 
 std::wstring Describe(ReporterFixture& fixture, std::uint32_t code, ProviderContext session = 0) {
     std::wstring description = L"what was there before";

@@ -3,17 +3,17 @@
 #include <new>
 
 #include "app/reporting/message_styles.h"
+#include "tests/core/reporting/failed_call.h"
 #include "tests/support/reporter_fixture.h"
 
 namespace corvane {
 namespace {
 
+using testing::kProviderCode;
+using testing::kSession;
 using testing::RecordingPresenter;
 using testing::ReporterFixture;
 using testing::ShownBox;
-
-constexpr std::uint32_t kProviderCode = 0xE0700012;
-constexpr ProviderContext kSession = 42;
 
 // The text that a report without an owner shows.
 std::wstring ShownText(ReporterFixture& fixture, std::uint32_t code, const char* format,

@@ -13,17 +13,17 @@
 namespace corvane::testing {
 namespace {
 
-constexpr wchar_t kPath[] = L"C:\\file";
+constexpr wchar_t kFilePath[] = L"C:\\file";
 
 TEST(MemoryFiles, AFileIsCreatedWrittenAndReadBack) {
     MemoryFiles files;
     toolkit::FileCalls::Handle file = nullptr;
     std::size_t sizeBytes = 0;
-    ASSERT_EQ(files.Create(kPath, file), 0U);
+    ASSERT_EQ(files.Create(kFilePath, file), 0U);
     EXPECT_EQ(files.Write(file, "abc", 3, sizeBytes), 0U);
     EXPECT_EQ(files.Write(file, "de", 2, sizeBytes), 0U);
     EXPECT_EQ(files.Close(file), 0U);
-    ASSERT_EQ(files.Open(kPath, file), 0U);
+    ASSERT_EQ(files.Open(kFilePath, file), 0U);
     std::uint64_t fileBytes = 0;
     EXPECT_EQ(files.Size(file, fileBytes), 0U);
     EXPECT_EQ(fileBytes, 5U);
@@ -41,20 +41,20 @@ TEST(MemoryFiles, AFileIsCreatedWrittenAndReadBack) {
 TEST(MemoryFiles, CreatingReplacesAndOpeningAMissingFileFails) {
     MemoryFiles files;
     toolkit::FileCalls::Handle file = nullptr;
-    EXPECT_EQ(files.Open(kPath, file), 2U);
-    EXPECT_EQ(files.CheckExists(kPath), 2U);
+    EXPECT_EQ(files.Open(kFilePath, file), 2U);
+    EXPECT_EQ(files.CheckExists(kFilePath), 2U);
     EXPECT_EQ(file, nullptr);
-    files.contents[kPath] = "old";
-    EXPECT_EQ(files.CheckExists(kPath), 0U);
-    ASSERT_EQ(files.Create(kPath, file), 0U);
-    EXPECT_EQ(files.contents[kPath], "");
+    files.contents[kFilePath] = "old";
+    EXPECT_EQ(files.CheckExists(kFilePath), 0U);
+    ASSERT_EQ(files.Create(kFilePath, file), 0U);
+    EXPECT_EQ(files.contents[kFilePath], "");
     EXPECT_EQ(files.Close(file), 0U);
 }
 
 TEST(MemoryFiles, AHandleThatIsNotClosedIsCounted) {
     MemoryFiles files;
     toolkit::FileCalls::Handle file = nullptr;
-    ASSERT_EQ(files.Create(kPath, file), 0U);
+    ASSERT_EQ(files.Create(kFilePath, file), 0U);
     EXPECT_EQ(files.OpenHandles(), 1U);
     EXPECT_EQ(files.Close(file), 0U);
     EXPECT_EQ(files.OpenHandles(), 0U);
@@ -63,7 +63,7 @@ TEST(MemoryFiles, AHandleThatIsNotClosedIsCounted) {
 TEST(MemoryFiles, ASecondCloseAndAReadOfAFileForWritingAreMisuses) {
     MemoryFiles files;
     toolkit::FileCalls::Handle file = nullptr;
-    ASSERT_EQ(files.Create(kPath, file), 0U);
+    ASSERT_EQ(files.Create(kFilePath, file), 0U);
     char byte = 0;
     std::size_t sizeBytes = 0;
     EXPECT_EQ(files.Read(file, &byte, 1, sizeBytes), 6U);
@@ -79,16 +79,16 @@ TEST(MemoryFiles, TheCallOfTheIndexFailsAndDoesNothing) {
     files.FailCall(1, 112);
     files.FailCall(3, 6);
     std::size_t sizeBytes = 0;
-    ASSERT_EQ(files.Create(kPath, file), 0U);
+    ASSERT_EQ(files.Create(kFilePath, file), 0U);
     EXPECT_EQ(files.Write(file, "a", 1, sizeBytes), 112U);
     EXPECT_EQ(files.Write(file, "b", 1, sizeBytes), 0U);
-    EXPECT_EQ(files.contents[kPath], "b");
+    EXPECT_EQ(files.contents[kFilePath], "b");
     EXPECT_EQ(files.Close(file), 6U);
     EXPECT_EQ(files.OpenHandles(), 0U);
-    const std::vector<FileCall> calls = {{FileOperation::kCreate, kPath, 0},
-                                         {FileOperation::kWrite, kPath, 112},
-                                         {FileOperation::kWrite, kPath, 0},
-                                         {FileOperation::kClose, kPath, 6}};
+    const std::vector<FileCall> calls = {{FileOperation::kCreate, kFilePath, 0},
+                                         {FileOperation::kWrite, kFilePath, 112},
+                                         {FileOperation::kWrite, kFilePath, 0},
+                                         {FileOperation::kClose, kFilePath, 6}};
     EXPECT_EQ(files.Calls(), calls);
 }
 

@@ -14,9 +14,9 @@ using testing::CodePage;
 using testing::MemoryFiles;
 using testing::ReporterFixture;
 
-constexpr wchar_t kPath[] = L"C:\\exchange\\rules.prx";
+constexpr wchar_t kRulesPath[] = L"C:\\exchange\\rules.prx";
 
-Rule DescribedRule(const std::wstring& description) {
+Rule MoveRule(const std::wstring& description) {
     Rule rule;
     rule.operation = L"MOVE";
     rule.description = description;
@@ -27,8 +27,8 @@ TEST(WriteRulesFile, TheFileHoldsTheRecordsInTheSystemsCodePage) {
     MemoryFiles files;
     ReporterFixture reports(CodePage::kCyrillic);
     EXPECT_TRUE(
-        WriteRulesFile(kPath, {DescribedRule(L"\x0416\x0431"), Rule()}, files, reports.reporter, nullptr));
-    EXPECT_EQ(files.contents[kPath],
+        WriteRulesFile(kRulesPath, {MoveRule(L"\x0416\x0431"), Rule()}, files, reports.reporter, nullptr));
+    EXPECT_EQ(files.contents[kRulesPath],
               "MOVE\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\xC6\xE1\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r"
               "\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
     EXPECT_EQ(reports.presenter.Boxes().size(), 0U);
@@ -38,18 +38,18 @@ TEST(WriteRulesFile, EveryByteIsWrittenWhereACharacterTakesSeveral) {
     MemoryFiles files;
     ReporterFixture reports(CodePage::kShiftJis);
     EXPECT_TRUE(
-        WriteRulesFile(kPath, {DescribedRule(L"\x65E5\x672C\x8A9E")}, files, reports.reporter, nullptr));
-    EXPECT_EQ(files.contents[kPath],
+        WriteRulesFile(kRulesPath, {MoveRule(L"\x65E5\x672C\x8A9E")}, files, reports.reporter, nullptr));
+    EXPECT_EQ(files.contents[kRulesPath],
               "MOVE\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\x93\xFA\x96\x7B\x8C\xEA\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
 }
 
 TEST(WriteRulesFile, WithoutRulesNoFileIsTouched) {
     MemoryFiles files;
     ReporterFixture reports;
-    files.contents[kPath] = "old";
-    EXPECT_TRUE(WriteRulesFile(kPath, {}, files, reports.reporter, nullptr));
+    files.contents[kRulesPath] = "old";
+    EXPECT_TRUE(WriteRulesFile(kRulesPath, {}, files, reports.reporter, nullptr));
     EXPECT_EQ(files.Calls().size(), 0U);
-    EXPECT_EQ(files.contents[kPath], "old");
+    EXPECT_EQ(files.contents[kRulesPath], "old");
 }
 
 TEST(ReadRulesFile, TheImportReadsWhatSuchAnExportWrote) {
@@ -57,9 +57,9 @@ TEST(ReadRulesFile, TheImportReadsWhatSuchAnExportWrote) {
          {CodePage::kLatin, CodePage::kCyrillic, CodePage::kShiftJis, CodePage::kUtf8}) {
         MemoryFiles files;
         ReporterFixture reports(codePage);
-        const std::vector<Rule> rules = {DescribedRule(L"one"), DescribedRule(L"two"), Rule()};
-        ASSERT_TRUE(WriteRulesFile(kPath, rules, files, reports.reporter, nullptr));
-        const std::optional<std::string> bytes = ReadRulesFile(kPath, files, reports.reporter, nullptr);
+        const std::vector<Rule> rules = {MoveRule(L"one"), MoveRule(L"two"), Rule()};
+        ASSERT_TRUE(WriteRulesFile(kRulesPath, rules, files, reports.reporter, nullptr));
+        const std::optional<std::string> bytes = ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
         ASSERT_TRUE(bytes.has_value());
         EXPECT_EQ(ParseRulesFile(*bytes, reports.text), rules) << static_cast<int>(codePage);
     }
@@ -68,9 +68,9 @@ TEST(ReadRulesFile, TheImportReadsWhatSuchAnExportWrote) {
 TEST(ReadRulesFile, CharactersOfSeveralBytesComeBack) {
     MemoryFiles files;
     ReporterFixture reports(CodePage::kShiftJis);
-    const std::vector<Rule> rules = {DescribedRule(L"\x65E5\x672C\x8A9E"), DescribedRule(L"last")};
-    ASSERT_TRUE(WriteRulesFile(kPath, rules, files, reports.reporter, nullptr));
-    const std::optional<std::string> bytes = ReadRulesFile(kPath, files, reports.reporter, nullptr);
+    const std::vector<Rule> rules = {MoveRule(L"\x65E5\x672C\x8A9E"), MoveRule(L"last")};
+    ASSERT_TRUE(WriteRulesFile(kRulesPath, rules, files, reports.reporter, nullptr));
+    const std::optional<std::string> bytes = ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
     ASSERT_TRUE(bytes.has_value());
     EXPECT_EQ(ParseRulesFile(*bytes, reports.text), rules);
 }
@@ -78,10 +78,10 @@ TEST(ReadRulesFile, CharactersOfSeveralBytesComeBack) {
 TEST(ReadRulesFile, ReadingTheSameFileTwiceGivesTheRulesTwice) {
     MemoryFiles files;
     ReporterFixture reports;
-    files.contents[kPath] = testing::RecordText(testing::FieldsWith(0, "ENCR"));
+    files.contents[kRulesPath] = testing::RecordText(testing::FieldsWith(0, "ENCR"));
     std::vector<Rule> rules;
     for (int times = 0; times < 2; ++times) {
-        const std::optional<std::string> bytes = ReadRulesFile(kPath, files, reports.reporter, nullptr);
+        const std::optional<std::string> bytes = ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
         ASSERT_TRUE(bytes.has_value());
         for (const Rule& rule : ParseRulesFile(*bytes, reports.text)) {
             rules.push_back(rule);
