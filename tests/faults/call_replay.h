@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -15,6 +16,9 @@ inline constexpr std::uint32_t kFailureCodes[] = {2, 5, 13, 87, 234, 1018};
 /// The calls without the closing ones. Those do not matter for what a load or save does; that every key is
 /// closed is counted.
 [[nodiscard]] std::vector<RegistryCall> WithoutClosing(const std::vector<RegistryCall>& calls);
+
+/// How many of the first `count` calls are no closing ones.
+[[nodiscard]] std::size_t CountWithoutClosing(const std::vector<RegistryCall>& calls, std::size_t count);
 
 /// Expects that `found` are the calls `expected`, which have no closing ones, whatever they answered.
 void ExpectSameCalls(const std::vector<RegistryCall>& expected, const std::vector<RegistryCall>& found);

@@ -113,17 +113,16 @@ void AppendAfterDefault(const std::vector<RegistryCall>& clean, std::size_t fail
     }
 }
 
-ExpectedLoad Expect(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code) {
+// `clean` are the calls `allClean` without the closing ones.
+ExpectedLoad Expect(const std::vector<RegistryCall>& allClean, const std::vector<RegistryCall>& clean,
+                    std::size_t failedIndex, std::uint32_t code) {
     ExpectedLoad expected;
-    const std::vector<RegistryCall> clean = WithoutClosing(allClean);
     const RegistryCall& call = allClean[failedIndex];
     if (call.operation == RegistryOperation::kClose) {
         expected.calls = clean;
         return expected;
     }
-    const std::size_t failed =
-        WithoutClosing({allClean.begin(), allClean.begin() + static_cast<std::ptrdiff_t>(failedIndex)})
-            .size();
+    const std::size_t failed = CountWithoutClosing(allClean, failedIndex);
     expected.calls.assign(clean.begin(), clean.begin() + static_cast<std::ptrdiff_t>(failed) + 1);
     expected.calls.back().code = code;
     const bool isMissing = code == kCodeNotFound || code == kCodeInvalidData;
@@ -191,12 +190,13 @@ void FailEveryCallOfALoad(const Preparation& prepare) {
     MemoryRegistry registryBefore;
     prepare(registryBefore);
     const RegistrySnapshot before = registryBefore.Snapshot();
+    const std::vector<RegistryCall> cleanWithoutClosing = WithoutClosing(clean.calls);
     for (std::size_t index = 0; index < clean.calls.size(); ++index) {
         std::optional<ConfigurationState> without;
         for (const std::uint32_t code : kFailureCodes) {
             SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
                          Describe(clean.calls[index]));
-            const ExpectedLoad expected = Expect(clean.calls, index, code);
+            const ExpectedLoad expected = Expect(clean.calls, cleanWithoutClosing, index, code);
             const LoadOutcome outcome = Load([&](MemoryRegistry& registry) {
                 prepare(registry);
                 registry.FailCall(index, code);

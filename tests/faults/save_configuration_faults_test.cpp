@@ -117,8 +117,10 @@ Step StepOf(const std::vector<RegistryCall>& clean, std::size_t index) {
 // What is owed when one call of a clean save fails.
 class ExpectedSave {
   public:
-    ExpectedSave(const std::vector<RegistryCall>& allClean, std::size_t failedIndex, std::uint32_t code)
-        : clean_(WithoutClosing(allClean)), code_(code) {
+    // `clean` are the calls `allClean` without the closing ones; it must outlive this object.
+    ExpectedSave(const std::vector<RegistryCall>& allClean, const std::vector<RegistryCall>& clean,
+                 std::size_t failedIndex, std::uint32_t code)
+        : clean_(clean), code_(code) {
         const RegistryCall& call = allClean[failedIndex];
         if (call.operation == RegistryOperation::kClose) {
             calls = clean_;
@@ -127,9 +129,7 @@ class ExpectedSave {
             }
             return;
         }
-        failed_ =
-            WithoutClosing({allClean.begin(), allClean.begin() + static_cast<std::ptrdiff_t>(failedIndex)})
-                .size();
+        failed_ = CountWithoutClosing(allClean, failedIndex);
         calls.assign(clean_.begin(), clean_.begin() + static_cast<std::ptrdiff_t>(failed_) + 1);
         calls.back().code = code;
         Decide();
@@ -239,7 +239,7 @@ class ExpectedSave {
         return index;
     }
 
-    std::vector<RegistryCall> clean_;
+    const std::vector<RegistryCall>& clean_;
     std::uint32_t code_;
     std::size_t failed_ = 0;
 };
@@ -251,11 +251,12 @@ TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
     MemoryRegistry registryBefore;
     PutStoredConfiguration(registryBefore);
     const RegistrySnapshot before = registryBefore.Snapshot();
+    const std::vector<RegistryCall> cleanWithoutClosing = WithoutClosing(clean.calls);
     for (std::size_t index = 0; index < clean.calls.size(); ++index) {
         for (const std::uint32_t code : kFailureCodes) {
             SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
                          Describe(clean.calls[index]));
-            const ExpectedSave expected(clean.calls, index, code);
+            const ExpectedSave expected(clean.calls, cleanWithoutClosing, index, code);
             const SaveOutcome outcome = Save(index, code);
             EXPECT_EQ(outcome.reports, expected.reports);
             ExpectSameCalls(expected.calls, outcome.calls);
