@@ -19,6 +19,7 @@
 #include "res/ids.h"
 #include "toolkit/control_place.h"
 #include "toolkit/window_scale.h"
+#include "toolkit/window_text.h"
 #include "toolkit/wrapped_caption.h"
 
 namespace corvane {
@@ -55,11 +56,7 @@ bool CCorvaneDlg::OnInitDialog() {
     SetUpIcons();
 
     state_.isDirty = false;
-    ruleList_.Attach(Control(IDC_RULE_LIST));
-    profileList_.Attach(Control(IDC_PROFILE_LIST));
-    profileList_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
-    profileList_.InsertColumn(0, kProfileColumnTitle);
-    LayOutColumns(true);
+    SetUpLists();
 
     if (!LoadConfiguration(state_, registry_, services_.reporter, Window())) {
         EndModal(IDCANCEL);
@@ -84,7 +81,6 @@ void CCorvaneDlg::SetUpMenu() const {
         info.dwTypeData = const_cast<wchar_t*>(item.text);
         SetMenuItemInfoW(menu, static_cast<UINT>(item.id), FALSE, &info);
     }
-    DrawMenuBar(Window());
 }
 
 void CCorvaneDlg::SetUpToolTips() {
@@ -97,7 +93,10 @@ void CCorvaneDlg::SetUpToolTips() {
 
 void CCorvaneDlg::SetUpCaptions() {
     for (const IdText& caption : kInitialCaptions) {
-        SetControlText(caption.id, caption.text);
+        // The template has most of them already, and each one that is set is laid out anew.
+        if (toolkit::WindowText(Control(caption.id)) != caption.text) {
+            SetControlText(caption.id, caption.text);
+        }
     }
     TakeData();
 }
@@ -107,6 +106,15 @@ void CCorvaneDlg::SetUpIcons() {
     for (const ButtonIcon& button : kButtonIcons) {
         buttonIcons_.Show(Window(), DotsPerInch(), button.buttonId, button.iconId);
     }
+}
+
+void CCorvaneDlg::SetUpLists() {
+    const int scrollBarWidth = toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch());
+    ruleList_.Attach(Control(IDC_RULE_LIST), scrollBarWidth);
+    profileList_.Attach(Control(IDC_PROFILE_LIST));
+    profileList_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
+    profileList_.InsertColumn(0, kProfileColumnTitle,
+                              LayOutProfileColumn(profileList_.ClientWidth(), scrollBarWidth, true));
 }
 
 void CCorvaneDlg::RememberSize() {
@@ -299,7 +307,7 @@ void CCorvaneDlg::OnSize(WPARAM kind, int width, int height) {
                                                    .growX = control.growX ? change.width : 0,
                                                    .growY = control.growY ? change.height : 0});
     }
-    LayOutColumns(false);
+    LayOutColumns();
     InvalidateRect(Window(), nullptr, TRUE);
 }
 
@@ -363,7 +371,7 @@ void CCorvaneDlg::OnEndSession(bool /*isEnding*/) {
 void CCorvaneDlg::OnScaleChanged() {
     RememberSize();
     SetUpIcons();
-    LayOutColumns(false);
+    LayOutColumns();
 }
 
 bool CCorvaneDlg::PreTranslateMessage(MSG& message) {
@@ -381,11 +389,10 @@ void CCorvaneDlg::ReportException(const std::exception& exception) {
     services_.reporter.ShowMessage(Window(), exception.what(), kErrorStyle);
 }
 
-void CCorvaneDlg::LayOutColumns(bool isFirstTime) {
+void CCorvaneDlg::LayOutColumns() {
     const int scrollBarWidth = toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch());
-    ruleList_.LayOutColumns(scrollBarWidth, isFirstTime);
-    profileList_.SetColumnWidth(0,
-                                LayOutProfileColumn(profileList_.ClientWidth(), scrollBarWidth, isFirstTime));
+    ruleList_.LayOutColumns(scrollBarWidth);
+    profileList_.SetColumnWidth(0, LayOutProfileColumn(profileList_.ClientWidth(), scrollBarWidth, false));
 }
 
 }  // namespace corvane

@@ -47,6 +47,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     void SetUpToolTips();
     void SetUpCaptions();
     void SetUpIcons();
+    void SetUpLists();
     void RememberSize();
     void RestorePlacement() const;
 
@@ -80,7 +81,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     void CopyCheckBoxes();
     void CopyCheckBoxesOfFocusedList();
 
-    void LayOutColumns(bool isFirstTime);
+    void LayOutColumns();
     void OnProfileListNotification(const NMHDR& header);
     bool OnRuleListNotification(NMHDR& header);
 

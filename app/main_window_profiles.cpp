@@ -21,7 +21,7 @@ void CCorvaneDlg::FillProfileList() {
             profileList_.AppendRow(name);
         }
     }
-    LayOutColumns(false);
+    LayOutColumns();
 }
 
 void CCorvaneDlg::OpenProfile() {
@@ -128,7 +128,6 @@ void CCorvaneDlg::EnableProfileCommands(bool isEnabled) {
     for (const int item : kProfileMenuItems) {
         EnableMenuItem(menu, static_cast<UINT>(item), MF_BYCOMMAND | state);
     }
-    DrawMenuBar(Window());
 }
 
 }  // namespace corvane

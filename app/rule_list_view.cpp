@@ -8,20 +8,21 @@
 
 namespace corvane {
 
-void RuleListView::Attach(HWND control) {
+void RuleListView::Attach(HWND control, int scrollBarWidth) {
     list_.Attach(control);
     const toolkit::ListView::RedrawLock locked(list_);
     list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
     columnNames_ = RuleColumnInsertionOrder();
+    const RuleColumnWidths widths = LayOutRuleColumns(list_.ClientWidth(), scrollBarWidth, true);
     for (const std::wstring& title : columnNames_) {
-        list_.InsertColumn(0, title);
+        list_.InsertColumn(0, title, title == columnNames_.back() ? widths.number : widths.other);
     }
 }
 
-void RuleListView::LayOutColumns(int scrollBarWidth, bool isFirstTime) const {
+void RuleListView::LayOutColumns(int scrollBarWidth) const {
     // The list arranges itself anew after each column, and all other columns with it.
     const toolkit::ListView::RedrawLock locked(list_);
-    const RuleColumnWidths widths = LayOutRuleColumns(list_.ClientWidth(), scrollBarWidth, isFirstTime);
+    const RuleColumnWidths widths = LayOutRuleColumns(list_.ClientWidth(), scrollBarWidth, false);
     for (std::size_t column = 0; column < kRuleColumnCount; ++column) {
         list_.SetColumnWidth(static_cast<int>(column),
                              column == kNumberColumn ? widths.number : widths.other);

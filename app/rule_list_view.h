@@ -21,10 +21,10 @@ class RuleListView {
 
     explicit RuleListView(const ConfigurationState& state) : state_(state) {}
 
-    /// Takes over the control and makes its columns.
-    void Attach(HWND control);
+    /// Takes over the control, which is empty, and makes its columns. `scrollBarWidth` in pixels.
+    void Attach(HWND control, int scrollBarWidth);
     /// Shares its width out among the columns. `scrollBarWidth` in pixels.
-    void LayOutColumns(int scrollBarWidth, bool isFirstTime) const;
+    void LayOutColumns(int scrollBarWidth) const;
 
     void Clear();
     /// Shows the rules of the profile at this position of the configuration that match the search text.

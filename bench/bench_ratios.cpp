@@ -125,14 +125,14 @@ std::vector<RatioRow> MeasureLists() {
     const toolkit::WindowsSystemText text;
     ListWindow window;
     corvane::RuleListView ruleList(state);
-    ruleList.Attach(window.MakeList());
+    ruleList.Attach(window.MakeList(), GetSystemMetrics(SM_CXVSCROLL));
     window.AnswerWith([&ruleList](NMHDR& header) {
         if (header.code == LVN_GETDISPINFOW && header.hwndFrom == ruleList.Control().Window()) {
             ruleList.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
         }
     });
     corvane::RuleListView plainColumns(state);
-    plainColumns.Attach(window.MakeList());
+    plainColumns.Attach(window.MakeList(), GetSystemMetrics(SM_CXVSCROLL));
     const toolkit::ListView& plain = plainColumns.Control();
 
     const auto fillPlainly = [&] {

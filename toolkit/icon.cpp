@@ -14,8 +14,9 @@ UniqueIcon LoadIconResource(int id, int sizePixels) {
 void ShowWindowIcons(HWND window, UINT dotsPerInch, int id, UniqueIcon& largeIcon, UniqueIcon& smallIcon) {
     UniqueIcon newLarge = LoadIconResource(id, SystemMetric(SM_CXICON, dotsPerInch));
     UniqueIcon newSmall = LoadIconResource(id, SystemMetric(SM_CXSMICON, dotsPerInch));
-    SendMessageW(window, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(newLarge.get()));
+    // The small one first: to a large icon alone the system makes a small one of its own.
     SendMessageW(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(newSmall.get()));
+    SendMessageW(window, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(newLarge.get()));
     // Only now may the icons shown until here go.
     largeIcon = std::move(newLarge);
     smallIcon = std::move(newSmall);

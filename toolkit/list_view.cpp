@@ -23,8 +23,19 @@ void ListView::InsertColumn(int position, const std::wstring& title) const {
     Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&column));
 }
 
+void ListView::InsertColumn(int position, const std::wstring& title, int widthPixels) const {
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT | LVCF_FMT | LVCF_WIDTH;
+    column.fmt = LVCFMT_LEFT;
+    column.cx = widthPixels;
+    column.pszText = Unconst(title);
+    Send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&column));
+}
+
 void ListView::SetColumnWidth(int column, int widthPixels) const {
-    Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), widthPixels);
+    if (ColumnWidth(column) != widthPixels) {
+        Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), widthPixels);
+    }
 }
 
 int ListView::ColumnWidth(int column) const {

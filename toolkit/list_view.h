@@ -21,7 +21,10 @@ class ListView {
     [[nodiscard]] HWND Window() const { return control_; }
 
     void AddExtendedStyles(DWORD styles) const;
+    /// The column gets the control's usual width, which is a narrow one.
     void InsertColumn(int position, const std::wstring& title) const;
+    void InsertColumn(int position, const std::wstring& title, int widthPixels) const;
+    /// Nothing when the column has this width: setting it makes the control arrange and draw itself anew.
     void SetColumnWidth(int column, int widthPixels) const;
     [[nodiscard]] int ColumnWidth(int column) const;
     [[nodiscard]] int ClientWidth() const;
