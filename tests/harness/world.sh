@@ -91,11 +91,16 @@ start_desktop() {
     printf '%s\n' "$DISPLAY" >"$folder/display"
 }
 
-# Takes a desktop that nobody is at, for as long as this shell runs; waits where there is none. What this shell
-# starts must not keep the file of the lock, {desktopLock}, open, for Wine's servers live on.
+# take_desktop DPI CODE_PAGE: takes a desktop that nobody is at, for as long as this shell runs, and rather one
+# with a prefix for the two; waits where there is none. What this shell starts must not keep the file of the
+# lock, {desktopLock}, open, for Wine's servers live on.
 take_desktop() {
     while true; do
-        for desktop in "$CORVANE_WORLD"/desktop-*; do
+        for desktop in "$CORVANE_WORLD"/desktop-*/"prefix-$1-$2" "$CORVANE_WORLD"/desktop-*; do
+            if [[ ! -d $desktop ]]; then
+                continue
+            fi
+            desktop=${desktop%/prefix-*}
             exec {desktopLock}>"$desktop/taken"
             if flock --nonblock "$desktopLock"; then
                 DISPLAY=$(<"$desktop/display")
