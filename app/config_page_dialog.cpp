@@ -44,10 +44,7 @@ bool IsExtensionEdit(int controlId) {
 }  // namespace
 
 CConfigPage::CConfigPage(HWND owner, const AppSettings& settings, ErrorReporter& reporter)
-    : Dialog(IDD_CONFIGURATIONS, owner),
-      reporter_(reporter),
-      form_(settings),
-      buttonIcons_(toolkit::kButtonIconSize) {}
+    : Dialog(IDD_CONFIGURATIONS, owner), reporter_(reporter), form_(settings) {}
 
 bool CConfigPage::OnInitDialog() {
     SetUpTexts();

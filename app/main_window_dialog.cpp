@@ -39,8 +39,7 @@ CCorvaneDlg::CCorvaneDlg(const Services& services)
     : Dialog(IDD_MAIN_WINDOW, nullptr),
       services_(services),
       registry_(services.registry, services.reporter),
-      ruleList_(state_),
-      buttonIcons_(toolkit::kButtonIconSize) {}
+      ruleList_(state_) {}
 
 bool CCorvaneDlg::OnInitDialog() {
     RememberSize();

@@ -75,8 +75,7 @@ CPreEncryptDlg::CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const C
       foundList_({[&form] { return form.FoundRowCount(); },
                   [&form](std::size_t row) { return form.FoundRow(row); }}),
       chosenList_({[&form] { return form.ChosenRowCount(); },
-                   [&form](std::size_t row) { return form.ChosenRow(row); }}),
-      buttonIcons_(toolkit::kButtonIconSize) {}
+                   [&form](std::size_t row) { return form.ChosenRow(row); }}) {}
 
 bool CPreEncryptDlg::OnInitDialog() {
     SetUpControls();

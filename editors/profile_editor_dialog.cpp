@@ -64,10 +64,7 @@ int ControlOf(ProfileField field) {
 
 CAddProfile::CAddProfile(HWND owner, const ConfigurationState& state, const Profile& profile,
                          const EditorServices& services)
-    : Dialog(IDD_PROFILE_EDITOR, owner),
-      state_(state),
-      services_(services),
-      buttonIcons_(toolkit::kButtonIconSize) {
+    : Dialog(IDD_PROFILE_EDITOR, owner), state_(state), services_(services) {
     form_.result = profile;
 }
 

@@ -100,8 +100,7 @@ CAddRule::CAddRule(HWND owner, const Profile& profile, TextList maskSuggestions,
     : Dialog(IDD_RULE_EDITOR, owner),
       services_(services),
       maskSuggestions_(std::move(maskSuggestions)),
-      form_(OpenRule(profile, rule, services.acceptedCsProfile)),
-      buttonIcons_(toolkit::kButtonIconSize) {}
+      form_(OpenRule(profile, rule, services.acceptedCsProfile)) {}
 
 bool CAddRule::OnInitDialog() {
     SetWindowTextW(Window(), form_.title.c_str());

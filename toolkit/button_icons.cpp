@@ -6,8 +6,8 @@
 namespace toolkit {
 
 void ButtonIcons::Show(HWND dialog, UINT dotsPerInch, int buttonId, int iconId) {
-    UniqueIcon icon =
-        LoadIconResource(iconId, MulDiv(size_, static_cast<int>(dotsPerInch), USER_DEFAULT_SCREEN_DPI));
+    UniqueIcon icon = LoadIconResource(
+        iconId, MulDiv(kButtonIconSize, static_cast<int>(dotsPerInch), USER_DEFAULT_SCREEN_DPI));
     SendDlgItemMessageW(dialog, buttonId, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
     // Only now may the icon shown until here go.
     const auto shown = std::find_if(icons_.begin(), icons_.end(), [buttonId](const ShownIcon& candidate) {

@@ -8,16 +8,13 @@
 
 namespace toolkit {
 
-/// The usual side of the icons on buttons, in pixels at 96 dots per inch.
+/// The side of the icons on buttons, in pixels at 96 dots per inch.
 inline constexpr int kButtonIconSize = 32;
 
 /// The pictures of a dialog's icon buttons, kept for as long as the buttons show them. A button also keeps
 /// its text, which is its accessible name.
 class ButtonIcons {
   public:
-    /// `sizePixels` is the side of the icons at 96 dots per inch.
-    explicit ButtonIcons(int sizePixels) : size_(sizePixels) {}
-
     /// Shows the icon resource on the button, in place of the one it shows (BM_SETIMAGE).
     void Show(HWND dialog, UINT dotsPerInch, int buttonId, int iconId);
     /// Loads every icon again, for a dialog that came to another scale.
@@ -30,7 +27,6 @@ class ButtonIcons {
         UniqueIcon icon;
     };
 
-    int size_;
     std::vector<ShownIcon> icons_;  ///< One for each button that shows an icon.
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/window/test_dialog.h"
+#include "toolkit/button_icons.h"
 #include "toolkit/window_scale.h"
 
 namespace toolkit {
@@ -95,6 +96,56 @@ TEST(ShowWindowIcons, TheIconsBeforeAreDestroyed) {
     ShowWindowIcons(dialog.Window(), 144, IDI_SQUARE, largeIcon, smallIcon);
     ICONINFO info = {};
     EXPECT_FALSE(GetIconInfo(before, &info));
+}
+
+class ButtonIconsTest : public ::testing::Test {
+  protected:
+    static constexpr int kFirstButton = 1;
+    static constexpr int kSecondButton = 2;
+
+    ButtonIconsTest() {
+        for (const int id : {kFirstButton, kSecondButton}) {
+            CreateWindowExW(0, WC_BUTTONW, L"Square", WS_CHILD | BS_ICON, 0, 0, 64, 64, window_.Handle(),
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
+                            nullptr);
+        }
+    }
+
+    [[nodiscard]] HWND Dialog() const { return window_.Handle(); }
+    [[nodiscard]] HICON ShownOn(int button) const {
+        return reinterpret_cast<HICON>(SendDlgItemMessageW(Dialog(), button, BM_GETIMAGE, IMAGE_ICON, 0));
+    }
+
+    TestWindow window_;
+    ButtonIcons icons_;
+};
+
+TEST_F(ButtonIconsTest, AButtonShowsTheIconInTheSizeOfTheScale) {
+    icons_.Show(Dialog(), 96, kFirstButton, IDI_SQUARE);
+    EXPECT_EQ(Look(ShownOn(kFirstButton)).widthPixels, 32);
+    EXPECT_EQ(Look(ShownOn(kFirstButton)).color, kOf32);
+    EXPECT_EQ(ShownOn(kSecondButton), nullptr);
+    icons_.Show(Dialog(), 144, kSecondButton, IDI_SQUARE);
+    EXPECT_EQ(Look(ShownOn(kSecondButton)).widthPixels, 48);
+    EXPECT_EQ(Look(ShownOn(kSecondButton)).color, kOf48);
+}
+
+TEST_F(ButtonIconsTest, TheIconBeforeIsDestroyed) {
+    icons_.Show(Dialog(), 96, kFirstButton, IDI_SQUARE);
+    const HICON before = ShownOn(kFirstButton);
+    icons_.Show(Dialog(), 96, kFirstButton, IDI_SQUARE);
+    EXPECT_NE(ShownOn(kFirstButton), before);
+    ICONINFO info = {};
+    EXPECT_FALSE(GetIconInfo(before, &info));
+}
+
+TEST_F(ButtonIconsTest, AnotherScaleLoadsEveryIconAgain) {
+    icons_.Show(Dialog(), 96, kFirstButton, IDI_SQUARE);
+    icons_.Show(Dialog(), 96, kSecondButton, IDI_SQUARE);
+    icons_.Rescale(Dialog(), 144);
+    for (const int button : {kFirstButton, kSecondButton}) {
+        EXPECT_EQ(Look(ShownOn(button)).color, kOf48) << button;
+    }
 }
 
 }  // namespace

@@ -136,6 +136,25 @@ TEST_F(ListViewTest, LongTextsStayWhole) {
     EXPECT_EQ(list_.RowText(5), L"") << "no such row";
 }
 
+TEST_F(ListViewTest, AColumnIsMadeInItsWidth) {
+    list_.InsertColumn(0, L"Name", 123);
+    list_.InsertColumn(0, L"Number", 45);
+    EXPECT_EQ(list_.ColumnWidth(0), 45);
+    EXPECT_EQ(list_.ColumnWidth(1), 123);
+}
+
+TEST_F(ListViewTest, AWidthThatAColumnHasIsNotSetAgain) {
+    list_.InsertColumn(0, L"Name", 100);
+    int settings = 0;
+    const MessageWatcher watcher(
+        list_.Window(), [&settings](UINT message) { settings += message == LVM_SETCOLUMNWIDTH ? 1 : 0; });
+    list_.SetColumnWidth(0, 100);
+    EXPECT_EQ(settings, 0);
+    list_.SetColumnWidth(0, 101);
+    EXPECT_EQ(settings, 1);
+    EXPECT_EQ(list_.ColumnWidth(0), 101);
+}
+
 TEST_F(ListViewTest, TheTextsOfAllColumnsAreAskedFor) {
     constexpr int kColumns = 9;
     for (int column = 0; column < kColumns; ++column) {
