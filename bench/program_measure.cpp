@@ -5,6 +5,7 @@
 #include <psapi.h>
 
 #include <stdexcept>
+#include <string>
 
 #include "bench/ratio.h"
 
@@ -19,7 +20,8 @@ class Process {
         startup.cb = sizeof startup;
         if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                            &startup, &information_) == FALSE) {
-            throw std::runtime_error("a program to be measured does not start");
+            throw std::runtime_error("a program to be measured does not start (system code " +
+                                     std::to_string(GetLastError()) + ")");
         }
     }
     Process(const Process&) = delete;

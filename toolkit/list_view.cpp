@@ -53,11 +53,14 @@ void ListView::MarkHeading(int column, HeadingMark mark) const {
     HDITEMW item = {};
     item.mask = HDI_FORMAT;
     SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    const int shown = item.fmt;
     item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
     if (mark != HeadingMark::kNone) {
         item.fmt |= mark == HeadingMark::kUp ? HDF_SORTUP : HDF_SORTDOWN;
     }
-    SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    if (item.fmt != shown) {
+        SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
+    }
 }
 
 int ListView::RowCount() const {

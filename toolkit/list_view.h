@@ -28,6 +28,7 @@ class ListView {
     void SetColumnWidth(int column, int widthPixels) const;
     [[nodiscard]] int ColumnWidth(int column) const;
     [[nodiscard]] int ClientWidth() const;
+    /// Nothing when the heading has this mark, so that it is not drawn again.
     void MarkHeading(int column, HeadingMark mark) const;
 
     [[nodiscard]] int RowCount() const;

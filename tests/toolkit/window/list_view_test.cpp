@@ -262,6 +262,19 @@ TEST_F(ListViewTest, AHeadingBearsOneMarkOrNone) {
     EXPECT_EQ(list_.ColumnWidth(0), 100);
 }
 
+TEST_F(ListViewTest, AMarkThatAHeadingHasIsNotSetAgain) {
+    AppendRows({L"one"});
+    const auto header = reinterpret_cast<HWND>(SendMessageW(list_.Window(), LVM_GETHEADER, 0, 0));
+    list_.MarkHeading(0, HeadingMark::kUp);
+    int settings = 0;
+    const MessageWatcher watcher(header,
+                                 [&settings](UINT message) { settings += message == HDM_SETITEMW ? 1 : 0; });
+    list_.MarkHeading(0, HeadingMark::kUp);
+    EXPECT_EQ(settings, 0);
+    list_.MarkHeading(0, HeadingMark::kDown);
+    EXPECT_EQ(settings, 1);
+}
+
 TEST_F(ListViewTest, CheckStatesAreOnOffOrNoRow) {
     list_.AddExtendedStyles(LVS_EX_CHECKBOXES);
     AppendRows({L"a", L"b"});
