@@ -1,5 +1,8 @@
 #include "certs/owner_list_view.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "toolkit/known_texts.h"
 
 namespace corvane {
@@ -17,36 +20,38 @@ constexpr toolkit::HeadingMark HeadingMarkFor(SortMark mark) {
     }
 }
 
-/// Sets a flag for as long as this object lives.
-class FlagSetter {
-  public:
-    explicit FlagSetter(bool& flag) : flag_(flag) { flag_ = true; }
-    FlagSetter(const FlagSetter&) = delete;
-    FlagSetter& operator=(const FlagSetter&) = delete;
-    FlagSetter(FlagSetter&&) = delete;
-    FlagSetter& operator=(FlagSetter&&) = delete;
-    ~FlagSetter() { flag_ = false; }
-
-  private:
-    bool& flag_;
-};
+/// Tells whether a text is, or begins with, the one that is looked for; upper and lower case are alike, as in
+/// every list view.
+bool IsFound(std::wstring_view text, std::wstring_view wanted, bool isBeginningEnough) {
+    if (isBeginningEnough) {
+        text = text.substr(0, wanted.size());
+    }
+    return CompareStringOrdinal(text.data(), static_cast<int>(text.size()), wanted.data(),
+                                static_cast<int>(wanted.size()), TRUE) == CSTR_EQUAL;
+}
 
 }  // namespace
 
+OwnerListView::OwnerListView(Source source)
+    : source_(std::move(source)),
+      checkBoxes_({.isChecked = [this](std::size_t row) { return source_.row(row).isChecked; },
+                   .check = source_.check}) {}
+
 void OwnerListView::Attach(HWND control, const std::wstring& heading) {
     list_.Attach(control);
-    list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
+    list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
+    checkBoxes_.Attach(control);
     list_.InsertColumn(0, heading);
 }
 
 OwnerListView::Place OwnerListView::CurrentPlace() const {
     Place place;
     for (const std::size_t row : SelectedRows()) {
-        place.selectedOwners.emplace_back(source_.row(row).owner);
+        place.selectedOwners.emplace_back(OwnerAt(row));
     }
     const int focused = list_.FocusedRow();
     if (focused >= 0) {
-        place.focusedOwner = source_.row(static_cast<std::size_t>(focused)).owner;
+        place.focusedOwner = OwnerAt(static_cast<std::size_t>(focused));
     }
     place.topRow = list_.TopRow();
     return place;
@@ -55,50 +60,17 @@ OwnerListView::Place OwnerListView::CurrentPlace() const {
 void OwnerListView::Show(const Place& place, SortMark mark) {
     {
         const toolkit::ListView::RedrawLock locked(list_);
-        const FlagSetter filling(isFilling_);
-        MakeRows(source_.count());
-        PutChecks();
+        const std::size_t count = source_.count();
+        // The row with the focus mark must not go: where arrow keys go on from would go with it.
+        if (list_.FocusedRow() >= static_cast<int>(count)) {
+            list_.MarkFocus(static_cast<int>(count) - 1);
+        }
+        list_.SetRowCount(count);
         RestoreMarks(place);
         list_.ScrollTo(place.topRow);
     }
     list_.MarkHeading(0, HeadingMarkFor(mark));
     FitColumn();
-}
-
-// Rows are alike but for their checks and marks, so as many as there are stay. Where most would have to go,
-// emptying the list is the shorter way: taking rows away one by one costs more than making them.
-void OwnerListView::MakeRows(std::size_t count) {
-    if (shownRows_.size() > count) {
-        const std::size_t surplus = shownRows_.size() - count;
-        if (surplus > count) {
-            list_.DeleteAllRows();
-            shownRows_.clear();
-        } else {
-            // The control scrolls in milliseconds: not once for each row that goes, because it was shown or
-            // because it hands its focus mark on to the one before it, but once for all.
-            if (list_.FocusedRow() >= static_cast<int>(count)) {
-                list_.MarkFocus(static_cast<int>(count) - 1);
-            }
-            list_.ScrollTo(0);
-            for (std::size_t row = shownRows_.size(); row > count; --row) {
-                list_.DeleteRow(static_cast<int>(row) - 1);
-            }
-        }
-    }
-    if (shownRows_.size() < count) {
-        list_.AppendRowsOnRequest(count - shownRows_.size());
-    }
-    shownRows_.resize(count);
-}
-
-void OwnerListView::PutChecks() {
-    for (std::size_t row = 0; row < shownRows_.size(); ++row) {
-        const bool isChecked = source_.row(row).isChecked;
-        if (isChecked != shownRows_[row].isChecked) {
-            list_.SetChecked(static_cast<int>(row), isChecked);
-            shownRows_[row].isChecked = isChecked;
-        }
-    }
 }
 
 // The control knows at once how many rows are selected, but looks at all of them to tell which.
@@ -116,8 +88,8 @@ void OwnerListView::RestoreMarks(const Place& place) const {
         selected.Add(owner);
     }
     auto nextSelected = selectedRows.begin();
-    for (std::size_t row = 0; row < shownRows_.size(); ++row) {
-        const std::wstring_view owner = source_.row(row).owner;
+    for (std::size_t row = 0; row < source_.count(); ++row) {
+        const std::wstring_view owner = OwnerAt(row);
         const bool isSelected = nextSelected != selectedRows.end() && *nextSelected == row;
         if (isSelected) {
             ++nextSelected;
@@ -141,27 +113,48 @@ void OwnerListView::FitColumn() const {
     }
 }
 
-std::optional<OwnerListView::CheckChange> OwnerListView::CheckChangeOf(const NMLISTVIEW& notification) {
-    const UINT changed = notification.uNewState ^ notification.uOldState;
-    if (isFilling_ || (notification.uChanged & LVIF_STATE) == 0 || (changed & LVIS_STATEIMAGEMASK) == 0 ||
-        notification.iItem < 0 || static_cast<std::size_t>(notification.iItem) >= shownRows_.size()) {
-        return std::nullopt;
+bool OwnerListView::Answer(NMHDR& header, LRESULT& result) {
+    if (header.code == LVN_GETDISPINFOW) {
+        AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header).item);
+        return true;
     }
-    const CheckChange change = {
-        .row = static_cast<std::size_t>(notification.iItem),
-        .isChecked = (notification.uNewState & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2U)};
-    shownRows_[change.row].isChecked = change.isChecked;
-    return change;
+    if (header.code == LVN_ODFINDITEMW) {
+        result = FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header));
+        return true;
+    }
+    return false;
 }
 
-void OwnerListView::AnswerDisplayRequest(NMLVDISPINFOW& request) {
-    if ((request.item.mask & LVIF_TEXT) == 0 || request.item.iItem < 0) {
+void OwnerListView::AnswerDisplayRequest(LVITEMW& item) {
+    if (item.iItem < 0 || static_cast<std::size_t>(item.iItem) >= source_.count()) {
         return;
     }
-    std::wstring& answer = answers_[nextAnswer_];
-    nextAnswer_ = (nextAnswer_ + 1) % answers_.size();
-    answer = source_.row(static_cast<std::size_t>(request.item.iItem)).owner;
-    request.item.pszText = answer.data();
+    checkBoxes_.AnswerDisplayRequest(item);
+    if ((item.mask & LVIF_TEXT) != 0) {
+        std::wstring& answer = answers_[nextAnswer_];
+        nextAnswer_ = (nextAnswer_ + 1) % answers_.size();
+        answer = OwnerAt(static_cast<std::size_t>(item.iItem));
+        item.pszText = answer.data();
+    }
+}
+
+int OwnerListView::FindRow(const NMLVFINDITEMW& search) const {
+    constexpr UINT kByText = LVFI_STRING | LVFI_PARTIAL;
+    const std::size_t count = source_.count();
+    if ((search.lvfi.flags & kByText) == 0 || search.lvfi.psz == nullptr) {
+        return -1;
+    }
+    const std::wstring_view wanted = search.lvfi.psz;
+    const bool isBeginningEnough = (search.lvfi.flags & LVFI_PARTIAL) != 0;
+    const std::size_t start = search.iStart > 0 ? static_cast<std::size_t>(search.iStart) : 0;
+    const std::size_t passed = (search.lvfi.flags & LVFI_WRAP) != 0 ? std::min(start, count) : 0;
+    for (std::size_t step = start; step < count + passed; ++step) {
+        const std::size_t row = step < count ? step : step - count;
+        if (IsFound(OwnerAt(row), wanted, isBeginningEnough)) {
+            return static_cast<int>(row);
+        }
+    }
+    return -1;
 }
 
 }  // namespace corvane

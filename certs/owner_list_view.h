@@ -5,23 +5,25 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "certs/recipient_selection_form.h"
+#include "toolkit/kept_check_boxes.h"
 #include "toolkit/list_view.h"
 
 namespace corvane {
 
-/// A list of certificate owners with check boxes, in one column. Its rows hold no texts; the control asks for
-/// one when it needs it, and a row that stays a row is not made anew, so that a keystroke in the filter of
-/// 20,000 owners takes no longer than a blink. The check marks live in the control, where other programs can
-/// read and set them.
+/// A list of certificate owners with check boxes, in one column. The control holds no rows (LVS_OWNERDATA):
+/// it asks for the text and the check mark of a row when it draws it, so that 20,000 owners are listed,
+/// filtered and sorted in the time that it takes to draw those in view.
 class OwnerListView {
   public:
-    /// What the list shows at the moment.
+    /// What the list shows at the moment, and where a row goes that is checked or unchecked.
     struct Source {
         std::function<std::size_t()> count;
-        std::function<OwnerRow(std::size_t)> row;
+        std::function<OwnerRow(std::size_t row)> row;
+        std::function<void(std::size_t row, bool isChecked)> check;
     };
 
     /// What the user would miss after the rows have changed: the owners that are selected, the one with the
@@ -32,7 +34,7 @@ class OwnerListView {
         int topRow = 0;
     };
 
-    explicit OwnerListView(Source source) : source_(std::move(source)) {}
+    explicit OwnerListView(Source source);
 
     /// Takes over the control and makes its column.
     void Attach(HWND control, const std::wstring& heading);
@@ -44,34 +46,22 @@ class OwnerListView {
     /// Makes the column as wide as the client area.
     void FitColumn() const;
 
-    /// A row that the user, or another program, checked or unchecked.
-    struct CheckChange {
-        std::size_t row = 0;
-        bool isChecked = false;
-    };
-    /// The change that a notification tells of (LVN_ITEMCHANGED); none where it is about something else or
-    /// comes from Show.
-    [[nodiscard]] std::optional<CheckChange> CheckChangeOf(const NMLISTVIEW& notification);
-    /// Answers the control's question for a row's text (LVN_GETDISPINFO).
-    void AnswerDisplayRequest(NMLVDISPINFOW& request);
+    /// Answers the control's question for a row (LVN_GETDISPINFO) or a search for one (LVN_ODFINDITEM). True
+    /// when it was one of them; `result` is then the answer.
+    bool Answer(NMHDR& header, LRESULT& result);
 
     [[nodiscard]] const toolkit::ListView& Control() const { return list_; }
 
   private:
-    /// What a row of the control looks like.
-    struct ShownRow {
-        bool isChecked = false;
-    };
-
-    void MakeRows(std::size_t count);
-    void PutChecks();
+    void AnswerDisplayRequest(LVITEMW& item);
+    [[nodiscard]] int FindRow(const NMLVFINDITEMW& search) const;
+    [[nodiscard]] std::wstring_view OwnerAt(std::size_t row) const { return source_.row(row).owner; }
     [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
     void RestoreMarks(const Place& place) const;
 
     Source source_;
     toolkit::ListView list_;
-    std::vector<ShownRow> shownRows_;
-    bool isFilling_ = false;
+    toolkit::KeptCheckBoxes checkBoxes_;
     // An answered text must outlive the next two questions.
     std::array<std::wstring, 4> answers_;
     std::size_t nextAnswer_ = 0;

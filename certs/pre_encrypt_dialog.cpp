@@ -72,10 +72,13 @@ CPreEncryptDlg::CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const C
       context_(context),
       reporter_(reporter),
       files_(files),
-      foundList_({[&form] { return form.FoundRowCount(); },
-                  [&form](std::size_t row) { return form.FoundRow(row); }}),
-      chosenList_({[&form] { return form.ChosenRowCount(); },
-                   [&form](std::size_t row) { return form.ChosenRow(row); }}) {}
+      foundList_({.count = [&form] { return form.FoundRowCount(); },
+                  .row = [&form](std::size_t row) { return form.FoundRow(row); },
+                  .check = [&form](std::size_t row, bool isChecked) { form.CheckFound(row, isChecked); }}),
+      chosenList_({.count = [&form] { return form.ChosenRowCount(); },
+                   .row = [&form](std::size_t row) { return form.ChosenRow(row); },
+                   .check = [&form](std::size_t row, bool isChecked) { form.CheckChosen(row, isChecked); }}) {
+}
 
 bool CPreEncryptDlg::OnInitDialog() {
     SetUpControls();
@@ -188,23 +191,16 @@ bool CPreEncryptDlg::Press(int buttonId) {
     }
 }
 
-bool CPreEncryptDlg::OnNotify(NMHDR& header, LRESULT& /*result*/) {
+bool CPreEncryptDlg::OnNotify(NMHDR& header, LRESULT& result) {
     if (header.hwndFrom == foundList_.Control().Window()) {
-        return OnFoundNotification(header);
+        return foundList_.Answer(header, result) || OnFoundNotification(header);
     }
-    return header.hwndFrom == chosenList_.Control().Window() && OnChosenNotification(header);
+    return header.hwndFrom == chosenList_.Control().Window() &&
+           (chosenList_.Answer(header, result) || OnChosenNotification(header));
 }
 
-bool CPreEncryptDlg::OnFoundNotification(NMHDR& header) {
+bool CPreEncryptDlg::OnFoundNotification(const NMHDR& header) {
     switch (header.code) {
-        case LVN_GETDISPINFOW:
-            foundList_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
-            return true;
-        case LVN_ITEMCHANGED:
-            if (const auto change = foundList_.CheckChangeOf(reinterpret_cast<const NMLISTVIEW&>(header))) {
-                form_.CheckFound(change->row, change->isChecked);
-            }
-            return true;
         case LVN_COLUMNCLICK:
             ChangeFound([this] { form_.ClickFoundHeader(); });
             return true;
@@ -218,16 +214,8 @@ bool CPreEncryptDlg::OnFoundNotification(NMHDR& header) {
     }
 }
 
-bool CPreEncryptDlg::OnChosenNotification(NMHDR& header) {
+bool CPreEncryptDlg::OnChosenNotification(const NMHDR& header) {
     switch (header.code) {
-        case LVN_GETDISPINFOW:
-            chosenList_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
-            return true;
-        case LVN_ITEMCHANGED:
-            if (const auto change = chosenList_.CheckChangeOf(reinterpret_cast<const NMLISTVIEW&>(header))) {
-                form_.CheckChosen(change->row, change->isChecked);
-            }
-            return true;
         case LVN_COLUMNCLICK:
             ChangeChosen([this] { form_.ClickChosenHeader(); });
             return true;

@@ -40,8 +40,8 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     void FitColumns() const;
     void ShowIcons();
     bool Press(int buttonId);
-    bool OnFoundNotification(NMHDR& header);
-    bool OnChosenNotification(NMHDR& header);
+    bool OnFoundNotification(const NMHDR& header);
+    bool OnChosenNotification(const NMHDR& header);
 
     /// Makes a change of the form, then shows what a list holds now.
     void ChangeFound(const std::function<void()>& change);

@@ -87,6 +87,10 @@ void ListView::AppendRowsOnRequest(std::size_t count) const {
     }
 }
 
+void ListView::SetRowCount(std::size_t count) const {
+    Send(LVM_SETITEMCOUNT, count);
+}
+
 void ListView::DeleteRow(int row) const {
     Send(LVM_DELETEITEM, static_cast<WPARAM>(row));
 }

@@ -37,6 +37,8 @@ class ListView {
     /// Appends `count` rows whose texts, those of all columns, are asked for when they are needed
     /// (LVN_GETDISPINFO).
     void AppendRowsOnRequest(std::size_t count) const;
+    /// Tells a list that holds no rows of its own (LVS_OWNERDATA) how many it shows.
+    void SetRowCount(std::size_t count) const;
     void DeleteRow(int row) const;
     void DeleteAllRows() const;
     void SetRowText(int row, const std::wstring& text) const;

@@ -35,6 +35,17 @@ class SelectionLists : public SelectionTest {
         header.Send(HDM_GETITEMW, 0, block.Parameter());
         return block.Get<HDITEMW>().fmt & (HDF_SORTUP | HDF_SORTDOWN);
     }
+    /// The first row that the upper list's own search finds (LVM_FINDITEM).
+    [[nodiscard]] int FindOwner(UINT flags, const std::wstring& text) const {
+        driver::RemoteBlock block(Found().Handle(),
+                                  sizeof(LVFINDINFOW) + (text.size() + 1) * sizeof(wchar_t));
+        LVFINDINFOW search{};
+        search.flags = flags;
+        search.psz = static_cast<const wchar_t*>(block.Address(sizeof search));
+        block.Put(search);
+        block.Write(text.c_str(), (text.size() + 1) * sizeof(wchar_t), sizeof search);
+        return static_cast<int>(Found().Send(LVM_FINDITEMW, static_cast<WPARAM>(-1), block.Parameter()));
+    }
 };
 
 TEST_F(SelectionLists, FromLocalStoreAddsTheOwnersThatAreNotThere) {
@@ -106,6 +117,38 @@ TEST_F(SelectionLists, TheSpaceKeyChecksTheFocusedOwner) {
     Found().PostKey(VK_SPACE);
     SettleDialog();
     EXPECT_EQ(Found().Checks(), (Checks{false, false, true, false}));
+}
+
+TEST_F(SelectionLists, AMarkIsSetAndReadByMessageLikeThatOfAnyList) {
+    OpenWithFourFound();
+    Found().SetChecked(3, true);
+    Found().SetChecked(0, true);
+    Found().SetChecked(0, false);
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, true}));
+    Press(IDC_SELECTION_ADD_BUTTON);
+    EXPECT_EQ(Chosen().Column(0), Texts{kNovak});
+    Chosen().SetChecked(0, true);
+    Press(IDC_SELECTION_REMOVE_BUTTON);
+    EXPECT_EQ(Chosen().RowCount(), 0);
+}
+
+TEST_F(SelectionLists, AnOwnerIsFoundByItsTextLikeInAnyList) {
+    OpenWithFourFound();
+    EXPECT_EQ(FindOwner(LVFI_STRING, L"cn=bell,c=us"), 2);
+    EXPECT_EQ(FindOwner(LVFI_STRING, L"CN=Bell"), -1) << "the whole text is wanted";
+    EXPECT_EQ(FindOwner(LVFI_STRING | LVFI_PARTIAL, L"CN=Bell"), 2);
+    EXPECT_EQ(FindOwner(LVFI_STRING | LVFI_PARTIAL, L"CN="), 0);
+    EXPECT_EQ(FindOwner(LVFI_STRING | LVFI_PARTIAL, L"CN=nobody"), -1);
+}
+
+TEST_F(SelectionLists, TypedLettersGoToTheOwnerThatBeginsWithThem) {
+    OpenWithFourFound();
+    Found().Select({0});
+    for (const wchar_t letter : std::wstring(L"cn=b")) {
+        Found().Send(WM_CHAR, letter, 1);
+    }
+    Found().WaitForSelection({2});
+    EXPECT_EQ(Found().FocusedRow(), 2);
 }
 
 TEST_F(SelectionLists, DeleteAllAsksAndNoKeepsTheList) {
