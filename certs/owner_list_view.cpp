@@ -62,7 +62,7 @@ void OwnerListView::Show(const Place& place, SortMark mark) {
         const toolkit::ListView::RedrawLock locked(list_);
         const std::size_t count = source_.count();
         // The row with the focus mark must not go: where arrow keys go on from would go with it.
-        if (list_.FocusedRow() >= static_cast<int>(count)) {
+        if (count > 0 && list_.FocusedRow() >= static_cast<int>(count)) {
             list_.MarkFocus(static_cast<int>(count) - 1);
         }
         list_.SetRowCount(count);
@@ -88,7 +88,7 @@ void OwnerListView::RestoreMarks(const Place& place) const {
         selected.Add(owner);
     }
     auto nextSelected = selectedRows.begin();
-    for (std::size_t row = 0; row < source_.count(); ++row) {
+    for (std::size_t row = 0, count = source_.count(); row < count; ++row) {
         const std::wstring_view owner = OwnerAt(row);
         const bool isSelected = nextSelected != selectedRows.end() && *nextSelected == row;
         if (isSelected) {

@@ -93,7 +93,7 @@ TEST_F(WaitWindowTest, LeavesTheFocusWhereItWas) {
     const Window button = dialog.Control(IDC_SIGNER_LISTS_ADD_BUTTON);
     button.PostLeftClick({5, 5});
     static_cast<void>(WaitForWaitWindow(Program()));
-    EXPECT_TRUE(button.HasFocus());
+    button.WaitForFocus();
     held.Release();
     WaitForWarningBox(dialog).Control(IDCANCEL).PostClick();
     button.WaitForFocus();

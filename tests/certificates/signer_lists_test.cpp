@@ -90,7 +90,7 @@ TEST_F(SignerListsTest, ShowsTheListsWithTheirSigners) {
     EXPECT_EQ(driver::Utf8(Button(IDC_SIGNER_LISTS_DELETE_BUTTON).Text()), "Delete");
     EXPECT_EQ(driver::Utf8(Button(IDCANCEL).Text()), "Exit");
     EXPECT_TRUE(List().SelectedRows().empty());
-    EXPECT_TRUE(List().HasFocus());
+    List().WaitForFocus();
     EXPECT_TRUE(Calls().empty()) << "no cryptocontext is needed to look at the lists";
 }
 

@@ -136,7 +136,7 @@ TEST_F(Configurations, HasIconsTipsTabOrderAndOkAsItsDefault) {
     order.insert(order.end(), {IDC_CONFIG_ADDITIONAL_LIST, IDC_CONFIG_ADD_BUTTON, IDC_CONFIG_DELETE_BUTTON,
                                IDOK, IDCANCEL, IDC_CONFIG_APPLY_BUTTON});
     EXPECT_EQ(TabStops(dialog), order);
-    EXPECT_TRUE(dialog.Control(IDC_CONFIG_SIGNED_EDIT).HasFocus());
+    dialog.Control(IDC_CONFIG_SIGNED_EDIT).WaitForFocus();
     Close(dialog, IDCANCEL);
 }
 
@@ -230,7 +230,7 @@ TEST_F(Configurations, ApplyRefusesAnEmptyExtensionAndTakesNothing) {
         if (extension.refusal != nullptr) {
             dialog.Control(IDC_CONFIG_APPLY_BUTTON).PostClick();
             AnswerBox(dialog, extension.refusal, kRefusal, IDOK);
-            EXPECT_TRUE(dialog.Control(extension.editId).HasFocus());
+            dialog.Control(extension.editId).WaitForFocus();
             dialog.Control(extension.editId).SetText(L"x");
         }
     }
@@ -325,7 +325,7 @@ TEST_F(Configurations, TheExtensionDialogShowsItsTextTwice) {
     EXPECT_EQ(add.Control(IDCANCEL).Text(), L"Exit");
     EXPECT_EQ(LOWORD(add.Send(DM_GETDEFID)), IDOK);
     EXPECT_EQ(TabStops(add), (std::vector<int>{IDC_EXTENSION_EDIT, IDOK, IDCANCEL}));
-    EXPECT_TRUE(add.Control(IDC_EXTENSION_EDIT).HasFocus());
+    add.Control(IDC_EXTENSION_EDIT).WaitForFocus();
     add.Control(IDC_EXTENSION_EDIT).SetText(L"new");
     add.FocusOfThread().PostKey(VK_ESCAPE);
     add.WaitUntilGone();

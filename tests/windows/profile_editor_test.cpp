@@ -155,7 +155,7 @@ TEST_F(ProfileEditor, OpensByMenuAndDoubleClickToo) {
 TEST_F(ProfileEditor, TheTabKeyFollowsTheOrderOfReading) {
     StartWithSample();
     const Window dialog = OpenNew();
-    EXPECT_TRUE(dialog.Control(IDC_PROFILE_NAME_EDIT).HasFocus());
+    dialog.Control(IDC_PROFILE_NAME_EDIT).WaitForFocus();
     const std::vector<int> always = {IDC_PROFILE_NAME_EDIT,
                                      IDC_PROFILE_CS_PROFILE_LIST,
                                      IDC_PROFILE_ADD_CS_PROFILE_BUTTON,

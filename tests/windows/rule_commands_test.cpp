@@ -33,8 +33,7 @@ class RuleCommands : public EditorTest, public ::testing::WithParamInterface<Rou
     void ExpectOrder(const std::vector<int>& order) const { EXPECT_EQ(ShownRules(), Descriptions(order)); }
     void ExpectSelected(int row) const {
         EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{row});
-        EXPECT_TRUE(Rules().HasFocus())
-            << "the focus is on " << ::testing::PrintToString(Main().FocusOfThread().Id());
+        Rules().WaitForFocus();
     }
 };
 

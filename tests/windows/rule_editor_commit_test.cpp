@@ -184,7 +184,7 @@ TEST_F(RuleEditorCommit, AnEditedRuleIsSelectedFocusedAndInView) {
     EXPECT_EQ(Rules().Cell(kMove, kDescriptionColumn), L"Moved by hand");
     EXPECT_EQ(Rules().Cell(kMove, kExtraColumn), L"tmp; done");
     EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{kMove});
-    EXPECT_TRUE(Rules().HasFocus());
+    Rules().WaitForFocus();
     EXPECT_TRUE(Rules().IsChecked(kMove));
     ExpectUnsavedChanges();
 }

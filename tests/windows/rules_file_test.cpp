@@ -162,7 +162,7 @@ TEST_F(RulesFile, ImportAppendsTheRulesSelectsTheLastAndHasToBeSaved) {
         }
     }
     EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{7});
-    EXPECT_TRUE(Rules().HasFocus());
+    Rules().WaitForFocus();
     EXPECT_TRUE(Rules().IsInView(7));
     EXPECT_EQ(Rules().Checks(), (std::vector<bool>{true, false, true, false, true, false, true, false}));
     ExpectUnsavedChanges();
