@@ -64,6 +64,12 @@ bool Program::IsRunning() const {
     return WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT;
 }
 
+std::wstring Program::HowItEnded() const {
+    DWORD code = 0;
+    GetExitCodeProcess(process_.get(), &code);
+    return L"the program has ended with code " + std::to_wstring(code) + L".";
+}
+
 DWORD Program::WaitForEnd() const {
     if (WaitForSingleObject(process_.get(), kLimitMilliseconds) != WAIT_OBJECT_0) {
         std::wstring open;
@@ -115,7 +121,7 @@ Window Program::WaitForWindow(const Window& owner) const {
     if (found.Handle() == nullptr) {
         throw Failure(L"A window of the program was expected (" +
                       (owner.Handle() == nullptr ? L"without owner" : L"owned by " + owner.Name()) +
-                      (IsRunning() ? L"), and none came." : L"), but the program has ended."));
+                      (IsRunning() ? L"), and none came." : L"), but " + HowItEnded()));
     }
     return found;
 }
@@ -131,8 +137,8 @@ Window Program::WaitForAnyWindow() const {
         return found.Handle() != nullptr || !IsRunning();
     }));
     if (found.Handle() == nullptr) {
-        throw Failure(IsRunning() ? L"A window of the program was expected, and none came."
-                                  : L"A window of the program was expected, but the program has ended.");
+        throw Failure(L"A window of the program was expected, " +
+                      (IsRunning() ? L"and none came." : L"but " + HowItEnded()));
     }
     return found;
 }

@@ -41,6 +41,8 @@ class Program {
     [[nodiscard]] MessageBoxWindow WaitForMessageBox(const Window& owner) const;
 
   private:
+    /// For failure messages: that the program has ended, and with which code.
+    [[nodiscard]] std::wstring HowItEnded() const;
     [[nodiscard]] Window FindWindowOf(const Window& owner) const;
 
     UniqueHandle process_;
