@@ -1,9 +1,9 @@
 #include "certs/owner_list_view.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "toolkit/known_texts.h"
+#include "toolkit/row_search.h"
 
 namespace corvane {
 
@@ -140,21 +140,14 @@ void OwnerListView::AnswerDisplayRequest(LVITEMW& item) {
 
 int OwnerListView::FindRow(const NMLVFINDITEMW& search) const {
     constexpr UINT kByText = LVFI_STRING | LVFI_PARTIAL;
-    const std::size_t count = source_.count();
     if ((search.lvfi.flags & kByText) == 0 || search.lvfi.psz == nullptr) {
         return -1;
     }
     const std::wstring_view wanted = search.lvfi.psz;
     const bool isBeginningEnough = (search.lvfi.flags & LVFI_PARTIAL) != 0;
-    const std::size_t start = search.iStart > 0 ? static_cast<std::size_t>(search.iStart) : 0;
-    const std::size_t passed = (search.lvfi.flags & LVFI_WRAP) != 0 ? std::min(start, count) : 0;
-    for (std::size_t step = start; step < count + passed; ++step) {
-        const std::size_t row = step < count ? step : step - count;
-        if (IsFound(OwnerAt(row), wanted, isBeginningEnough)) {
-            return static_cast<int>(row);
-        }
-    }
-    return -1;
+    return toolkit::FirstRowFound(
+        source_.count(), search.iStart, (search.lvfi.flags & LVFI_WRAP) != 0,
+        [&](std::size_t row) { return IsFound(OwnerAt(row), wanted, isBeginningEnough); });
 }
 
 }  // namespace corvane
