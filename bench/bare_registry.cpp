@@ -3,15 +3,15 @@
 #include <windows.h>
 
 #include <array>
+#include <span>
 #include <string>
-#include <string_view>
+#include <variant>
 #include <vector>
 
 #include "config/registry_layout.h"
 
 namespace {
 
-using corvane::StoredAs;
 using corvane::StoredValue;
 
 constexpr REGSAM kAccess = 0x2001F;
@@ -73,17 +73,17 @@ class BareReader {
         }
     }
 
-    template <typename Layout>
-    void Read(HKEY key, const Layout& layout) {
+    template <typename Record>
+    void Read(HKEY key, std::span<const StoredValue<Record>> layout) {
         DWORD count = 0;
-        for (const auto& row : layout) {
-            if (row.storedAs == StoredAs::kElements) {
+        for (const StoredValue<Record>& row : layout) {
+            if (std::holds_alternative<corvane::StoredElements<Record>>(row.kind)) {
                 for (DWORD index = 0; index < count; ++index) {
                     Query(key, corvane::ElementName(row.name, index).c_str());
                 }
-            } else if (row.storedAs != StoredAs::kOldElement || count == 0) {
-                Query(key, row.name.Literal());
-                if (row.storedAs == StoredAs::kCount) {
+            } else if (!std::holds_alternative<corvane::StoredOldElement<Record>>(row.kind) || count == 0) {
+                Query(key, row.name);
+                if (std::holds_alternative<corvane::StoredCount<Record>>(row.kind)) {
                     count = buffer_[0];  // The sample has fewer than 256 of anything.
                 }
             }
@@ -138,34 +138,42 @@ std::wstring Joined(const corvane::NumberList& list) {
     return joined;
 }
 
+/// Writes one value of a record the way its kind wants it.
+template <typename Record>
+struct ValueWriter {
+    HKEY key;
+    const wchar_t* name;
+    const Record& record;
+
+    void operator()(const corvane::StoredNumber<Record>& number) const {
+        SetNumber(key, name, record.*number.field);
+    }
+    void operator()(const corvane::StoredText<Record>& text) const { SetText(key, name, record.*text.field); }
+    void operator()(const corvane::StoredTextList<Record>& list) const {
+        SetText(key, name, Joined(record.*list.field), REG_MULTI_SZ);
+    }
+    void operator()(const corvane::StoredTextArray<Record>& array) const {
+        SetText(key, name, Joined(record.*array.field), REG_MULTI_SZ);
+    }
+    void operator()(const corvane::StoredNumberList<Record>& list) const {
+        SetText(key, name, Joined(record.*list.field), REG_MULTI_SZ);
+    }
+    void operator()(const corvane::StoredCount<Record>& count) const {
+        SetNumber(key, name, static_cast<std::int32_t>((record.*count.field).size()));
+    }
+    void operator()(const corvane::StoredElements<Record>& elements) const {
+        const corvane::TextList& list = record.*elements.field;
+        for (std::size_t index = 0; index < list.size(); ++index) {
+            SetText(key, corvane::ElementName(name, index).c_str(), list[index]);
+        }
+    }
+    void operator()(const corvane::StoredOldElement<Record>& /*old*/) const {}
+};
+
 template <typename Record>
 void Write(HKEY key, std::span<const StoredValue<Record>> layout, const Record& record) {
     for (const StoredValue<Record>& row : layout) {
-        switch (row.storedAs) {
-            case StoredAs::kNumber:
-                SetNumber(key, row.name.Literal(), record.*row.number);
-                break;
-            case StoredAs::kText:
-                SetText(key, row.name.Literal(), record.*row.text);
-                break;
-            case StoredAs::kTextList:
-            case StoredAs::kTextArray:
-                SetText(key, row.name.Literal(), Joined(record.*row.texts), REG_MULTI_SZ);
-                break;
-            case StoredAs::kNumberList:
-                SetText(key, row.name.Literal(), Joined(record.*row.numbers), REG_MULTI_SZ);
-                break;
-            case StoredAs::kCount:
-                SetNumber(key, row.name.Literal(), static_cast<std::int32_t>((record.*row.texts).size()));
-                break;
-            case StoredAs::kElements:
-                for (std::size_t index = 0; index < (record.*row.texts).size(); ++index) {
-                    SetText(key, corvane::ElementName(row.name, index).c_str(), (record.*row.texts)[index]);
-                }
-                break;
-            case StoredAs::kOldElement:
-                break;
-        }
+        std::visit(ValueWriter<Record>{key, row.name, record}, row.kind);
     }
 }
 

@@ -10,104 +10,73 @@ namespace corvane {
 namespace {
 
 // ReportError's flags. Both show the report; which value has which is part of the layout.
-constexpr std::uint8_t kShow = 1;
-constexpr std::uint8_t kShowThree = 3;
+constexpr std::uint32_t kShow = 1;
+constexpr std::uint32_t kShowThree = 3;
 
 template <typename Record>
-constexpr StoredValue<Record> Number(ValueName name, std::int32_t Record::*field, std::int32_t defaultNumber,
-                                     std::uint8_t loadFlags, std::uint8_t saveFlags) {
-    return {{.name = name,
-             .defaultNumber = defaultNumber,
-             .storedAs = StoredAs::kNumber,
-             .loadFlags = loadFlags,
-             .saveFlags = saveFlags},
-            {.number = field}};
+constexpr StoredValue<Record> Number(const wchar_t* name, std::int32_t Record::*field,
+                                     std::uint32_t loadFlags, std::uint32_t saveFlags) {
+    return {name, StoredNumber<Record>{field}, loadFlags, saveFlags};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Text(ValueName name, std::wstring Record::*field, const wchar_t* defaultText,
-                                   std::uint8_t loadFlags, std::uint8_t saveFlags) {
-    return {{.name = name,
-             .defaultText = defaultText,
-             .storedAs = StoredAs::kText,
-             .loadFlags = loadFlags,
-             .saveFlags = saveFlags},
-            {.text = field}};
+constexpr StoredValue<Record> Text(const wchar_t* name, std::wstring Record::*field, std::uint32_t loadFlags,
+                                   std::uint32_t saveFlags) {
+    return {name, StoredText<Record>{field}, loadFlags, saveFlags};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> List(ValueName name, TextList Record::*field,
-                                   StoredAs storedAs = StoredAs::kTextList) {
-    return {{.name = name, .defaultNumber = 0, .storedAs = storedAs}, {}, field};
+constexpr StoredValue<Record> List(const wchar_t* name, TextList Record::*field) {
+    return {name, StoredTextList<Record>{field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> List(ValueName name, NumberList Record::*field) {
-    return {{.name = name, .defaultNumber = 0, .storedAs = StoredAs::kNumberList}, {.numbers = field}};
+constexpr StoredValue<Record> List(const wchar_t* name, NumberList Record::*field) {
+    return {name, StoredNumberList<Record>{field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Count(ValueName name, TextList Record::*field, std::uint8_t saveFlags) {
-    return {{.name = name,
-             .defaultNumber = 0,
-             .storedAs = StoredAs::kCount,
-             .loadFlags = kShowThree,
-             .saveFlags = saveFlags},
-            {},
-            field};
+constexpr StoredValue<Record> Count(const wchar_t* name, TextList Record::*field, std::uint32_t saveFlags) {
+    return {name, StoredCount<Record>{field}, kShowThree, saveFlags};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Elements(ValueName prefix, TextList Record::*field) {
-    return {{.name = prefix,
-             .defaultNumber = 0,
-             .storedAs = StoredAs::kElements,
-             .loadFlags = kShowThree,
-             .saveFlags = kShow},
-            {},
-            field};
+constexpr StoredValue<Record> Elements(const wchar_t* prefix, TextList Record::*field) {
+    return {prefix, StoredElements<Record>{field}, kShowThree, kShow};
 }
 
-template <typename Record>
-constexpr StoredValue<Record> OldElement(ValueName name, std::wstring Record::*field,
-                                         TextList Record::*list) {
-    return {{.name = name, .defaultText = L"", .storedAs = StoredAs::kOldElement, .loadFlags = kShowThree},
-            {.text = field},
-            list};
+constexpr StoredValue<Rule> RuleText(const wchar_t* name, std::wstring Rule::*field) {
+    return Text(name, field, kShowThree, kShowThree);
 }
 
-constexpr StoredValue<Rule> RuleText(ValueName name, std::wstring Rule::*field) {
-    return Text(name, field, L"", kShowThree, kShowThree);
-}
-
-constexpr StoredValue<Rule> RuleNumber(ValueName name, std::int32_t Rule::*field) {
-    return Number(name, field, 0, kShowThree, kShowThree);
+constexpr StoredValue<Rule> RuleNumber(const wchar_t* name, std::int32_t Rule::*field) {
+    return Number(name, field, kShowThree, kShowThree);
 }
 
 constexpr std::array kProviderProfileRows{
-    Text(L"ProfileName", &ProviderProfile::displayName, L"", kShow, 0),
+    Text(L"ProfileName", &ProviderProfile::displayName, kShow, 0),
 };
 
 constexpr std::array kWindowRows{
-    Number(L"Window_top", &WindowRectangle::top, 0, kShow, kShow),
-    Number(L"Window_bottom", &WindowRectangle::bottom, 0, kShow, kShow),
-    Number(L"Window_left", &WindowRectangle::left, 0, kShow, kShow),
-    Number(L"Window_right", &WindowRectangle::right, 0, kShow, kShow),
+    Number(L"Window_top", &WindowRectangle::top, kShow, kShow),
+    Number(L"Window_bottom", &WindowRectangle::bottom, kShow, kShow),
+    Number(L"Window_left", &WindowRectangle::left, kShow, kShow),
+    Number(L"Window_right", &WindowRectangle::right, kShow, kShow),
 };
 
 constexpr std::array kSettingsRows{
-    Text(L"SigExt", &AppSettings::signedExtension, L"p7s", kShow, kShow),
-    Text(L"DsigExt", &AppSettings::detachedSignatureExtension, L"p7d", kShow, kShow),
-    Text(L"EncExt", &AppSettings::encryptedExtension, L"p7e", kShow, kShow),
-    Text(L"B64Ext", &AppSettings::base64Extension, L"b64", kShow, kShow),
-    Text(L"HashExt", &AppSettings::hashExtension, L"hsh", kShow, kShow),
-    Text(L"VerifyFileExt", &AppSettings::verificationExtension, L"vrf", kShow, kShow),
-    Text(L"ZIPArchiveExt", &AppSettings::zipExtension, L"zip", kShow, kShow),
-    Text(L"GZIPArchiveExt", &AppSettings::gzipExtension, L"gz", kShow, kShow),
-    List(L"ExtExt", &AppSettings::additionalExtensions, StoredAs::kTextArray),
-    Text(L"LogPath", &AppSettings::logPath, L"", kShowThree, kShow),
+    Text(L"SigExt", &AppSettings::signedExtension, kShow, kShow),
+    Text(L"DsigExt", &AppSettings::detachedSignatureExtension, kShow, kShow),
+    Text(L"EncExt", &AppSettings::encryptedExtension, kShow, kShow),
+    Text(L"B64Ext", &AppSettings::base64Extension, kShow, kShow),
+    Text(L"HashExt", &AppSettings::hashExtension, kShow, kShow),
+    Text(L"VerifyFileExt", &AppSettings::verificationExtension, kShow, kShow),
+    Text(L"ZIPArchiveExt", &AppSettings::zipExtension, kShow, kShow),
+    Text(L"GZIPArchiveExt", &AppSettings::gzipExtension, kShow, kShow),
+    StoredValue<AppSettings>{L"ExtExt", StoredTextArray<AppSettings>{&AppSettings::additionalExtensions}},
+    Text(L"LogPath", &AppSettings::logPath, kShowThree, kShow),
     // Raised to kSmallestLogFileSize after reading.
-    Number(L"Log filesize", &AppSettings::logFileSize, 4000, kShow, kShow),
+    Number(L"Log filesize", &AppSettings::logFileSize, kShow, kShow),
 };
 
 constexpr std::array kProfileRows{
@@ -123,12 +92,12 @@ constexpr std::array kProfileRows{
     List(L"NotLoadCrl", &Profile::notLoadCrl),
     // Padded with 1 to the length of "NotLoadCrl" after reading, for profiles from before it existed.
     List(L"CrlUpdatePeriod", &Profile::crlUpdatePeriods),
-    Number(L"Verify File", &Profile::verifyFile, 0, kShowThree, kShowThree),
-    Number(L"Verify x file", &Profile::verifyXFile, 0, kShowThree, kShowThree),
-    Number(L"Verify det file", &Profile::verifyDetachedFile, 0, kShowThree, kShowThree),
-    Number(L"Verify resign file", &Profile::verifyResignFile, 0, kShowThree, kShowThree),
-    Number(L"Handler timeout", &Profile::handlerTimeout, 15, kShow, kShowThree),
-    Number(L"Rename conf files", &Profile::renameConfFiles, 0, kShow, kShowThree),
+    Number(L"Verify File", &Profile::verifyFile, kShowThree, kShowThree),
+    Number(L"Verify x file", &Profile::verifyXFile, kShowThree, kShowThree),
+    Number(L"Verify det file", &Profile::verifyDetachedFile, kShowThree, kShowThree),
+    Number(L"Verify resign file", &Profile::verifyResignFile, kShowThree, kShowThree),
+    Number(L"Handler timeout", &Profile::handlerTimeout, kShow, kShowThree),
+    Number(L"Rename conf files", &Profile::renameConfFiles, kShow, kShowThree),
 };
 
 constexpr std::array kRuleRows{
@@ -151,7 +120,7 @@ constexpr std::array kRuleRows{
     Count(L"Mask num", &Rule::masks, kShowThree),
     Elements(L"M", &Rule::masks),
     // From configurations whose rules had one mask each. So a rule without masks loads with one.
-    OldElement(L"Mask", &Rule::legacyMask, &Rule::masks),
+    StoredValue<Rule>{L"Mask", StoredOldElement<Rule>{&Rule::legacyMask, &Rule::masks}, kShowThree},
     Count(L"Ext num", &Rule::recipients, kShowThree),
     RuleNumber(L"Is on", &Rule::isOn),
     RuleText(L"ZCSProfile", &Rule::csProfile),
@@ -260,7 +229,7 @@ std::wstring RuleKeyName(std::size_t position) {
 
 std::wstring ElementName(std::wstring_view prefix, std::size_t index) {
     std::wstring name(prefix);
-    name += toolkit::DecimalText(static_cast<std::int64_t>(index));
+    name += std::to_wstring(index);
     return name;
 }
 

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 
 #include "config/records.h"
 
@@ -17,55 +18,67 @@
 
 namespace corvane {
 
-/// How a value is stored, and how it is read back.
-enum class StoredAs : std::uint8_t {
-    kNumber,      ///< DWORD.
-    kText,        ///< SZ.
-    kTextList,    ///< MULTI_SZ of texts; an empty one is stored as "0".
-    kTextArray,   ///< MULTI_SZ of texts as they are.
-    kNumberList,  ///< MULTI_SZ of decimal numbers.
-    kCount,       ///< DWORD: how many elements the list of the next kElements row with the same field has.
-    kElements,    ///< SZ values, named by the row's name with 0, 1, ... behind it; as many as counted.
-    kOldElement,  ///< SZ: read only where the count is 0, then the list's one element. Never written.
-};
-
-/// The name of a value, written in the program: half as big as a view of it.
-class ValueName {
-  public:
-    // NOLINTNEXTLINE(google-explicit-constructor): names are written as they are.
-    constexpr ValueName(const wchar_t* literal) : literal_(literal) {}
-    // NOLINTNEXTLINE(google-explicit-constructor): it serves wherever a text is only read.
-    constexpr operator std::wstring_view() const { return literal_; }
-    /// Ends with a NUL, as the system wants it.
-    [[nodiscard]] constexpr const wchar_t* Literal() const { return literal_; }
-
-  private:
-    const wchar_t* literal_;
-};
-
-/// How a value is named, stored and reported, whatever record it is of.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): of the union, one member is set and enough.
-struct ValueForm {
-    ValueName name = L"";
-    union {
-        std::int32_t defaultNumber = 0;  ///< Of kNumber: where the number is missing.
-        const wchar_t* defaultText;      ///< Of kText and kOldElement: where the text is missing.
-    };
-    StoredAs storedAs = StoredAs::kNumber;
-    std::uint8_t loadFlags = 0;  ///< ReportError's flags when loading; lists have fixed ones.
-    std::uint8_t saveFlags = 0;  ///< ReportError's flags when saving; lists have fixed ones.
-};
-
-/// One value of a record: a row of the layout. Rows stand in the order in which values are read and
-/// written. The field that is set is the one that `storedAs` speaks of; a kOldElement has a text and texts.
+/// A DWORD.
 template <typename Record>
-struct StoredValue : ValueForm {
-    union {
-        std::int32_t Record::*number = nullptr;
-        std::wstring Record::*text;
-        NumberList Record::*numbers;
-    };
-    TextList Record::*texts = nullptr;
+struct StoredNumber {
+    std::int32_t Record::*field;
+};
+
+/// An SZ.
+template <typename Record>
+struct StoredText {
+    std::wstring Record::*field;
+};
+
+/// A MULTI_SZ of texts; an empty one is stored as "0".
+template <typename Record>
+struct StoredTextList {
+    TextList Record::*field;
+};
+
+/// A MULTI_SZ of texts as they are.
+template <typename Record>
+struct StoredTextArray {
+    TextList Record::*field;
+};
+
+/// A MULTI_SZ of decimal numbers.
+template <typename Record>
+struct StoredNumberList {
+    NumberList Record::*field;
+};
+
+/// A DWORD: how many elements the list of the next StoredElements row with the same field has.
+template <typename Record>
+struct StoredCount {
+    TextList Record::*field;
+};
+
+/// SZ values, named by the row's name with 0, 1, ... after it; as many as counted.
+template <typename Record>
+struct StoredElements {
+    TextList Record::*field;
+};
+
+/// An SZ from before lists: read only where the count is 0, then the list's one element. Never written.
+template <typename Record>
+struct StoredOldElement {
+    std::wstring Record::*field;
+    TextList Record::*list;
+};
+
+/// One value of a record: a row of the layout. Rows stand in the order in which values are read and written.
+/// A value that is missing is what a fresh record has in the field.
+template <typename Record>
+struct StoredValue {
+    const wchar_t* name = L"";
+    /// How it is stored, and which field it is.
+    std::variant<StoredNumber<Record>, StoredText<Record>, StoredTextList<Record>, StoredTextArray<Record>,
+                 StoredNumberList<Record>, StoredCount<Record>, StoredElements<Record>,
+                 StoredOldElement<Record>>
+        kind;
+    std::uint32_t loadFlags = 0;  ///< ReportError's flags when loading; lists have fixed ones.
+    std::uint32_t saveFlags = 0;  ///< ReportError's flags when saving; lists have fixed ones.
 };
 
 /// A CS profile of the crypto provider, as far as this program reads it.

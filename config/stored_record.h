@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
+#include <variant>
 
 #include "app/reporting/error_reporter.h"
 #include "config/records.h"
@@ -18,35 +20,6 @@ namespace corvane {
 /// seconds instead of hours and all memory.
 inline constexpr std::int32_t kHighestElementCount = 100000;
 
-/// The field of a record that a row speaks of; the other pointers are null. `Number` and so on are constant
-/// where the record is.
-template <typename Number, typename Text, typename Texts, typename Numbers>
-struct FieldOfRow {
-    Number* number = nullptr;
-    Text* text = nullptr;
-    Texts* texts = nullptr;
-    Numbers* numbers = nullptr;
-};
-using FieldToRead = FieldOfRow<std::int32_t, std::wstring, TextList, NumberList>;
-using FieldToWrite = FieldOfRow<const std::int32_t, const std::wstring, const TextList, const NumberList>;
-
-/// The field of `record` that the row speaks of, as `Field`, which is one of the two above.
-template <typename Field, typename Row, typename Record>
-[[nodiscard]] Field FindField(const Row& row, Record& record) {
-    switch (row.storedAs) {
-        case StoredAs::kNumber:
-            return {.number = &(record.*row.number)};
-        case StoredAs::kText:
-            return {.text = &(record.*row.text)};
-        case StoredAs::kOldElement:
-            return {.text = &(record.*row.text), .texts = &(record.*row.texts)};
-        case StoredAs::kNumberList:
-            return {.numbers = &(record.*row.numbers)};
-        default:
-            return {.texts = &(record.*row.texts)};
-    }
-}
-
 /// Reads the values of records from the current key, in the order of their layout. A value that cannot be
 /// read is reported and keeps what the record held; reading goes on.
 class RecordReader {
@@ -56,15 +29,63 @@ class RecordReader {
 
     template <typename Record>
     void Read(std::span<const StoredValue<Record>> layout, Record& record) {
+        const Record fresh;
         for (const StoredValue<Record>& row : layout) {
-            ReadValue(row, FindField<FieldToRead>(row, record));
+            std::visit([&](const auto& kind) { ReadValue(row, kind, fresh, record); }, row.kind);
         }
     }
 
   private:
-    void ReadValue(const ValueForm& form, const FieldToRead& field);
-    void ReadCount(const ValueForm& form);
-    void ReadElements(const ValueForm& form, TextList& list);
+    // A failure has been reported, and reading goes on.
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredNumber<Record>& number, const Record& fresh,
+                   Record& record) {
+        static_cast<void>(
+            registry_.ReadInt(row.name, record.*number.field, owner_, row.loadFlags, fresh.*number.field));
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredText<Record>& text, const Record& fresh,
+                   Record& record) {
+        static_cast<void>(
+            registry_.ReadString(row.name, record.*text.field, owner_, row.loadFlags, fresh.*text.field));
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredTextList<Record>& list,
+                   const Record& /*fresh*/, Record& record) {
+        static_cast<void>(registry_.ReadStringList(row.name, record.*list.field, owner_));
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredTextArray<Record>& array,
+                   const Record& /*fresh*/, Record& record) {
+        static_cast<void>(registry_.ReadStringArray(row.name, record.*array.field, owner_));
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredNumberList<Record>& list,
+                   const Record& /*fresh*/, Record& record) {
+        static_cast<void>(registry_.ReadIntList(row.name, record.*list.field, owner_));
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredCount<Record>& /*count*/,
+                   const Record& /*fresh*/, Record& /*record*/) {
+        ReadCount(row.name, row.loadFlags);
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredElements<Record>& elements,
+                   const Record& /*fresh*/, Record& record) {
+        ReadElements(row.name, row.loadFlags, record.*elements.field);
+    }
+    template <typename Record>
+    void ReadValue(const StoredValue<Record>& row, const StoredOldElement<Record>& old, const Record& fresh,
+                   Record& record) {
+        if (count_ == 0) {
+            std::wstring& text = record.*old.field;
+            static_cast<void>(registry_.ReadString(row.name, text, owner_, row.loadFlags, fresh.*old.field));
+            (record.*old.list).push_back(text);
+        }
+    }
+
+    void ReadCount(std::wstring_view name, std::uint32_t flags);
+    void ReadElements(std::wstring_view prefix, std::uint32_t flags, TextList& list);
 
     RegistryAccess& registry_;
     ErrorReporter& reporter_;
@@ -83,13 +104,51 @@ class RecordWriter {
     template <typename Record>
     void Write(std::span<const StoredValue<Record>> layout, const Record& record) {
         for (const StoredValue<Record>& row : layout) {
-            WriteValue(row, FindField<FieldToWrite>(row, record));
+            std::visit([&](const auto& kind) { WriteValue(row, kind, record); }, row.kind);
         }
     }
 
   private:
-    void WriteValue(const ValueForm& form, const FieldToWrite& field);
-    void WriteElements(const ValueForm& form, const TextList& list);
+    // A failure has been reported, and writing goes on.
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredNumber<Record>& number,
+                    const Record& record) {
+        static_cast<void>(registry_.WriteInt(row.name, record.*number.field, owner_, row.saveFlags));
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredText<Record>& text, const Record& record) {
+        static_cast<void>(registry_.WriteString(row.name, record.*text.field, owner_, row.saveFlags));
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredTextList<Record>& list,
+                    const Record& record) {
+        static_cast<void>(registry_.WriteStringList(row.name, record.*list.field, owner_));
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredTextArray<Record>& array,
+                    const Record& record) {
+        static_cast<void>(registry_.WriteStringArray(row.name, record.*array.field, owner_));
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredNumberList<Record>& list,
+                    const Record& record) {
+        static_cast<void>(registry_.WriteIntList(row.name, record.*list.field, owner_));
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredCount<Record>& count, const Record& record) {
+        static_cast<void>(registry_.WriteInt(
+            row.name, static_cast<std::int32_t>((record.*count.field).size()), owner_, row.saveFlags));
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& row, const StoredElements<Record>& elements,
+                    const Record& record) {
+        WriteElements(row.name, row.saveFlags, record.*elements.field);
+    }
+    template <typename Record>
+    void WriteValue(const StoredValue<Record>& /*row*/, const StoredOldElement<Record>& /*old*/,
+                    const Record& /*record*/) {}
+
+    void WriteElements(std::wstring_view prefix, std::uint32_t flags, const TextList& list);
 
     RegistryAccess& registry_;
     toolkit::WindowHandle owner_;

