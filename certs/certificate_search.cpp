@@ -2,9 +2,9 @@
 
 #include <cstdint>
 #include <string_view>
+#include <unordered_set>
 
 #include "certs/found_certificates.h"
-#include "toolkit/known_texts.h"
 
 namespace corvane {
 
@@ -28,7 +28,7 @@ bool IsUsable(const CertEntry& entry, const CertSearchSettings& settings) {
 // With tens of thousands of certificates each owner must be known at a glance.
 void AppendOwners(const FoundCertificates& found, const CertSearchSettings& settings,
                   const toolkit::SystemText& systemText, TextList& owners) {
-    toolkit::KnownTexts known(found.Entries().size());
+    std::unordered_set<std::wstring_view> known;
     // There is room for all of them at once: no owner that is known moves.
     owners.reserve(owners.size() + found.Entries().size());
     for (const CertEntry& entry : found.Entries()) {
@@ -36,7 +36,7 @@ void AppendOwners(const FoundCertificates& found, const CertSearchSettings& sett
             continue;
         }
         owners.push_back(TextOf(entry.owner, systemText));
-        if (!known.Add(owners.back())) {
+        if (!known.insert(owners.back()).second) {
             owners.pop_back();
         }
     }

@@ -1,8 +1,8 @@
 #include "certs/owner_list_view.h"
 
+#include <unordered_set>
 #include <utility>
 
-#include "toolkit/known_texts.h"
 #include "toolkit/row_search.h"
 
 namespace corvane {
@@ -83,10 +83,8 @@ void OwnerListView::RestoreMarks(const Place& place) const {
     if (selectedRows.empty() && place.selectedOwners.empty() && !place.focusedOwner) {
         return;
     }
-    toolkit::KnownTexts selected(place.selectedOwners.size());
-    for (const std::wstring& owner : place.selectedOwners) {
-        selected.Add(owner);
-    }
+    const std::unordered_set<std::wstring_view> selected(place.selectedOwners.begin(),
+                                                         place.selectedOwners.end());
     auto nextSelected = selectedRows.begin();
     for (std::size_t row = 0, count = source_.count(); row < count; ++row) {
         const std::wstring_view owner = OwnerAt(row);
@@ -94,7 +92,7 @@ void OwnerListView::RestoreMarks(const Place& place) const {
         if (isSelected) {
             ++nextSelected;
         }
-        const bool isToBeSelected = selected.Contains(owner);
+        const bool isToBeSelected = selected.contains(owner);
         if (isToBeSelected && !isSelected) {
             list_.AddToSelection(static_cast<int>(row));
         } else if (isSelected && !isToBeSelected) {

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "app/reporting/message_styles.h"
@@ -9,7 +12,6 @@
 #include "certs/owner_lines.h"
 #include "certs/subject_fields.h"
 #include "toolkit/format_text.h"
-#include "toolkit/known_texts.h"
 
 namespace corvane {
 
@@ -80,14 +82,14 @@ void RecipientSelectionForm::CheckAllFound(bool isChecked) {
 }
 
 void RecipientSelectionForm::AddFound(const TextList& owners) {
-    toolkit::KnownTexts known(found_.size() + owners.size());
+    std::unordered_set<std::wstring_view> known;
     // There is room for all of them at once: no owner that is known moves.
     found_.reserve(found_.size() + owners.size());
     for (const FoundOwner& owner : found_) {
-        known.Add(owner.text);
+        known.insert(owner.text);
     }
     for (const std::wstring& owner : owners) {
-        if (known.Add(owner)) {
+        if (known.insert(owner).second) {
             found_.push_back({owner, systemText_.UpperCase(owner), false});
         }
     }
@@ -167,14 +169,14 @@ void RecipientSelectionForm::CheckChosen(std::size_t position, bool isChecked) {
 }
 
 std::wstring RecipientSelectionForm::AddChecked() {
-    toolkit::KnownTexts known(chosen_.size());
+    std::unordered_set<std::wstring_view> known;
     for (const ChosenOwner& owner : chosen_) {
-        known.Add(owner.text);
+        known.insert(owner.text);
     }
     // Which of them are new is known before the first one is added: adding moves the texts in memory. The
     // upper list has no owner twice.
     TextList newOwners = CheckedFoundOwners();
-    std::erase_if(newOwners, [&known](const std::wstring& owner) { return known.Contains(owner); });
+    std::erase_if(newOwners, [&known](const std::wstring& owner) { return known.contains(owner); });
     for (std::wstring& owner : newOwners) {
         chosen_.push_back({std::move(owner), false});
     }
@@ -191,30 +193,29 @@ std::wstring RecipientSelectionForm::ExcludeSignersOfOtherLists() {
     if (existingLists_.empty()) {
         return {};
     }
-    toolkit::KnownTexts chosen(chosen_.size());
-    std::vector<std::size_t> counts(chosen_.size());  // By number; what the caller gave may hold one twice.
+    // How often each owner is chosen: what the caller gave may hold one twice.
+    std::unordered_map<std::wstring_view, std::size_t> counts;
     for (const ChosenOwner& owner : chosen_) {
-        chosen.Add(owner.text);
-        ++counts[*chosen.NumberOf(owner.text)];
+        ++counts[owner.text];
     }
-    toolkit::KnownTexts excluded;
+    std::unordered_set<std::wstring_view> excluded;
     std::wstring report;
     for (const SignerGroup& list : existingLists_) {
         if (list.name == previousListName_) {
             continue;
         }
         for (const std::wstring& signer : list.signers) {
-            const std::optional<std::size_t> number = chosen.NumberOf(signer);
-            if (!number || !excluded.Add(signer)) {
+            const auto chosen = counts.find(signer);
+            if (chosen == counts.end() || !excluded.insert(signer).second) {
                 continue;
             }
-            for (std::size_t i = 0; i < counts[*number]; ++i) {
+            for (std::size_t i = 0; i < chosen->second; ++i) {
                 report += toolkit::FormatText(L"Signer\r\n\"%s\"\r\nis used in list\r\n\"%s\"\r\n\r\n",
                                               {signer, list.name});
             }
         }
     }
-    std::erase_if(chosen_, [&excluded](const ChosenOwner& owner) { return excluded.Contains(owner.text); });
+    std::erase_if(chosen_, [&excluded](const ChosenOwner& owner) { return excluded.contains(owner.text); });
     return report;
 }
 

@@ -1,19 +1,21 @@
 #include "editors/mask_suggestions.h"
 
 #include <algorithm>
-
-#include "toolkit/known_texts.h"
+#include <string_view>
+#include <unordered_set>
 
 namespace corvane {
 
 namespace {
 
+using KnownMasks = std::unordered_set<std::wstring_view>;
+
 /// The masks of the rules, last one first, each once.
-TextList RuleMasksFromTheEnd(const std::vector<Rule>& rules, toolkit::KnownTexts& known) {
+TextList RuleMasksFromTheEnd(const std::vector<Rule>& rules, KnownMasks& known) {
     TextList masks;
     for (auto rule = rules.rbegin(); rule != rules.rend(); ++rule) {
         for (auto mask = rule->masks.rbegin(); mask != rule->masks.rend(); ++mask) {
-            if (known.Add(*mask)) {
+            if (known.insert(*mask).second) {
                 masks.push_back(*mask);
             }
         }
@@ -38,11 +40,11 @@ TextList ExtensionMasks(const AppSettings& settings) {
 
 TextList BuildMaskSuggestions(const AppSettings& settings, const std::vector<Rule>& rules) {
     const TextList extensionMasks = ExtensionMasks(settings);
-    toolkit::KnownTexts known;
+    KnownMasks known;
     TextList suggestions = RuleMasksFromTheEnd(rules, known);
     std::reverse(suggestions.begin(), suggestions.end());
     for (const std::wstring& mask : extensionMasks) {
-        if (known.Add(mask)) {
+        if (known.insert(mask).second) {
             suggestions.push_back(mask);
         }
     }

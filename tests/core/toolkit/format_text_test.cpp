@@ -58,14 +58,6 @@ TEST(FormatText, AMismatchIsWrittenAsTheArgumentIs) {
     EXPECT_EQ(FormatText(L"%s %d", {5, L"five"}), L"5 five");
 }
 
-TEST(DecimalText, WritesEveryNumberThatThereIs) {
-    EXPECT_EQ(DecimalText(0), L"0");
-    EXPECT_EQ(DecimalText(-7), L"-7");
-    EXPECT_EQ(DecimalText(1234567890123), L"1234567890123");
-    EXPECT_EQ(DecimalText(std::numeric_limits<std::int64_t>::max()), L"9223372036854775807");
-    EXPECT_EQ(DecimalText(std::numeric_limits<std::int64_t>::min()), L"-9223372036854775808");
-}
-
 TEST(ParseDecimal, ReadsDigitsAndSigns) {
     EXPECT_EQ(ParseDecimal(L"0"), 0);
     EXPECT_EQ(ParseDecimal(L"42"), 42);
