@@ -43,10 +43,10 @@ std::optional<std::wstring> LogSettingsForm::OnSizeTextChanged(const std::wstrin
     if (logFileSize < kSmallestLogFileSize) {
         // Deliberate: the correction comes at once, even while the user is still typing.
         logFileSize = kSmallestLogFileSize;
-        return toolkit::DecimalText(kSmallestLogFileSize);
+        return std::to_wstring(kSmallestLogFileSize);
     }
     // The largest number may stand for one that is larger still; the field must not show what is not kept.
-    const std::wstring largest = toolkit::DecimalText(kLargest);
+    const std::wstring largest = std::to_wstring(kLargest);
     return logFileSize == kLargest && text != largest ? std::optional(largest) : std::nullopt;
 }
 

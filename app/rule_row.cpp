@@ -35,7 +35,7 @@ std::wstring MovePartsText(const Rule& rule) {
 std::wstring ResignPartsText(const Rule& rule) {
     std::wstring text;
     if (!rule.signerGroups.empty()) {
-        text += toolkit::DecimalText(static_cast<std::int64_t>(rule.signerGroups.size()));
+        text += std::to_wstring(rule.signerGroups.size());
         text += kPartSeparator;
     }
     text += rule.resignProfile;
@@ -59,7 +59,7 @@ void AppendArchiveFormat(std::wstring& text, const Rule& rule) {
 void AppendPackParts(std::wstring& text, const Rule& rule) {
     for (const std::int32_t number : {rule.archiveFileCount, rule.archiveSize, rule.archiveTimeout}) {
         if (number > 0) {
-            AppendPart(text, toolkit::DecimalText(number));
+            AppendPart(text, std::to_wstring(number));
         }
     }
     if (!rule.archiveName.empty()) {
@@ -71,7 +71,7 @@ void AppendExecutionParts(std::wstring& text, const Rule& rule) {
     AppendPart(text, rule.executable);
     if (rule.executionTimeout > 0) {
         text += kPartSeparator;
-        text += toolkit::DecimalText(rule.executionTimeout);
+        text += std::to_wstring(rule.executionTimeout);
     }
 }
 
@@ -91,8 +91,7 @@ std::wstring ErrorFolderText(const Rule& rule) {
 }
 
 std::wstring MasksText(const Rule& rule) {
-    return rule.masks.size() == 1 ? rule.masks.front()
-                                  : toolkit::DecimalText(static_cast<std::int64_t>(rule.masks.size()));
+    return rule.masks.size() == 1 ? rule.masks.front() : std::to_wstring(rule.masks.size());
 }
 
 }  // namespace
@@ -100,7 +99,7 @@ std::wstring MasksText(const Rule& rule) {
 std::wstring RuleCellText(const Rule& rule, std::size_t position, std::size_t column) {
     switch (column) {
         case kNumberColumn:
-            return toolkit::DecimalText(static_cast<std::int64_t>(position + 1));
+            return std::to_wstring(position + 1);
         case kDescriptionColumn:
             return rule.description;
         case kOperationColumn:
@@ -131,9 +130,7 @@ std::wstring ExtraText(const Rule& rule) {
     }
     const std::size_t certificateCount =
         rule.operation == L"DCCX" ? rule.recipients.size() : rule.signerGroups.size();
-    std::wstring text = certificateCount != 0
-                            ? toolkit::DecimalText(static_cast<std::int64_t>(certificateCount))
-                            : std::wstring();
+    std::wstring text = certificateCount != 0 ? std::to_wstring(certificateCount) : std::wstring();
     AppendArchiveFormat(text, rule);
     if (rule.operation == L"PACK") {
         AppendPackParts(text, rule);

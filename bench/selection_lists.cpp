@@ -35,8 +35,8 @@ std::wstring OwnerName(int number) {
     const int spread = static_cast<int>((static_cast<long long>(number) * 7919) % 100003);
     return toolkit::FormatText(
         L"CN=Owner %d,OU=Settlement,O=%s,C=GB",
-        {toolkit::DecimalText(spread), (number % 2 == 0 ? L"Northgate Clearing " : L"Southgate Clearing ") +
-                                           toolkit::DecimalText(spread % 997)});
+        {std::to_wstring(spread), (number % 2 == 0 ? L"Northgate Clearing " : L"Southgate Clearing ") +
+                                      std::to_wstring(spread % 997)});
 }
 
 /// A provider that finds as many certificates as are wanted and hands out memory of its own.

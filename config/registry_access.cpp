@@ -195,7 +195,7 @@ bool RegistryAccess::WriteIntList(std::wstring_view name, const NumberList& list
     TextList elements;
     elements.reserve(list.size());
     for (const std::int32_t number : list) {
-        elements.push_back(toolkit::DecimalText(number));
+        elements.push_back(std::to_wstring(number));
     }
     return WriteList(name, elements, owner);
 }

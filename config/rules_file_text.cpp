@@ -79,7 +79,7 @@ class FieldWriter {
 
     void operator()(std::wstring Rule::*field) const { text_ += rule_.*field; }
 
-    void operator()(std::int32_t Rule::*field) const { text_ += toolkit::DecimalText(rule_.*field); }
+    void operator()(std::int32_t Rule::*field) const { text_ += std::to_wstring(rule_.*field); }
 
     void operator()(TextList Rule::*field) const {
         const TextList& list = rule_.*field;

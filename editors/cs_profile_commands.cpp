@@ -25,7 +25,7 @@ std::wstring RulesWithCertificatesOf(const ProfileForm& form, const std::wstring
     for (const Rule& rule : form.result.rules) {
         ++number;
         if (HasCertificatesOf(rule, csProfile)) {
-            numbers += (numbers.empty() ? L"" : L",") + toolkit::DecimalText(number);
+            numbers += (numbers.empty() ? L"" : L",") + std::to_wstring(number);
         }
     }
     return numbers;

@@ -51,7 +51,7 @@ void OnVerifyTimeStampClicked(ProfileForm& form) {
 std::wstring OnCrlUpdatePeriodChanged(ProfileForm& form, const std::wstring& text) {
     form.shown.crlUpdatePeriod = toolkit::ParseDecimal(text);
     ClampCrlUpdatePeriod(form.shown);
-    return toolkit::DecimalText(form.shown.crlUpdatePeriod);
+    return std::to_wstring(form.shown.crlUpdatePeriod);
 }
 
 std::optional<std::wstring> OnHandlerTimeoutChanged(ProfileForm& form, const std::wstring& text) {

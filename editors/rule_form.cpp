@@ -133,9 +133,9 @@ std::wstring CertLabel(Operation operation) {
 void ShowCertCount(RuleForm& form, Operation operation) {
     const CertUse use = LayoutOf(operation).cert;
     if (use == CertUse::kRecipients) {
-        form.cert.text = toolkit::DecimalText(static_cast<std::int64_t>(form.recipients.size()));
+        form.cert.text = std::to_wstring(form.recipients.size());
     } else if (use == CertUse::kSigners) {
-        form.cert.text = toolkit::DecimalText(static_cast<std::int64_t>(form.result.signerGroups.size()));
+        form.cert.text = std::to_wstring(form.result.signerGroups.size());
     }
 }
 

@@ -13,7 +13,7 @@ std::optional<std::wstring> OnNumberTextChanged(NumberField& field, const std::w
     field.number = std::max(toolkit::ParseDecimal(text), 0);
     const bool isDigits =
         std::all_of(text.begin(), text.end(), [](wchar_t unit) { return unit >= L'0' && unit <= L'9'; });
-    std::wstring shown = toolkit::DecimalText(field.number);
+    std::wstring shown = std::to_wstring(field.number);
     // The largest number may stand for one that is larger still; the field must not show what is not kept.
     const bool isTooLarge = field.number == kLargest && text != shown;
     return isDigits && !isTooLarge ? std::nullopt : std::optional(std::move(shown));

@@ -18,7 +18,7 @@ void DataExchange::Text(int controlId, std::wstring& field) const {
 }
 
 void DataExchange::Number(int controlId, std::int32_t& field) const {
-    std::wstring text = DecimalText(field);
+    std::wstring text = std::to_wstring(field);
     Text(controlId, text);
     if (direction_ == Direction::kFromControls) {
         field = ParseDecimal(std::wstring_view(text));

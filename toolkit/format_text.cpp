@@ -55,7 +55,7 @@ void FormatArgument::AppendTo(std::wstring& result, wchar_t conversion) const {
     } else if (conversion == L'X') {
         result += UpperHexadecimal(static_cast<std::uint32_t>(number_));
     } else {
-        result += DecimalText(number_);
+        result += std::to_wstring(number_);
     }
 }
 
@@ -82,20 +82,6 @@ std::wstring FormatText(std::wstring_view format, std::initializer_list<FormatAr
         }
     }
     return result;
-}
-
-std::wstring DecimalText(std::int64_t number) {
-    // Of the smallest number there is no positive one, so its digits are taken without a sign.
-    auto rest = static_cast<std::uint64_t>(number);
-    if (number < 0) {
-        rest = 0 - rest;
-    }
-    std::wstring digits;
-    do {
-        digits.insert(digits.begin(), static_cast<wchar_t>(L'0' + rest % 10));
-        rest /= 10;
-    } while (rest != 0);
-    return number < 0 ? L"-" + digits : digits;
 }
 
 std::int32_t ParseDecimal(std::string_view text) {

@@ -36,10 +36,6 @@ class FormatArgument {
 [[nodiscard]] std::wstring FormatText(std::wstring_view format,
                                       std::initializer_list<FormatArgument> arguments);
 
-/// A number in decimal. The library's own conversion brings in all of the runtime's formatted output, a
-/// tenth of the program's size.
-[[nodiscard]] std::wstring DecimalText(std::int64_t number);
-
 /// The usual decimal conversion of text to a number: leading white space and a sign allowed, ends at the
 /// first character that is no digit, 0 where there is no number; what does not fit 32 bits becomes the
 /// nearest number that does.
