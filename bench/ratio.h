@@ -1,14 +1,16 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
-/// One row of the table: what is measured, against what, and how large the ratio may be.
+/// One row of the table: what is measured, against what, and how large the ratio may be, where it has a
+/// limit.
 struct RatioRow {
     std::string what;
     std::string against;
     double ratio = 0;
-    double target = 0;
+    std::optional<double> target;
 };
 
 /// Milliseconds that a piece of work takes.

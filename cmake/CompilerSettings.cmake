@@ -21,21 +21,14 @@ if(WIN32)
     UNICODE _UNICODE STRICT NOMINMAX WIN32_LEAN_AND_MEAN
     WINVER=0x0A00 _WIN32_WINNT=0x0A00 NTDDI_VERSION=0x0A000007)
   if(NOT MSVC)
-    set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
-    set(CMAKE_C_FLAGS_RELEASE "-Os -DNDEBUG")
+    set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+    set(CMAKE_C_FLAGS_RELEASE "-O2 -DNDEBUG")
     # Clang warns of the same things whether it optimises or not, and is asked for nothing else.
     set(CMAKE_CXX_FLAGS_DEBUG "")
     set(CMAKE_C_FLAGS_DEBUG "")
     target_compile_options(corvane_settings INTERFACE -ffunction-sections -fdata-sections)
     target_link_options(corvane_settings INTERFACE -static -s -Wl,--gc-sections)
   endif()
-endif()
-
-# GCC makes the program a sixth smaller when it sees all of it at once. Then each floor is compiled twice: as the
-# library that the tests link in no time, and as parts of the whole.
-set(CORVANE_WHOLE_PROGRAM OFF)
-if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  set(CORVANE_WHOLE_PROGRAM ON)
 endif()
 
 if(CORVANE_SANITIZE)

@@ -26,11 +26,8 @@ function(corvane_floor)
   endif()
   target_link_libraries(${FLOOR_NAME} ${scope} corvane_settings ${FLOOR_BELOW})
   if(sources)
-    # Where several sources are compiled together (CMAKE_UNITY_BUILD), what decides stays apart from what shows,
-    # so that it is the same unit natively and for Windows.
-    set_source_files_properties(${FLOOR_DECIDES} PROPERTIES UNITY_GROUP decides)
-    set_source_files_properties(${FLOOR_SHOWS} PROPERTIES UNITY_GROUP shows)
-    set_target_properties(${FLOOR_NAME} PROPERTIES UNITY_BUILD_MODE GROUP)
+    # Each source by itself, in every build, so that one that lacks an include does not compile.
+    set_target_properties(${FLOOR_NAME} PROPERTIES UNITY_BUILD OFF)
     if(CORVANE_SANITIZE)
       # Tests that try every call in turn run this code a million times.
       target_compile_options(${FLOOR_NAME} PRIVATE -O1)
@@ -38,14 +35,6 @@ function(corvane_floor)
   endif()
   if(WIN32)
     target_link_libraries(${FLOOR_NAME} ${scope} ${FLOOR_SYSTEM_LIBRARIES})
-  endif()
-
-  if(sources AND CORVANE_WHOLE_PROGRAM)
-    # For the program itself, which is made from all floors at once.
-    add_library(${FLOOR_NAME}_parts OBJECT ${sources})
-    target_link_libraries(${FLOOR_NAME}_parts PUBLIC corvane_settings ${FLOOR_SYSTEM_LIBRARIES})
-    target_compile_options(${FLOOR_NAME}_parts PRIVATE -flto)
-    set_target_properties(${FLOOR_NAME}_parts PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE BATCH UNITY_BUILD_BATCH_SIZE 16)
   endif()
 
   add_custom_target(${FLOOR_NAME}_arrows
