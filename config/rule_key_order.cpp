@@ -30,12 +30,12 @@ void OrderRuleKeys(TextList& names) {
     if (names.size() < 3) {
         return;
     }
+    const std::int32_t lastNumber = NumberOf(names.back());
     std::vector<NumberedName> ordered;
     for (std::wstring& name : names) {
         const std::int32_t number = NumberOf(name);
         ordered.push_back({number, std::move(name)});
     }
-    const std::int32_t lastNumber = ordered.back().number;
     const bool lastIsSmallest =
         std::all_of(ordered.begin(), ordered.end() - 1,
                     [lastNumber](const NumberedName& other) { return lastNumber < other.number; });
