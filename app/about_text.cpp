@@ -1,14 +1,15 @@
 #include "app/about_text.h"
 
+#include "res/version.h"
 #include "toolkit/format_text.h"
 
 namespace corvane {
 
 std::wstring AboutVersionText() {
+    const std::wstring title = toolkit::FormatText(L"QENT AC Velmaris - configuration%s Version %d.%d",
+                                                   {L" (x64)", CORVANE_VERSION_MAJOR, CORVANE_VERSION_MINOR});
     // The zero before the build number belongs to the format and gives it four digits.
-    const std::wstring title =
-        toolkit::FormatText(L"QENT AC Velmaris - configuration%s Version 1.0", {L" (x64)"});
-    return toolkit::FormatText(L"%s.0%s.%s", {title, L"453", L"0"});
+    return toolkit::FormatText(L"%s.0%d.%d", {title, CORVANE_VERSION_BUILD, CORVANE_VERSION_REVISION});
 }
 
 }  // namespace corvane

@@ -1,6 +1,6 @@
 # What every target is compiled with: all warnings as errors, and on Windows one static, small executable.
 add_library(corvane_settings INTERFACE)
-target_include_directories(corvane_settings INTERFACE ${CMAKE_SOURCE_DIR})
+target_include_directories(corvane_settings INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
 
 if(MSVC)
   target_compile_options(corvane_settings INTERFACE /W4 /WX /permissive- /utf-8 /Zc:__cplusplus)

@@ -218,7 +218,7 @@ TEST_F(About, ShowsTheProductAndTheVersion) {
     EXPECT_EQ(box.Text(), L"About programm...");
     EXPECT_EQ(box.Control(IDC_ABOUT_PRODUCT_TEXT).Text(), L"Client Velmaris");
     EXPECT_EQ(box.Control(IDC_ABOUT_VERSION_TEXT).Text(),
-              L"QENT AC Velmaris - configuration (x64) Version 1.0.0453.0");
+              L"QENT AC Velmaris - configuration (x64) Version " CORVANE_SHOWN_VERSION);
     EXPECT_FALSE(box.Control(IDC_ABOUT_MAKER_TEXT).Text().empty());
     EXPECT_EQ(LOWORD(box.Send(DM_GETDEFID)), IDOK);
     box.Control(IDOK).PostClick();

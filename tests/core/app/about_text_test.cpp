@@ -6,7 +6,7 @@ namespace corvane::testing {
 namespace {
 
 TEST(AboutText, TheVersionLineEndsInTheVersionOfFourNumbers) {
-    EXPECT_EQ(AboutVersionText(), L"QENT AC Velmaris - configuration (x64) Version 1.0.0453.0");
+    EXPECT_EQ(AboutVersionText(), L"QENT AC Velmaris - configuration (x64) Version " CORVANE_SHOWN_VERSION);
 }
 
 TEST(AboutText, NamesTheProduct) {
