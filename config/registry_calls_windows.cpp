@@ -4,11 +4,22 @@
 
 #include <utility>
 
+#include "config/registry_access.h"
+#include "config/system_codes.h"
 #include "toolkit/system_function.h"
 
 namespace corvane {
 
 namespace {
+
+// What deciding code knows of the platform's numbers without its headers.
+static_assert(kTypeText == REG_SZ && kTypeExpandableText == REG_EXPAND_SZ && kTypeBinary == REG_BINARY &&
+              kTypeNumber == REG_DWORD && kTypeTextList == REG_MULTI_SZ);
+static_assert(kCodeNotFound == ERROR_FILE_NOT_FOUND && kCodeInvalidData == ERROR_INVALID_DATA &&
+              kCodeMoreData == ERROR_MORE_DATA && kCodeNoMoreItems == ERROR_NO_MORE_ITEMS);
+static_assert(kCodePathNotFound == ERROR_PATH_NOT_FOUND && kCodeNotEnoughMemory == ERROR_NOT_ENOUGH_MEMORY &&
+              kCodeFileExists == ERROR_FILE_EXISTS);
+static_assert(kReadWriteAccess == (KEY_READ | KEY_WRITE));
 
 /// What a transacted call gives where the system lacks it.
 constexpr std::uint32_t kCodeInvalidFunction = ERROR_INVALID_FUNCTION;

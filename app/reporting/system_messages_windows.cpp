@@ -2,11 +2,19 @@
 
 #include <windows.h>
 
+#include "app/reporting/message_styles.h"
 #include "toolkit/handles.h"
 
 namespace corvane {
 
 namespace {
+
+// What deciding code knows of the platform's numbers without its headers.
+static_assert(kRefusalStyle == (MB_ICONWARNING | MB_OK) && kContinueStyle == (MB_ICONWARNING | MB_OKCANCEL) &&
+              kConfirmationStyle == (MB_ICONQUESTION | MB_YESNO | MB_DEFBUTTON2) &&
+              kWarningQuestionStyle == (MB_ICONWARNING | MB_YESNO | MB_DEFBUTTON2) &&
+              kErrorStyle == (MB_ICONERROR | MB_OK) && kInformationStyle == (MB_ICONINFORMATION | MB_OK));
+static_assert(kAnswerOk == IDOK && kAnswerCancel == IDCANCEL && kAnswerYes == IDYES && kAnswerNo == IDNO);
 
 // Inserts must be ignored: there are no arguments, and a text such as that of code 34 names some.
 constexpr DWORD kHowToFormat = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_IGNORE_INSERTS;
