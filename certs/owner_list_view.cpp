@@ -3,7 +3,6 @@
 #include <unordered_set>
 #include <utility>
 
-#include "toolkit/row_search.h"
 
 namespace corvane {
 
@@ -20,27 +19,19 @@ constexpr toolkit::HeadingMark HeadingMarkFor(SortMark mark) {
     }
 }
 
-/// Tells whether a text is, or begins with, the one that is looked for; upper and lower case are alike, as in
-/// every list view.
-bool IsFound(std::wstring_view text, std::wstring_view wanted, bool isBeginningEnough) {
-    if (isBeginningEnough) {
-        text = text.substr(0, wanted.size());
-    }
-    return CompareStringOrdinal(text.data(), static_cast<int>(text.size()), wanted.data(),
-                                static_cast<int>(wanted.size()), TRUE) == CSTR_EQUAL;
-}
-
 }  // namespace
 
 OwnerListView::OwnerListView(Source source)
     : source_(std::move(source)),
       checkBoxes_({.isChecked = [this](std::size_t row) { return source_.row(row).isChecked; },
-                   .check = source_.check}) {}
+                   .check = source_.check}),
+      finder_({.count = source_.count, .text = [this](std::size_t row) { return OwnerAt(row); }}) {}
 
 void OwnerListView::Attach(HWND control, const std::wstring& heading) {
     list_.Attach(control);
     list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
     checkBoxes_.Attach(control);
+    finder_.Attach(control);
     list_.InsertColumn(0, heading);
 }
 
@@ -117,7 +108,7 @@ bool OwnerListView::Answer(NMHDR& header, LRESULT& result) {
         return true;
     }
     if (header.code == LVN_ODFINDITEMW) {
-        result = FindRow(reinterpret_cast<const NMLVFINDITEMW&>(header));
+        result = finder_.Find(reinterpret_cast<const NMLVFINDITEMW&>(header));
         return true;
     }
     return false;
@@ -134,18 +125,6 @@ void OwnerListView::AnswerDisplayRequest(LVITEMW& item) {
         answer = OwnerAt(static_cast<std::size_t>(item.iItem));
         item.pszText = answer.data();
     }
-}
-
-int OwnerListView::FindRow(const NMLVFINDITEMW& search) const {
-    constexpr UINT kByText = LVFI_STRING | LVFI_PARTIAL;
-    if ((search.lvfi.flags & kByText) == 0 || search.lvfi.psz == nullptr) {
-        return -1;
-    }
-    const std::wstring_view wanted = search.lvfi.psz;
-    const bool isBeginningEnough = (search.lvfi.flags & LVFI_PARTIAL) != 0;
-    return toolkit::FirstRowFound(
-        source_.count(), search.iStart, (search.lvfi.flags & LVFI_WRAP) != 0,
-        [&](std::size_t row) { return IsFound(OwnerAt(row), wanted, isBeginningEnough); });
 }
 
 }  // namespace corvane

@@ -11,6 +11,7 @@
 #include "certs/recipient_selection_form.h"
 #include "toolkit/kept_check_boxes.h"
 #include "toolkit/list_view.h"
+#include "toolkit/row_finder.h"
 
 namespace corvane {
 
@@ -54,7 +55,6 @@ class OwnerListView {
 
   private:
     void AnswerDisplayRequest(LVITEMW& item);
-    [[nodiscard]] int FindRow(const NMLVFINDITEMW& search) const;
     [[nodiscard]] std::wstring_view OwnerAt(std::size_t row) const { return source_.row(row).owner; }
     [[nodiscard]] std::vector<std::size_t> SelectedRows() const;
     void RestoreMarks(const Place& place) const;
@@ -62,6 +62,7 @@ class OwnerListView {
     Source source_;
     toolkit::ListView list_;
     toolkit::KeptCheckBoxes checkBoxes_;
+    toolkit::RowFinder finder_;
     // An answered text must outlive the next two questions.
     std::array<std::wstring, 4> answers_;
     std::size_t nextAnswer_ = 0;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string_view>
 
 namespace toolkit {
@@ -52,6 +53,69 @@ TEST(FirstRowFound, AStartBehindAllRowsFindsNothingButByAWrap) {
 
 TEST(FirstRowFound, AmongNoRowsThereIsNone) {
     EXPECT_EQ(Find("", 0, true), -1);
+}
+
+constexpr unsigned kByText = 0x2;
+constexpr unsigned kBySubstring = 0x4;
+constexpr unsigned kByBeginning = 0x8;
+constexpr unsigned kWraps = 0x20;
+
+std::optional<RowSearch> Typed(unsigned flags) {
+    return RowSearchFor({.flags = flags, .start = 3, .after = std::nullopt});
+}
+std::optional<RowSearch> ByMessage(unsigned flags) {
+    return RowSearchFor({.flags = flags, .start = 3, .after = 2});
+}
+
+TEST(RowSearchFor, TypedLettersAreABeginningAndWrapWhateverTheirFlagsSay) {
+    for (const unsigned flags : {kByText, kByBeginning, kBySubstring, kByText | kByBeginning,
+                                 kByText | kBySubstring, kWraps, kByText | kWraps, kByBeginning | kWraps,
+                                 kBySubstring | kWraps, kByText | kByBeginning | kBySubstring | kWraps, 0U}) {
+        const std::optional<RowSearch> search = Typed(flags);
+        ASSERT_TRUE(search) << flags;
+        EXPECT_TRUE(search->isBeginningEnough) << flags;
+        EXPECT_TRUE(search->wraps) << flags;
+        EXPECT_EQ(search->start, 3) << flags;
+    }
+}
+
+TEST(RowSearchFor, AMessageForATextWantsTheWholeOfIt) {
+    for (const unsigned flags : {kByText, kWraps, kByText | kWraps}) {
+        const std::optional<RowSearch> search = ByMessage(flags);
+        ASSERT_TRUE(search) << flags;
+        EXPECT_FALSE(search->isBeginningEnough) << flags;
+        EXPECT_EQ(search->wraps, (flags & kWraps) != 0) << flags;
+    }
+}
+
+TEST(RowSearchFor, AMessageForABeginningSaysSoInEitherWay) {
+    for (const unsigned flags : {kByBeginning, kBySubstring, kByText | kByBeginning, kByText | kBySubstring,
+                                 kBySubstring | kWraps}) {
+        const std::optional<RowSearch> search = ByMessage(flags);
+        ASSERT_TRUE(search) << flags;
+        EXPECT_TRUE(search->isBeginningEnough) << flags;
+        EXPECT_EQ(search->wraps, (flags & kWraps) != 0) << flags;
+    }
+}
+
+TEST(RowSearchFor, AMessageWithoutFlagsAsksForNothing) {
+    EXPECT_FALSE(ByMessage(0));
+}
+
+TEST(RowSearchFor, AParameterOrAPlaceIsNoText) {
+    constexpr unsigned kByParameter = 0x1;
+    constexpr unsigned kByPosition = 0x40;
+    for (const unsigned flags : {kByParameter, kByPosition}) {
+        EXPECT_FALSE(Typed(flags)) << flags;
+        EXPECT_FALSE(ByMessage(flags | kByText | kWraps)) << flags;
+    }
+}
+
+TEST(RowSearchFor, AMessageBeginsBehindItsRowWhicheverOfTheTwoIsNamed) {
+    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = 5, .after = 4})->start, 5);
+    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = 4, .after = 4})->start, 5);
+    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = -1, .after = -1})->start, 0);
+    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = 0, .after = -1})->start, 0);
 }
 
 }  // namespace
