@@ -95,6 +95,11 @@ void OwnerListView::RestoreMarks(const Place& place) const {
     }
 }
 
+void OwnerListView::Rescale() {
+    checkBoxes_.MakeAnew();
+    FitColumn();
+}
+
 void OwnerListView::FitColumn() const {
     // Twice at most: at its old width the column may have called for a scroll bar that goes with the new one.
     for (int pass = 0; pass < 2 && list_.ColumnWidth(0) != list_.ClientWidth(); ++pass) {

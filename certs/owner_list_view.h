@@ -46,6 +46,8 @@ class OwnerListView {
     void Show(const Place& place, SortMark mark);
     /// Makes the column as wide as the client area.
     void FitColumn() const;
+    /// Fits check boxes and column to the list's present scale.
+    void Rescale();
 
     /// Answers the control's question for a row (LVN_GETDISPINFO) or a search for one (LVN_ODFINDITEM). True
     /// when it was one of them; `result` is then the answer.

@@ -320,7 +320,8 @@ void CPreEncryptDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
 
 void CPreEncryptDlg::OnScaleChanged() {
     layout_.Rescale(DotsPerInch());
-    FitColumns();
+    foundList_.Rescale();
+    chosenList_.Rescale();
     ShowIcons();
 }
 

@@ -2,10 +2,13 @@
 
 #include <windowsx.h>
 
+#include <utility>
+
 namespace toolkit {
 
 namespace {
 
+constexpr UINT kMarks = LVIS_STATEIMAGEMASK;
 constexpr UINT kCheckedState = INDEXTOSTATEIMAGEMASK(2U);
 constexpr UINT kUncheckedState = INDEXTOSTATEIMAGEMASK(1U);
 
@@ -19,14 +22,21 @@ KeptCheckBoxes::~KeptCheckBoxes() {
 
 void KeptCheckBoxes::Attach(HWND list) {
     list_ = list;
-    SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
-    SendMessageW(list, LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK, 0);
-    SetWindowSubclass(list, &Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    MakeAnew();
+}
+
+void KeptCheckBoxes::MakeAnew() {
+    // The control clears all marks with the new boxes, which is not to reach those that are kept.
+    RemoveWindowSubclass(list_, &Procedure, 0);
+    SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, 0);
+    SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+    SendMessageW(list_, LVM_SETCALLBACKMASK, kMarks, 0);
+    SetWindowSubclass(list_, &Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void KeptCheckBoxes::AnswerDisplayRequest(LVITEMW& item) const {
-    if ((item.mask & LVIF_STATE) != 0 && (item.stateMask & LVIS_STATEIMAGEMASK) != 0 && item.iItem >= 0) {
-        item.state &= ~static_cast<UINT>(LVIS_STATEIMAGEMASK);
+    if ((item.mask & LVIF_STATE) != 0 && (item.stateMask & kMarks) != 0 && item.iItem >= 0) {
+        item.state &= ~kMarks;
         item.state |= IsChecked(item.iItem) ? kCheckedState : kUncheckedState;
     }
 }
@@ -45,28 +55,45 @@ LRESULT CALLBACK KeptCheckBoxes::Procedure(HWND list, UINT message, WPARAM wPara
 LRESULT KeptCheckBoxes::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     const auto handOn = [&] { return DefSubclassProc(list_, message, wParam, lParam); };
     switch (message) {
-        case LVM_SETITEMSTATE: {
-            const int row = static_cast<int>(wParam);
-            const auto& item = *reinterpret_cast<const LVITEMW*>(lParam);
-            if ((item.stateMask & LVIS_STATEIMAGEMASK) == 0) {
-                return handOn();
-            }
-            const bool isKnown = row == -1 || HasRow(row);
-            Put(row, (item.state & LVIS_STATEIMAGEMASK) == kCheckedState);
-            handOn();
-            return isKnown ? TRUE : FALSE;
-        }
+        case LVM_GETITEMSTATE:
+            return static_cast<LRESULT>(StateImage(static_cast<int>(wParam)) & static_cast<UINT>(lParam)) |
+                   DefSubclassProc(list_, message, wParam, lParam & ~static_cast<LPARAM>(kMarks));
+        case LVM_GETITEMA:
+        case LVM_GETITEMW:
+            return GetItem(message, wParam, *reinterpret_cast<LVITEMW*>(lParam));
+        case LVM_SETITEMSTATE:
+            return SetState(static_cast<int>(wParam), *reinterpret_cast<const LVITEMW*>(lParam));
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK: {
             const int row = RowOfBoxAt(lParam);
-            const bool wasChecked = row >= 0 && IsChecked(row);
-            const LRESULT result = handOn();
-            // A control that sets the mark by its own message has done so by now.
-            if (HasRow(row) && IsChecked(row) == wasChecked) {
-                Put(row, !wasChecked);
+            if (row < 0) {
+                return handOn();
             }
-            return result;
+            SetFocus(list_);
+            SetCapture(list_);
+            pressedRow_ = row;
+            return 0;
         }
+        case WM_MOUSEMOVE:
+            // Moved off the box, the press is a drag. Without the button it is not the mouse of this press.
+            if (pressedRow_ >= 0 && (wParam & MK_LBUTTON) != 0 && RowOfBoxAt(lParam) != pressedRow_) {
+                ReleaseCapture();
+            }
+            return handOn();
+        case WM_LBUTTONUP: {
+            const int row = std::exchange(pressedRow_, -1);
+            if (row < 0) {
+                return handOn();
+            }
+            ReleaseCapture();
+            if (RowOfBoxAt(lParam) == row) {
+                Put(row, !IsChecked(row));
+            }
+            return 0;
+        }
+        case WM_CAPTURECHANGED:
+            pressedRow_ = -1;
+            return handOn();
         case WM_KEYDOWN: {
             if (wParam != VK_SPACE) {
                 return handOn();
@@ -102,6 +129,44 @@ int KeptCheckBoxes::RowOfBoxAt(LPARAM point) const {
 int KeptCheckBoxes::NextRow(int after, UINT flag) const {
     return static_cast<int>(
         SendMessageW(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(after), MAKELPARAM(flag, 0)));
+}
+
+UINT KeptCheckBoxes::StateImage(int row) const {
+    if (!HasRow(row)) {
+        return 0;
+    }
+    return IsChecked(row) ? kCheckedState : kUncheckedState;
+}
+
+// The control itself keeps nothing but focus and selection, so nothing else is handed on.
+LRESULT KeptCheckBoxes::SetState(int row, const LVITEMW& item) {
+    LVITEMW rest = {};
+    rest.state = item.state & ~kMarks;
+    rest.stateMask = item.stateMask & ~kMarks;
+    const auto handOnTheRest = [&] {
+        return DefSubclassProc(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                               reinterpret_cast<LPARAM>(&rest));
+    };
+    if (rest.stateMask == item.stateMask) {
+        return handOnTheRest();
+    }
+    const bool isKnown = row == -1 || HasRow(row);
+    Put(row, (item.state & kMarks) == kCheckedState);
+    if (rest.stateMask != 0) {
+        handOnTheRest();
+    }
+    return isKnown ? TRUE : FALSE;
+}
+
+LRESULT KeptCheckBoxes::GetItem(UINT message, WPARAM wParam, LVITEMW& item) const {
+    const UINT wanted = (item.mask & LVIF_STATE) != 0 ? item.stateMask & kMarks : 0;
+    item.stateMask &= ~wanted;
+    const LRESULT result = DefSubclassProc(list_, message, wParam, reinterpret_cast<LPARAM>(&item));
+    item.stateMask |= wanted;
+    if (result != FALSE && wanted != 0) {
+        item.state = (item.state & ~kMarks) | (StateImage(item.iItem) & wanted);
+    }
+    return result;
 }
 
 void KeptCheckBoxes::Put(int row, bool isChecked) {

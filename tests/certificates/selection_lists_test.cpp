@@ -35,8 +35,8 @@ class SelectionLists : public SelectionTest {
         header.Send(HDM_GETITEMW, 0, block.Parameter());
         return block.Get<HDITEMW>().fmt & (HDF_SORTUP | HDF_SORTDOWN);
     }
-    /// The first row that the upper list's own search finds (LVM_FINDITEM).
-    [[nodiscard]] int FindOwner(UINT flags, const std::wstring& text) const {
+    /// The first row behind another that the upper list's own search finds (LVM_FINDITEM).
+    [[nodiscard]] int FindOwner(UINT flags, const std::wstring& text, int after = -1) const {
         driver::RemoteBlock block(Found().Handle(),
                                   sizeof(LVFINDINFOW) + (text.size() + 1) * sizeof(wchar_t));
         LVFINDINFOW search{};
@@ -44,7 +44,7 @@ class SelectionLists : public SelectionTest {
         search.psz = static_cast<const wchar_t*>(block.Address(sizeof search));
         block.Put(search);
         block.Write(text.c_str(), (text.size() + 1) * sizeof(wchar_t), sizeof search);
-        return static_cast<int>(Found().Send(LVM_FINDITEMW, static_cast<WPARAM>(-1), block.Parameter()));
+        return static_cast<int>(Found().Send(LVM_FINDITEMW, static_cast<WPARAM>(after), block.Parameter()));
     }
 };
 
@@ -110,6 +110,58 @@ TEST_F(SelectionLists, AClickOnACheckBoxChecksTheOwner) {
     EXPECT_EQ(Chosen().Column(0), Texts{kAdams});
 }
 
+TEST_F(SelectionLists, APressOnACheckBoxThatIsLetGoElsewhereChecksNobody) {
+    OpenWithFourFound();
+    const auto post = [&](UINT message, WPARAM buttons, POINT point) {
+        Found().Post(message, buttons, MAKELPARAM(point.x, point.y));
+    };
+    post(WM_LBUTTONDOWN, MK_LBUTTON, Found().CheckBoxCentre(1));
+    post(WM_LBUTTONUP, 0, Found().CheckBoxCentre(2));
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false}));
+    post(WM_LBUTTONDOWN, MK_LBUTTON, Found().CheckBoxCentre(1));
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false})) << "before it is let go";
+    post(WM_LBUTTONUP, 0, Found().CheckBoxCentre(1));
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, true, false, false}));
+}
+
+TEST_F(SelectionLists, ADoubleClickOnACheckBoxChecksTwiceAndShowsNothing) {
+    OpenWithFourFound({kNovak});
+    for (const driver::ListView& list : {Found(), Chosen()}) {
+        list.SetChecked(0, true);
+        list.PostLeftDoubleClick(list.CheckBoxCentre(0));
+        ExpectStaysOpen();
+        EXPECT_TRUE(list.IsChecked(0));
+        list.PostLeftClick(list.CheckBoxCentre(0));
+        SettleDialog();
+        EXPECT_FALSE(list.IsChecked(0));
+    }
+}
+
+TEST_F(SelectionLists, ChecksOutlastAChangeOfTheScale) {
+    OpenWithFourFound({kNovak, kBell});
+    Check(Found(), {1, 2});
+    Check(Chosen(), {1});
+    RECT bounds{};
+    GetWindowRect(Dialog().Handle(), &bounds);
+    driver::RemoteBlock suggested(Dialog().Handle(), sizeof bounds);
+    suggested.Put(bounds);
+    const UINT newScale = GetDpiForWindow(Dialog().Handle()) * 2;
+    Dialog().Send(WM_DPICHANGED, MAKEWPARAM(newScale, newScale), suggested.Parameter());
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, true, true, false}));
+    EXPECT_EQ(Chosen().Checks(), (Checks{false, true}));
+    for (const driver::ListView& list : {Found(), Chosen()}) {
+        EXPECT_NE(list.ExtendedListStyle() & LVS_EX_CHECKBOXES, 0U);
+        EXPECT_EQ(list.ColumnWidth(0), list.ClientSize().cx);
+    }
+    Found().PostLeftClick(Found().CheckBoxCentre(0));
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{true, true, true, false}));
+}
+
 TEST_F(SelectionLists, TheSpaceKeyChecksTheFocusedOwner) {
     OpenWithFourFound();
     Found().PostLeftClick(Found().CellCentre(2, 0));
@@ -139,6 +191,14 @@ TEST_F(SelectionLists, AnOwnerIsFoundByItsTextLikeInAnyList) {
     EXPECT_EQ(FindOwner(LVFI_STRING | LVFI_PARTIAL, L"CN=Bell"), 2);
     EXPECT_EQ(FindOwner(LVFI_STRING | LVFI_PARTIAL, L"CN="), 0);
     EXPECT_EQ(FindOwner(LVFI_STRING | LVFI_PARTIAL, L"CN=nobody"), -1);
+    constexpr UINT kSubstring = 0x4;
+    EXPECT_EQ(FindOwner(kSubstring, L"CN=Bell"), 2);
+    EXPECT_EQ(FindOwner(LVFI_STRING | kSubstring, L"bell"), -1) << "it has to be the beginning";
+    EXPECT_EQ(FindOwner(LVFI_WRAP, L"cn=bell,c=us"), 2);
+    EXPECT_EQ(FindOwner(LVFI_WRAP, L"CN=Bell"), -1);
+    EXPECT_EQ(FindOwner(LVFI_PARTIAL, L"CN=", 1), 2) << "the search begins behind the row";
+    EXPECT_EQ(FindOwner(LVFI_PARTIAL, L"CN=", 3), -1);
+    EXPECT_EQ(FindOwner(LVFI_PARTIAL | LVFI_WRAP, L"CN=", 3), 0);
 }
 
 TEST_F(SelectionLists, TypedLettersGoToTheOwnerThatBeginsWithThem) {
