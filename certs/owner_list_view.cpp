@@ -58,10 +58,11 @@ void OwnerListView::Show(const Place& place, SortMark mark) {
         }
         list_.SetRowCount(count);
         RestoreMarks(place);
-        list_.ScrollTo(place.topRow);
     }
     list_.MarkHeading(0, HeadingMarkFor(mark));
     FitColumn();
+    // Not before: a list that does not draw itself may not scroll either.
+    list_.ScrollTo(place.topRow);
 }
 
 // The control knows at once how many rows are selected, but looks at all of them to tell which.

@@ -88,7 +88,9 @@ void ListView::AppendRowsOnRequest(std::size_t count) const {
 }
 
 void ListView::SetRowCount(std::size_t count) const {
-    Send(LVM_SETITEMCOUNT, count);
+    // A list that gets shorter may have to scroll.
+    const bool mayStay = count >= static_cast<std::size_t>(RowCount());
+    Send(LVM_SETITEMCOUNT, count, mayStay ? LVSICF_NOSCROLL : 0);
 }
 
 void ListView::DeleteRow(int row) const {

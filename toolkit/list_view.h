@@ -37,7 +37,8 @@ class ListView {
     /// Appends `count` rows whose texts, those of all columns, are asked for when they are needed
     /// (LVN_GETDISPINFO).
     void AppendRowsOnRequest(std::size_t count) const;
-    /// Tells a list that holds no rows of its own (LVS_OWNERDATA) how many it shows.
+    /// Tells a list that holds no rows of its own (LVS_OWNERDATA) how many it shows. All rows are drawn anew;
+    /// the list stays where it is scrolled to unless it gets shorter.
     void SetRowCount(std::size_t count) const;
     void DeleteRow(int row) const;
     void DeleteAllRows() const;

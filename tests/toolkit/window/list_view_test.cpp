@@ -325,6 +325,24 @@ TEST_F(ListViewTest, ScrollingGoesAsFarAsThereAreRows) {
     EXPECT_EQ(list_.TopRow(), 0);
 }
 
+TEST_F(ListViewTest, AListWithoutRowsOfItsOwnStaysWhereItIsUnlessItGetsShorter) {
+    ListView list;
+    list.Attach(CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,
+                                0, 200, 150, dialog_.Window(), nullptr, GetModuleHandleW(nullptr), nullptr));
+    list.InsertColumn(0, L"Name");
+    list.SetRowCount(kManyRows);
+    list.MarkFocus(0);
+    list.ScrollTo(17);
+    ASSERT_EQ(list.TopRow(), 17);
+    list.SetRowCount(kManyRows);
+    EXPECT_EQ(list.TopRow(), 17) << "the row with the focus is not scrolled to";
+    list.SetRowCount(kManyRows * 2);
+    EXPECT_EQ(list.TopRow(), 17);
+    list.SetRowCount(3);
+    EXPECT_EQ(list.TopRow(), 0);
+    EXPECT_EQ(list.RowCount(), 3);
+}
+
 TEST_F(ListViewTest, RedrawingIsOffWhileLockedAndOnAgainAfterAnException) {
     std::vector<WPARAM> switched;
     const MessageWatcher watcher(list_.Window(), [&](UINT message) {
