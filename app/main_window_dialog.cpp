@@ -3,6 +3,7 @@
 #include <exception>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "app/about_dialog.h"
 #include "app/check_box_sync.h"
@@ -17,7 +18,6 @@
 #include "config/load_configuration.h"
 #include "config/save_configuration.h"
 #include "res/ids.h"
-#include "toolkit/control_place.h"
 #include "toolkit/window_scale.h"
 #include "toolkit/window_text.h"
 #include "toolkit/wrapped_caption.h"
@@ -42,7 +42,7 @@ CCorvaneDlg::CCorvaneDlg(const Services& services)
       ruleList_(state_) {}
 
 bool CCorvaneDlg::OnInitDialog() {
-    RememberSize();
+    RememberLayout();
     SetUpMenu();
     SetUpToolTips();
     SetWindowTextW(Window(), AppTitle);
@@ -116,10 +116,19 @@ void CCorvaneDlg::SetUpLists() {
                               LayOutProfileColumn(profileList_.ClientWidth(), scrollBarWidth, true));
 }
 
-void CCorvaneDlg::RememberSize() {
-    RECT client = {};
-    GetClientRect(Window(), &client);
-    tracker_.Remember(client.right, client.bottom);
+void CCorvaneDlg::RememberLayout() {
+    const auto share = [](bool follows) {
+        return follows ? toolkit::GrowthShare::kAll : toolkit::GrowthShare::kNone;
+    };
+    std::vector<toolkit::Anchor> anchors;
+    for (const ControlChange& control : kControlChanges) {
+        anchors.push_back({.controlId = control.id,
+                           .moveX = share(control.moveX),
+                           .moveY = share(control.moveY),
+                           .growX = share(control.growX),
+                           .growY = share(control.growY)});
+    }
+    layout_.Remember(Window(), anchors);
 }
 
 void CCorvaneDlg::RestorePlacement() const {
@@ -296,16 +305,10 @@ void CCorvaneDlg::OnSize(WPARAM kind, int width, int height) {
     if (kind != SIZE_RESTORED) {
         return;
     }
-    const toolkit::ResizeTracker::Change change = tracker_.ChangeTo(width, height);
     if (Control(kSaveAndExitButton) == nullptr) {
         return;
     }
-    for (const ControlChange& control : kControlChanges) {
-        toolkit::ChangePlace(Control(control.id), {.moveX = control.moveX ? change.width : 0,
-                                                   .moveY = control.moveY ? change.height : 0,
-                                                   .growX = control.growX ? change.width : 0,
-                                                   .growY = control.growY ? change.height : 0});
-    }
+    layout_.Arrange(width, height);
     LayOutColumns();
     InvalidateRect(Window(), nullptr, TRUE);
 }
@@ -368,8 +371,9 @@ void CCorvaneDlg::OnEndSession(bool /*isEnding*/) {
 }
 
 void CCorvaneDlg::OnScaleChanged() {
-    RememberSize();
+    layout_.Rescale(TemplateClientSize());
     SetUpIcons();
+    ruleList_.MakeCheckBoxesAgain();
     LayOutColumns();
 }
 

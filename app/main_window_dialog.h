@@ -8,11 +8,11 @@
 #include "app/services.h"
 #include "config/records.h"
 #include "config/registry_access.h"
+#include "toolkit/anchored_layout.h"
 #include "toolkit/button_icons.h"
 #include "toolkit/dialog.h"
 #include "toolkit/icon.h"
 #include "toolkit/list_view.h"
-#include "toolkit/resize_tracker.h"
 #include "toolkit/tool_tip.h"
 
 namespace corvane {
@@ -48,7 +48,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     void SetUpCaptions();
     void SetUpIcons();
     void SetUpLists();
-    void RememberSize();
+    void RememberLayout();
     void RestorePlacement() const;
 
     // The window's own commands.
@@ -91,7 +91,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     RuleListView ruleList_;
     toolkit::ListView profileList_;
     toolkit::ToolTip toolTip_;
-    toolkit::ResizeTracker tracker_;
+    toolkit::AnchoredLayout layout_;
     toolkit::UniqueIcon largeIcon_;
     toolkit::UniqueIcon smallIcon_;
     toolkit::ButtonIcons buttonIcons_;

@@ -25,6 +25,8 @@ class RuleListView {
     void Attach(HWND control, int scrollBarWidth);
     /// Shares its width out among the columns. `scrollBarWidth` in pixels.
     void LayOutColumns(int scrollBarWidth) const;
+    /// Has the check boxes drawn for the scale of today; the check marks stay.
+    void MakeCheckBoxesAgain() const { list_.MakeCheckBoxesAgain(); }
 
     void Clear();
     /// Shows the rules of the profile at this position of the configuration that match the search text.

@@ -35,9 +35,12 @@ bool AwaitDlg::ShowPainted() {
 }
 
 void AwaitDlg::MoveToMiddle(HWND owner) const {
-    const WindowRectangle own = NormalPosition(Window());
-    const ScreenPoint place = WaitWindowPlace(NormalPosition(owner), own);
-    MoveWindow(Window(), place.left, place.top, own.right - own.left, own.bottom - own.top, TRUE);
+    // Twice, because on the way to a screen of another scale its size changes.
+    for (int pass = 0; pass < 2; ++pass) {
+        const ScreenPoint place = WaitWindowPlace(NormalPosition(owner), NormalPosition(Window()));
+        SetWindowPos(Window(), nullptr, place.left, place.top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 bool AwaitDlg::OnInitDialog() {

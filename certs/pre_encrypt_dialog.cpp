@@ -93,25 +93,24 @@ bool CPreEncryptDlg::OnInitDialog() {
 void CPreEncryptDlg::SetUpControls() {
     using enum toolkit::GrowthShare;
     layout_.Remember(
-        Window(), DotsPerInch(),
-        {
-            {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
-            {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
-            {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
-            {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
-            {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
-            {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
-            {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
-            {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
-            {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
-            {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
-        });
+        Window(), {
+                      {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
+                      {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
+                      {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
+                      {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
+                      {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
+                      {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
+                      {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
+                      {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+                      {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+                  });
     SetWindowTextW(Window(), form_.Title().c_str());
     for (const Caption& caption : kCaptions) {
         SetControlText(caption.controlId, caption.text);
@@ -319,7 +318,7 @@ void CPreEncryptDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
 }
 
 void CPreEncryptDlg::OnScaleChanged() {
-    layout_.Rescale(DotsPerInch());
+    layout_.Rescale(TemplateClientSize());
     foundList_.Rescale();
     chosenList_.Rescale();
     ShowIcons();

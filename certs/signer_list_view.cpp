@@ -1,5 +1,7 @@
 #include "certs/signer_list_view.h"
 
+#include "toolkit/window_scale.h"
+
 namespace corvane {
 
 namespace {
@@ -16,12 +18,13 @@ void SignerListView::Attach(HWND control) {
     list_.InsertColumn(kSignersColumn, L"Signers");
 }
 
-void SignerListView::LayOutColumns(int scrollBarWidth) const {
+void SignerListView::LayOutColumns(UINT dotsPerInch) const {
     // The name takes a third. Room for the scroll bar is left from the beginning, so that nothing moves when
     // it comes.
     RECT window = {};
     GetWindowRect(list_.Window(), &window);
-    const int width = window.right - window.left - 2 * GetSystemMetrics(SM_CXBORDER) - scrollBarWidth;
+    const int width = window.right - window.left - 2 * toolkit::SystemMetric(SM_CXBORDER, dotsPerInch) -
+                      toolkit::SystemMetric(SM_CXVSCROLL, dotsPerInch);
     list_.SetColumnWidth(kNameColumn, width / 3);
     list_.SetColumnWidth(kSignersColumn, width - width / 3);
 }

@@ -21,8 +21,8 @@ class SignerListView {
 
     /// Takes over the control and makes its columns.
     void Attach(HWND control);
-    /// Shares its width out among the columns. `scrollBarWidth` in pixels.
-    void LayOutColumns(int scrollBarWidth) const;
+    /// Shares its width out among the columns, at the scale of its dialog.
+    void LayOutColumns(UINT dotsPerInch) const;
 
     /// Appends the rows of the lists that have none yet, and shows the others as they are now. All keep their
     /// selection.

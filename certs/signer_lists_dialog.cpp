@@ -13,7 +13,6 @@
 #include "toolkit/anchored_layout.h"
 #include "toolkit/dialog.h"
 #include "toolkit/icon.h"
-#include "toolkit/window_scale.h"
 
 namespace corvane {
 
@@ -79,15 +78,14 @@ bool SignerList::OnInitDialog() {
 
 void SignerList::SetUpLayout() {
     using enum toolkit::GrowthShare;
-    layout_.Remember(Window(), DotsPerInch(),
-                     {
-                         {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
-                         {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
-                         {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
-                         {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
-                         {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
-                         {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
-                     });
+    layout_.Remember(Window(), {
+                                   {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
+                                   {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
+                                   {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
+                                   {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
+                                   {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+                                   {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+                               });
 }
 
 void SignerList::ShowIcons() {
@@ -95,7 +93,7 @@ void SignerList::ShowIcons() {
 }
 
 void SignerList::LayOutColumns() const {
-    list_.LayOutColumns(toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch()));
+    list_.LayOutColumns(DotsPerInch());
 }
 
 void SignerList::ShowWhatCanBeDone() const {
@@ -212,7 +210,7 @@ void SignerList::OnMinimumMaximumInfo(MINMAXINFO& info) {
 }
 
 void SignerList::OnScaleChanged() {
-    layout_.Rescale(DotsPerInch());
+    layout_.Rescale(TemplateClientSize());
     LayOutColumns();
     ShowIcons();
 }

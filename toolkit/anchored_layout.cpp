@@ -23,39 +23,37 @@ int ShareOf(GrowthShare share, int growth) {
 
 }  // namespace
 
-void AnchoredLayout::Remember(HWND dialog, UINT dotsPerInch, std::initializer_list<Anchor> anchors) {
+void AnchoredLayout::Remember(HWND dialog, const std::vector<Anchor>& anchors) {
     dialog_ = dialog;
-    dotsPerInch_ = dotsPerInch;
     RECT client = {};
     GetClientRect(dialog, &client);
     client_ = {client.right, client.bottom};
+    controls_.clear();
     for (const Anchor& anchor : anchors) {
         controls_.push_back({anchor, PlaceOf(GetDlgItem(dialog, anchor.controlId))});
     }
 }
 
-void AnchoredLayout::Rescale(UINT dotsPerInch) {
-    const auto scale = [from = dotsPerInch_, dotsPerInch](LONG& pixels) {
-        pixels = MulDiv(pixels, static_cast<int>(dotsPerInch), static_cast<int>(from));
-    };
-    scale(client_.cx);
-    scale(client_.cy);
-    for (AnchoredControl& control : controls_) {
-        scale(control.place.left);
-        scale(control.place.top);
-        scale(control.place.right);
-        scale(control.place.bottom);
+void AnchoredLayout::Rescale(const SIZE& templateClient) {
+    if (dialog_ == nullptr) {
+        return;
     }
-    dotsPerInch_ = dotsPerInch;
-    RECT client = {};
-    GetClientRect(dialog_, &client);
-    Arrange(client.right, client.bottom);
+    client_ = templateClient;
+    for (AnchoredControl& control : controls_) {
+        control.place = PlaceOf(GetDlgItem(dialog_, control.anchor.controlId));
+    }
+    if (IsIconic(dialog_) == FALSE) {
+        RECT client = {};
+        GetClientRect(dialog_, &client);
+        Arrange(client.right, client.bottom);
+    }
 }
 
 void AnchoredLayout::Arrange(int width, int height) const {
-    // Smaller than its template a dialog is only for a moment, and then nothing shrinks to less than nothing.
-    const int growthX = std::max(0, width - static_cast<int>(client_.cx));
-    const int growthY = std::max(0, height - static_cast<int>(client_.cy));
+    const int growthX = width - static_cast<int>(client_.cx);
+    const int growthY = height - static_cast<int>(client_.cy);
+    // Where the dialog is smaller than its template, what would grow gives way.
+    const auto grown = [](LONG size, int growth) { return std::max(0, static_cast<int>(size) + growth); };
     for (const AnchoredControl& control : controls_) {
         const Anchor& anchor = control.anchor;
         const RECT& place = control.place;
@@ -63,8 +61,8 @@ void AnchoredLayout::Arrange(int width, int height) const {
         const bool keepsSize = anchor.growX == GrowthShare::kNone && anchor.growY == GrowthShare::kNone;
         SetWindowPos(GetDlgItem(dialog_, anchor.controlId), nullptr,
                      place.left + ShareOf(anchor.moveX, growthX), place.top + ShareOf(anchor.moveY, growthY),
-                     place.right - place.left + ShareOf(anchor.growX, growthX),
-                     place.bottom - place.top + ShareOf(anchor.growY, growthY),
+                     grown(place.right - place.left, ShareOf(anchor.growX, growthX)),
+                     grown(place.bottom - place.top, ShareOf(anchor.growY, growthY)),
                      SWP_NOZORDER | SWP_NOACTIVATE | (keepsSize ? SWP_NOSIZE : 0U));
     }
 }

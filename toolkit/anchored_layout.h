@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <initializer_list>
 #include <vector>
 
 namespace toolkit {
@@ -23,11 +22,12 @@ struct Anchor {
 /// the one in the template, so that nothing drifts, however often the size changes.
 class AnchoredLayout {
   public:
-    /// Remembers the dialog and its controls as the template made them at this scale: its smallest size, too.
-    void Remember(HWND dialog, UINT dotsPerInch, std::initializer_list<Anchor> anchors);
-    /// The dialog has come to another scale: what is remembered is scaled likewise, and the controls are put
-    /// where they belong.
-    void Rescale(UINT dotsPerInch);
+    /// Remembers the dialog and its controls as the template made them.
+    void Remember(HWND dialog, const std::vector<Anchor>& anchors);
+    /// The dialog has come to another scale, at which its template has this client area and every control is
+    /// where the template has it: that is remembered from now on, and the controls are put where they belong
+    /// in the dialog's present size. A minimised dialog has none; it tells its size when it is restored.
+    void Rescale(const SIZE& templateClient);
     /// Puts the controls where they belong in a client area of this size, in pixels.
     void Arrange(int width, int height) const;
     /// Keeps the user from making the dialog smaller than its template (WM_GETMINMAXINFO).
@@ -40,8 +40,7 @@ class AnchoredLayout {
     };
 
     HWND dialog_ = nullptr;
-    UINT dotsPerInch_ = USER_DEFAULT_SCREEN_DPI;
-    SIZE client_ = {};
+    SIZE client_ = {};  ///< Of the template, at the present scale.
     std::vector<AnchoredControl> controls_;
 };
 

@@ -11,13 +11,6 @@ RECT PlaceOf(HWND control) {
     return place;
 }
 
-void ChangePlace(HWND control, const PlaceChange& change) {
-    const RECT place = PlaceOf(control);
-    SetWindowPos(control, nullptr, place.left + change.moveX, place.top + change.moveY,
-                 place.right - place.left + change.growX, place.bottom - place.top + change.growY,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void CenterOver(HWND window, HWND owner) {
     RECT own = {};
     RECT around = {};

@@ -167,6 +167,10 @@ void Dialog::EnableControl(int controlId, bool isEnabled) const {
     EnableWindow(Control(controlId), isEnabled ? TRUE : FALSE);
 }
 
+void Dialog::FocusControl(int controlId) const {
+    SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(controlId)), TRUE);
+}
+
 INT_PTR CALLBACK Dialog::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         auto* const created = reinterpret_cast<Dialog*>(lParam);
@@ -190,6 +194,7 @@ bool Dialog::Begin(HWND window) {
     window_ = window;
     dotsPerInch_ = WindowDotsPerInch(window);
     TakeOverScaling(window);
+    scale_.Remember(window, dotsPerInch_);
     const HWND owner = GetWindow(window, GW_OWNER);
     if (isModal_ && owner != nullptr && IsWindowVisible(owner) != FALSE && IsIconic(owner) == FALSE) {
         CenterOver(window, owner);
@@ -282,18 +287,8 @@ void Dialog::Rescale(UINT dotsPerInch, const RECT& suggested) {
     }
     {
         const FlagSetter rescaling(isRescaling_);
-        SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
-                     suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-        // The dialog manager goes on answering with the font that it made and will delete; the controls show
-        // the one that was scaled last.
-        const HFONT shownFont = scaledFont_ != nullptr
-                                    ? scaledFont_.get()
-                                    : reinterpret_cast<HFONT>(SendMessageW(window_, WM_GETFONT, 0, 0));
-        std::unique_ptr<HFONT, FontDeleter> font(ScaledFont(shownFont, dotsPerInch_, dotsPerInch));
-        RescaleControls(window_, font.get(), dotsPerInch_, dotsPerInch);
-        if (font != nullptr) {
-            scaledFont_ = std::move(font);
-        }
+        scale_.ShowAt(dotsPerInch);
+        scale_.PlaceWindow(suggested);
         dotsPerInch_ = dotsPerInch;
     }
     OnScaleChanged();

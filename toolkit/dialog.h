@@ -3,10 +3,10 @@
 #include <windows.h>
 
 #include <exception>
-#include <memory>
 #include <string>
 
 #include "toolkit/data_exchange.h"
+#include "toolkit/template_scale.h"
 
 namespace toolkit {
 
@@ -71,7 +71,8 @@ class Dialog {
     virtual bool OnQueryEndSession();
     /// Windows ends now, or has thought better of it after OnQueryEndSession.
     virtual void OnEndSession(bool isEnding);
-    /// The controls have been scaled for another screen; what depends on pixels is to be made anew.
+    /// The dialog has come to a screen of another scale. Every control is where the template has it at that
+    /// scale; what follows the size of the window, or else depends on pixels, is to be arranged again.
     virtual void OnScaleChanged();
     /// A message before it is dispatched. True when it was used up. The base class gives the dialog its
     /// keyboard interface.
@@ -94,8 +95,13 @@ class Dialog {
     [[nodiscard]] HWND Control(int controlId) const { return GetDlgItem(window_, controlId); }
     void SetControlText(int controlId, const wchar_t* text) const;
     void EnableControl(int controlId, bool isEnabled) const;
+    /// Moves the focus to a control as the Tab key would: the text of a field is selected, and the default
+    /// button is the one with the focus or else the dialog's own.
+    void FocusControl(int controlId) const;
     /// The window's scale in dots per inch.
     [[nodiscard]] UINT DotsPerInch() const { return dotsPerInch_; }
+    /// The client area of the template at the window's scale, in pixels.
+    [[nodiscard]] SIZE TemplateClientSize() const { return scale_.ClientSize(); }
 
   private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -109,16 +115,11 @@ class Dialog {
     HWND CreateTemplateWindow(HWND owner);
     int RunLoop();
 
-    struct FontDeleter {
-        using pointer = HFONT;
-        void operator()(HFONT font) const { DeleteObject(font); }
-    };
-
     int templateId_;
     HWND owner_;
     HWND window_ = nullptr;
     UINT dotsPerInch_ = USER_DEFAULT_SCREEN_DPI;
-    std::unique_ptr<HFONT, FontDeleter> scaledFont_;
+    TemplateScale scale_;
     int result_ = -1;
     bool isModal_ = false;
     bool hasEnded_ = false;

@@ -190,6 +190,23 @@ void ListView::SetChecked(int row, bool isChecked) const {
     SetState(row, INDEXTOSTATEIMAGEMASK(isChecked ? 2U : 1U), LVIS_STATEIMAGEMASK);
 }
 
+void ListView::MakeCheckBoxesAgain() const {
+    if (control_ == nullptr) {
+        return;
+    }
+    const RedrawLock locked(*this);
+    std::vector<bool> checked;
+    for (int row = 0, count = RowCount(); row < count; ++row) {
+        checked.push_back(CheckState(row) == 1);
+    }
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, 0);
+    Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+    // Every row is unchecked by now.
+    for (std::size_t row = 0; row < checked.size(); ++row) {
+        SetChecked(static_cast<int>(row), checked[row]);
+    }
+}
+
 int ListView::CheckState(int row) const {
     const LRESULT state = Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK);
     constexpr int kStateImageShift = 12;

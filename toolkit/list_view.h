@@ -61,6 +61,9 @@ class ListView {
     void Focus() const;
 
     void SetChecked(int row, bool isChecked) const;
+    /// Has the control draw its check boxes for the scale of today (it makes them when it is given the style,
+    /// LVS_EX_CHECKBOXES); the rows keep their check marks.
+    void MakeCheckBoxesAgain() const;
     /// The state image index of the row minus 1: 0 without, 1 with a check mark, -1 where there is no row.
     [[nodiscard]] int CheckState(int row) const;
 

@@ -17,12 +17,4 @@ namespace toolkit {
 /// where Windows lacks it).
 void TakeOverScaling(HWND dialog);
 
-/// Makes a font like the given one, scaled from one dots-per-inch figure to another. It belongs to the
-/// caller; null when there is none to begin with.
-[[nodiscard]] HFONT ScaledFont(HFONT font, UINT from, UINT to);
-
-/// Scales every child of `dialog` from one dots-per-inch figure to another and gives it `font`, which must
-/// outlive the controls; with null each keeps its own.
-void RescaleControls(HWND dialog, HFONT font, UINT from, UINT to);
-
 }  // namespace toolkit

@@ -1,7 +1,6 @@
 #include "app/reporting/warning_box.h"
 
 #include "res/ids.h"
-#include "toolkit/control_place.h"
 #include "toolkit/window_scale.h"
 
 namespace corvane {
@@ -10,7 +9,12 @@ WarningBox::WarningBox(HWND owner, bool isErrorMode)
     : Dialog(IDD_WARNING_BOX, owner), isErrorMode_(isErrorMode) {}
 
 bool WarningBox::OnInitDialog() {
-    RememberSize();
+    using enum toolkit::GrowthShare;
+    layout_.Remember(Window(), {
+                                   {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+                                   {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+                                   {.controlId = IDC_WARNING_BOX_EDIT, .growX = kAll, .growY = kAll},
+                               });
     ShowIcons();
     EnableControl(IDOK, false);
     ShowWindow(Control(IDOK), SW_HIDE);
@@ -32,24 +36,11 @@ void WarningBox::ShowIcons() {
     toolkit::ShowWindowIcons(Window(), DotsPerInch(), icon, largeIcon_, smallIcon_);
 }
 
-void WarningBox::RememberSize() {
-    RECT client = {};
-    GetClientRect(Window(), &client);
-    tracker_.Remember(client.right, client.bottom);
-}
-
 void WarningBox::OnSize(WPARAM kind, int width, int height) {
     if (kind != SIZE_RESTORED) {
         return;
     }
-    const toolkit::ResizeTracker::Change change = tracker_.ChangeTo(width, height);
-    if (Control(IDCANCEL) == nullptr) {
-        return;
-    }
-    for (const int button : {IDOK, IDCANCEL}) {
-        toolkit::ChangePlace(Control(button), {.moveX = change.width, .moveY = change.height});
-    }
-    toolkit::ChangePlace(Control(IDC_WARNING_BOX_EDIT), {.growX = change.width, .growY = change.height});
+    layout_.Arrange(width, height);
     InvalidateRect(Window(), nullptr, TRUE);
 }
 
@@ -68,7 +59,7 @@ void WarningBox::OnMinimumMaximumInfo(MINMAXINFO& info) {
 }
 
 void WarningBox::OnScaleChanged() {
-    RememberSize();
+    layout_.Rescale(TemplateClientSize());
     ShowIcons();
 }
 

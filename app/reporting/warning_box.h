@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "toolkit/anchored_layout.h"
 #include "toolkit/dialog.h"
 #include "toolkit/icon.h"
-#include "toolkit/resize_tracker.h"
 
 namespace corvane {
 
@@ -27,12 +27,11 @@ class WarningBox final : public toolkit::Dialog {
 
   private:
     void ShowIcons();
-    void RememberSize();
 
     bool isErrorMode_;
     toolkit::UniqueIcon largeIcon_;
     toolkit::UniqueIcon smallIcon_;
-    toolkit::ResizeTracker tracker_;
+    toolkit::AnchoredLayout layout_;
 };
 
 }  // namespace corvane

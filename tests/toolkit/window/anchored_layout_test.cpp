@@ -18,7 +18,7 @@ class AnchoredLayoutTest : public ::testing::Test {
         MoveWindow(dialog_.Control(IDC_TEXT_EDIT), 10, 20, 100, 30, FALSE);
         MoveWindow(dialog_.Control(IDC_ROW_LIST), 10, 60, 100, 30, FALSE);
         MoveWindow(dialog_.Control(IDOK), 10, 100, 50, 25, FALSE);
-        layout_.Remember(dialog_.Window(), 96,
+        layout_.Remember(dialog_.Window(),
                          {{.controlId = IDC_TEXT_EDIT, .growX = kAll, .growY = kHalf},
                           {.controlId = IDC_ROW_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
                           {.controlId = IDOK, .moveX = kAll, .moveY = kAll}});
@@ -58,10 +58,18 @@ TEST_F(AnchoredLayoutTest, ManySmallStepsEndWhereOneLargeStepDoes) {
     ExpectPlace(IDOK, {10, 100, 60, 125});
 }
 
-TEST_F(AnchoredLayoutTest, NothingShrinksBelowTheTemplate) {
-    layout_.Arrange(width_ - 50, 0);
-    ExpectPlace(IDC_TEXT_EDIT, {10, 20, 110, 50});
-    ExpectPlace(IDOK, {10, 100, 60, 125});
+TEST_F(AnchoredLayoutTest, WhatGrowsGivesWayInADialogSmallerThanItsTemplate) {
+    layout_.Arrange(width_ - 3, height_ - 4);
+    ExpectPlace(IDC_TEXT_EDIT, {10, 20, 107, 48});
+    ExpectPlace(IDC_ROW_LIST, {10, 58, 107, 86});
+    ExpectPlace(IDOK, {7, 96, 57, 121});
+}
+
+TEST_F(AnchoredLayoutTest, NothingShrinksToLessThanNothing) {
+    layout_.Arrange(width_ - 150, height_ - 100);
+    const RECT place = PlaceOf(dialog_.Control(IDC_TEXT_EDIT));
+    EXPECT_EQ(place.right - place.left, 0);
+    EXPECT_EQ(place.bottom - place.top, 0);
 }
 
 TEST_F(AnchoredLayoutTest, TheTemplateIsTheSmallestSize) {
@@ -73,25 +81,21 @@ TEST_F(AnchoredLayoutTest, TheTemplateIsTheSmallestSize) {
     EXPECT_EQ(info.ptMinTrackSize.y, frame.bottom - frame.top);
 }
 
-TEST_F(AnchoredLayoutTest, AnotherScaleScalesWhatIsRemembered) {
-    layout_.Rescale(144);
-    layout_.Arrange(width_ * 3 / 2 + 10, height_ * 3 / 2 + 10);
-    const RECT place = PlaceOf(dialog_.Control(IDC_TEXT_EDIT));
-    EXPECT_EQ(place.left, 15);
-    EXPECT_EQ(place.top, 30);
-    EXPECT_NEAR(place.right - place.left, 160, 1);
-    EXPECT_NEAR(place.bottom - place.top, 50, 1);
-}
-
-TEST_F(AnchoredLayoutTest, AnotherScalePutsTheControlsInTheirPlaces) {
-    layout_.Rescale(192);
-    layout_.Rescale(48);
-    const RECT place = PlaceOf(dialog_.Control(IDOK));
-    // The dialog itself has kept its size, so it is half again as large as what is remembered now.
-    const auto halfWidth = width_ / 2;
-    const auto halfHeight = height_ / 2;
-    EXPECT_NEAR(place.left, 5 + width_ - halfWidth, 1);
-    EXPECT_NEAR(place.top, 50 + height_ - halfHeight, 1);
+TEST_F(AnchoredLayoutTest, AtAnotherScaleTheTemplateOfThatScaleIsGrown) {
+    MoveWindow(dialog_.Control(IDC_TEXT_EDIT), 15, 30, 150, 45, FALSE);
+    MoveWindow(dialog_.Control(IDC_ROW_LIST), 15, 90, 150, 45, FALSE);
+    MoveWindow(dialog_.Control(IDOK), 15, 150, 75, 40, FALSE);
+    layout_.Rescale({width_ - 6, height_ - 4});
+    ExpectPlace(IDC_TEXT_EDIT, {15, 30, 171, 77});
+    ExpectPlace(IDC_ROW_LIST, {15, 92, 171, 139});
+    ExpectPlace(IDOK, {21, 154, 96, 194});
+    layout_.Arrange(width_, height_ + 2);
+    ExpectPlace(IDOK, {21, 156, 96, 196});
+    RECT frame = {};
+    GetWindowRect(dialog_.Window(), &frame);
+    MINMAXINFO info = {};
+    layout_.LimitSize(info);
+    EXPECT_EQ(info.ptMinTrackSize.x, frame.right - frame.left - 6);
 }
 
 TEST(AnchoredLayoutBeforeItsDialog, LimitsNothing) {

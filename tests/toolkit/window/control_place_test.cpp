@@ -32,17 +32,6 @@ TEST(PlaceOf, IsTheRectangleInTheClientArea) {
     ExpectRectangle(PlaceOf(edit), {11, 22, 141, 46});
 }
 
-TEST(ChangePlace, MovesAndGrows) {
-    TestDialog dialog;
-    ASSERT_TRUE(dialog.CreateModeless());
-    const HWND edit = dialog.Control(IDC_TEXT_EDIT);
-    MoveWindow(edit, 11, 22, 130, 24, FALSE);
-    ChangePlace(edit, {.moveX = 5, .moveY = -2, .growX = 10, .growY = 3});
-    ExpectRectangle(PlaceOf(edit), {16, 20, 156, 47});
-    ChangePlace(edit, {});
-    ExpectRectangle(PlaceOf(edit), {16, 20, 156, 47});
-}
-
 TEST(CenterOver, PutsTheWindowInTheMiddleOfItsOwner) {
     const TestWindow owner;
     const TestWindow window;

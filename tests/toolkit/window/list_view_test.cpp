@@ -386,5 +386,24 @@ TEST(ListViewFocus, GoesToTheControl) {
     EXPECT_EQ(GetFocus(), list.Window());
 }
 
+TEST_F(ListViewTest, CheckBoxesThatAreMadeAgainKeepTheirMarks) {
+    list_.AddExtendedStyles(LVS_EX_CHECKBOXES);
+    AppendRows({L"a", L"b", L"c"});
+    list_.SetChecked(1, true);
+    // Pictures of some other scale.
+    SendMessageW(list_.Window(), LVM_SETIMAGELIST, LVSIL_STATE,
+                 reinterpret_cast<LPARAM>(ImageList_Create(5, 5, ILC_COLOR, 2, 0)));
+    list_.MakeCheckBoxesAgain();
+    int width = 0;
+    int height = 0;
+    ImageList_GetIconSize(
+        reinterpret_cast<HIMAGELIST>(SendMessageW(list_.Window(), LVM_GETIMAGELIST, LVSIL_STATE, 0)), &width,
+        &height);
+    EXPECT_GT(width, 5) << "The control has made them.";
+    EXPECT_EQ(list_.CheckState(0), 0);
+    EXPECT_EQ(list_.CheckState(1), 1);
+    EXPECT_EQ(list_.CheckState(2), 0);
+}
+
 }  // namespace
 }  // namespace toolkit
