@@ -125,6 +125,9 @@ void CConfigPage::DeleteSelectedExtension() {
     if (form_.DeleteExtension(extension, reporter_, Window())) {
         list.Delete(selected);
     }
+    if (!extension) {
+        FocusControl(IDC_CONFIG_ADDITIONAL_LIST);
+    }
 }
 
 void CConfigPage::Apply() {
@@ -138,7 +141,7 @@ void CConfigPage::Apply() {
     for (const ExtensionEdit& row : kExtensionEdits) {
         if (row.field == *missing) {
             // To where it can be mended.
-            SendMessageW(Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(row.editId)), TRUE);
+            FocusControl(row.editId);
         }
     }
 }

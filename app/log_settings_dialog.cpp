@@ -59,10 +59,14 @@ void CConflictDlg::OnSizeChanged() {
 
 void CConflictDlg::OnOk() {
     TakeData();
-    if (form_.Confirm(services_.files, services_.reporter, services_.messages, Window())) {
-        PutData();
-        EndModal(IDOK);
+    const std::optional<LogSettingsField> refused =
+        form_.Confirm(services_.files, services_.reporter, services_.messages, Window());
+    if (refused) {
+        FocusControl(*refused == LogSettingsField::kPath ? IDC_LOG_FOLDER_EDIT : IDC_LOG_SIZE_EDIT);
+        return;
     }
+    PutData();
+    EndModal(IDOK);
 }
 
 void CConflictDlg::ExchangeFields(toolkit::DataExchange& exchange) {

@@ -57,22 +57,23 @@ void LogSettingsForm::ChooseFolder(const std::wstring& folder, toolkit::FileCall
     editedPath = folder;
 }
 
-bool LogSettingsForm::Confirm(toolkit::FileCalls& files, ErrorReporter& reporter,
-                              toolkit::MessagePresenter& messages, toolkit::WindowHandle dialog) {
+std::optional<LogSettingsField> LogSettingsForm::Confirm(toolkit::FileCalls& files, ErrorReporter& reporter,
+                                                         toolkit::MessagePresenter& messages,
+                                                         toolkit::WindowHandle dialog) {
     if (!IsFolderThere(editedPath, files, reporter, dialog)) {
-        return false;
+        return LogSettingsField::kPath;
     }
     if (logFileSize < kSmallestLogFileSize) {
         messages.Show(dialog, L"Log files size must be bigger than 400 KB.",
                       L"QENT automized client Velmaris", kRefusalStyle);
-        return false;
+        return LogSettingsField::kSize;
     }
     if (!IsDriveOrNetworkPath(editedPath)) {
         ReportBadPath(kCodePathNotFound, editedPath, reporter, dialog);
-        return false;
+        return LogSettingsField::kPath;
     }
     logPath_ = editedPath;
-    return true;
+    return std::nullopt;
 }
 
 }  // namespace corvane

@@ -17,6 +17,9 @@ inline constexpr wchar_t kLogFolderButtonText[] = L"Log path";
 inline constexpr wchar_t kLogSettingsExitText[] = L"Exit";
 inline constexpr wchar_t kLogSizeLabelText[] = L"Log files size (KB.):";
 
+/// The fields that OK may refuse.
+enum class LogSettingsField { kPath, kSize };
+
 /// What the log settings dialog edits and decides: the folder of the client's log and the largest size of
 /// its files. The dialog copies the two edited members from and to its controls and asks the form what to
 /// do; the caller takes the results after OK.
@@ -34,10 +37,11 @@ class LogSettingsForm {
     void ChooseFolder(const std::wstring& folder, toolkit::FileCalls& files, ErrorReporter& reporter,
                       toolkit::WindowHandle dialog);
 
-    /// The user pressed OK. Returns whether the dialog may end; a refusal has been shown, owned by `dialog`,
-    /// and left everything as it was.
-    [[nodiscard]] bool Confirm(toolkit::FileCalls& files, ErrorReporter& reporter,
-                               toolkit::MessagePresenter& messages, toolkit::WindowHandle dialog);
+    /// The user pressed OK. Returns the field to mend, or none where the dialog may end; a refusal has been
+    /// shown, owned by `dialog`, and left everything as it was.
+    [[nodiscard]] std::optional<LogSettingsField> Confirm(toolkit::FileCalls& files, ErrorReporter& reporter,
+                                                          toolkit::MessagePresenter& messages,
+                                                          toolkit::WindowHandle dialog);
 
     /// The log path: the one handed in until OK has been confirmed, then the edited one.
     [[nodiscard]] const std::wstring& LogPath() const { return logPath_; }

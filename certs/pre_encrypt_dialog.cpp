@@ -268,6 +268,7 @@ void CPreEncryptDlg::OpenGroup() {
 
 void CPreEncryptDlg::SaveGroup() {
     if (!MaySaveGroup(form_, reporter_, Window())) {
+        FocusControl(IDC_SELECTION_FOUND_LIST);
         return;
     }
     const std::optional<std::wstring> path =
@@ -294,8 +295,22 @@ void CPreEncryptDlg::ShowDetails(const OwnerBox& box) {
 void CPreEncryptDlg::OnOk() {
     TakeData();
     const WaitCursor waiting;
-    if (form_.Confirm(context_, reporter_, Window())) {
-        EndModal(IDOK);
+    switch (form_.Confirm(context_, reporter_, Window())) {
+        case SelectionOutcome::kAccepted:
+            EndModal(IDOK);
+            break;
+        case SelectionOutcome::kBadListName:
+            FocusControl(IDC_SELECTION_LIST_NAME_EDIT);
+            break;
+        case SelectionOutcome::kNobodyChosen:
+            // Whoever is checked here can be added.
+            FocusControl(IDC_SELECTION_FOUND_LIST);
+            break;
+        case SelectionOutcome::kBadOwner:
+            FocusControl(IDC_SELECTION_CHOSEN_LIST);
+            break;
+        case SelectionOutcome::kFailed:
+            break;
     }
 }
 

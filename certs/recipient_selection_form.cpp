@@ -242,10 +242,10 @@ OwnerBox RecipientSelectionForm::ChosenDetails(std::size_t position) const {
     return {IsForSigners() ? L"Signer" : L"Recipient", OwnerLines(ChosenRow(position).owner)};
 }
 
-bool RecipientSelectionForm::Confirm(const Cryptocontext& context, ErrorReporter& reporter,
-                                     toolkit::WindowHandle dialog) {
+SelectionOutcome RecipientSelectionForm::Confirm(const Cryptocontext& context, ErrorReporter& reporter,
+                                                 toolkit::WindowHandle dialog) {
     if (IsForSigners() && !IsListNameAccepted(reporter, dialog)) {
-        return false;
+        return SelectionOutcome::kBadListName;
     }
     TextList kept;
     for (const std::size_t row : chosenRows_) {
@@ -253,7 +253,7 @@ bool RecipientSelectionForm::Confirm(const Cryptocontext& context, ErrorReporter
         TextList issuers;
         TextList serials;
         if (!FindByOwner(dialog, settings_, context, owner, reporter, issuers, serials)) {
-            return false;
+            return SelectionOutcome::kFailed;
         }
         if (!issuers.empty()) {
             kept.push_back(owner);
@@ -262,16 +262,16 @@ bool RecipientSelectionForm::Confirm(const Cryptocontext& context, ErrorReporter
         const std::wstring question = toolkit::FormatText(
             L"No certificates found for user %s.\r\nContinue to check other users?", {owner});
         if (reporter.ShowMessage(dialog, question, kWarningQuestionStyle) != kAnswerYes) {
-            return false;
+            return SelectionOutcome::kBadOwner;
         }
     }
     // Recipients may be cleared so; a signer list without signers would verify nothing.
     if (IsForSigners() && kept.empty()) {
         reporter.ShowMessage(dialog, L"No users selected.", kRefusalStyle);
-        return false;
+        return SelectionOutcome::kNobodyChosen;
     }
     result_ = std::move(kept);
-    return true;
+    return SelectionOutcome::kAccepted;
 }
 
 bool RecipientSelectionForm::IsListNameAccepted(ErrorReporter& reporter, toolkit::WindowHandle dialog) const {

@@ -31,6 +31,15 @@ struct OwnerRow {
     bool operator==(const OwnerRow&) const = default;
 };
 
+/// What came of OK.
+enum class SelectionOutcome {
+    kAccepted,      ///< The dialog may end.
+    kBadListName,   ///< The name of the list is to be mended.
+    kNobodyChosen,  ///< Somebody has to be chosen.
+    kBadOwner,      ///< One of those chosen has no certificate.
+    kFailed,        ///< A search failed.
+};
+
 /// The mark of a list's sort direction in its column header.
 enum class SortMark { kNone, kUp, kDown };
 
@@ -100,10 +109,10 @@ class RecipientSelectionForm {
     [[nodiscard]] OwnerBox ChosenDetails(std::size_t position) const;
 
     /// The user pressed OK. Looks for a certificate of every owner of the lower list, in the order shown.
-    /// Returns whether the dialog may end; then Result holds the owners kept. What was refused, reported or
-    /// asked has been shown, owned by `dialog`.
-    [[nodiscard]] bool Confirm(const Cryptocontext& context, ErrorReporter& reporter,
-                               toolkit::WindowHandle dialog);
+    /// Where it is accepted, Result holds the owners kept. What was refused, reported or asked has been
+    /// shown, owned by `dialog`.
+    [[nodiscard]] SelectionOutcome Confirm(const Cryptocontext& context, ErrorReporter& reporter,
+                                           toolkit::WindowHandle dialog);
     [[nodiscard]] const TextList& Result() const { return result_; }
 
     std::wstring listName;       ///< The text of the list name field.

@@ -23,6 +23,8 @@ void CAddCSProfDlg::OnOk() {
     TakeData();
     if (form_.Confirm(reporter_, Window())) {
         EndModal(IDOK);
+    } else {
+        FocusControl(IDC_CS_PROFILE_CHOICE_COMBO);
     }
 }
 

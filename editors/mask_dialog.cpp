@@ -22,6 +22,8 @@ void AddMask::OnOk() {
     TakeData();
     if (form_.Confirm(reporter_, Window())) {
         EndModal(IDOK);
+    } else {
+        FocusControl(IDC_MASK_COMBO);
     }
 }
 

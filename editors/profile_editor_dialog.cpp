@@ -207,6 +207,10 @@ void CAddProfile::DeleteSelectedCsProfile() {
     TakeData();
     DeleteCsProfile(form_, services_.shownCsProfile, services_.reporter, Window());
     ShowForm();
+    if (form_.selectedCsProfile < 0) {
+        // There was none to delete; here one can be selected.
+        FocusControl(IDC_PROFILE_CS_PROFILE_LIST);
+    }
 }
 
 void CAddProfile::OnOk() {
@@ -215,8 +219,7 @@ void CAddProfile::OnOk() {
     if (refusal) {
         services_.reporter.ShowMessage(Window(), refusal->text, kRefusalStyle);
         // To where it can be mended, its text selected.
-        SendMessageW(Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(ControlOf(refusal->field))),
-                     TRUE);
+        FocusControl(ControlOf(refusal->field));
         return;
     }
     CommitProfile(form_);

@@ -75,6 +75,26 @@ int IconResource(RuleIcon icon) {
     return IDI_CERTIFICATES;
 }
 
+int ControlToMend(RuleField field) {
+    switch (field) {
+        case RuleField::kInputFolder:
+            return IDC_RULE_INPUT_EDIT;
+        case RuleField::kOutputFolder:
+            return IDC_RULE_OUTPUT_EDIT;
+        case RuleField::kErrorFolder:
+            return IDC_RULE_ERROR_EDIT;
+        case RuleField::kMasks:
+            return IDC_RULE_ADD_MASK_BUTTON;
+        case RuleField::kCertificates:
+            return IDC_RULE_CERT_BUTTON;
+        case RuleField::kCertPath:
+            return IDC_RULE_CERT_EDIT;
+        case RuleField::kOperation:
+            break;
+    }
+    return IDC_RULE_OPERATION_COMBO;
+}
+
 void ShowControl(HWND control, bool isShown) {
     ShowWindow(control, isShown ? SW_SHOWNA : SW_HIDE);
 }
@@ -133,8 +153,7 @@ void CAddRule::ShowForm() {
     if (IsChild(Window(), focus) != FALSE &&
         (IsWindowVisible(focus) == FALSE || IsWindowEnabled(focus) == FALSE)) {
         // A control that is gone would swallow every key.
-        SendMessageW(Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(IDC_RULE_OPERATION_COMBO)),
-                     TRUE);
+        FocusControl(IDC_RULE_OPERATION_COMBO);
     }
 }
 
@@ -296,6 +315,7 @@ void CAddRule::OnOk() {
     if (refusal) {
         ShowRefusal(*refusal, services_.reporter, Window(),
                     [this](const std::wstring& text, RuleIcon icon) { ShowErrorBox(text, icon); });
+        FocusControl(ControlToMend(refusal->field));
         return;
     }
     result_ = CommitRule(form_);

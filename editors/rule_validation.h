@@ -20,13 +20,25 @@ enum class RefusalKind {
     kSilent,      ///< Not at all.
 };
 
-/// Why OK leaves the editor open.
+/// Where a refused rule can be mended.
+enum class RuleField {
+    kOperation,
+    kInputFolder,
+    kOutputFolder,
+    kErrorFolder,
+    kMasks,
+    kCertificates,  ///< Chosen in a dialog of their own.
+    kCertPath,      ///< The second output folder or the executable.
+};
+
+/// Why OK leaves the editor open, and where to mend it.
 struct RuleRefusal {
     RefusalKind kind = RefusalKind::kMessage;
     std::wstring text;                        ///< The message; of a report its detail.
     RuleIcon icon = RuleIcon::kCertificates;  ///< Of an error box.
     std::wstring folder;                      ///< Of a report.
     std::uint32_t code = 0;                   ///< Of a report, the system's code.
+    RuleField field = RuleField::kOperation;
 
     bool operator==(const RuleRefusal&) const = default;
 };

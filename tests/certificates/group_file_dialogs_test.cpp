@@ -137,6 +137,7 @@ TEST_F(SelectionGroupFile, SavingNeedsCheckedOwners) {
     Control(IDC_SELECTION_SAVE_BUTTON).PostClick();
     ExpectBox(L"No users selected.", kBoxRefusal, IDOK);
     ExpectStaysOpen();
+    Found().WaitForFocus();
 }
 
 TEST_F(SelectionGroupFile, SavingSignersNeedsCheckedSigners) {

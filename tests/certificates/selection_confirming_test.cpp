@@ -78,6 +78,7 @@ TEST_F(SelectionConfirming, NoKeepsEveryOwnerAndTheDialog) {
     Control(IDOK).PostClick();
     ExpectBox(kAskForBob, kBoxQuestion, IDNO);
     ExpectStaysOpen();
+    Chosen().WaitForFocus();
     EXPECT_EQ(Chosen().Column(0), (Texts{kAnn, kBob, kCyd}));
     EXPECT_EQ(Found().RowCount(), 0);
 }
@@ -121,6 +122,7 @@ TEST_F(SelectionConfirming, ASignerListNeedsAName) {
     Control(IDOK).PostClick();
     ExpectBox(L"No list name", kBoxRefusal, IDOK);
     ExpectStaysOpen();
+    Control(IDC_SELECTION_LIST_NAME_EDIT).WaitForFocus();
     EXPECT_EQ(Calls("FindCert").size(), 1U);
 }
 
@@ -137,6 +139,7 @@ TEST_F(SelectionConfirming, ASignerListNeedsANameOfItsOwn) {
     NameList(L"Staff\\new");
     Control(IDOK).PostClick();
     ExpectBox(L"List name cannot contain the symbol '\\'", kBoxRefusal, IDOK);
+    Control(IDC_SELECTION_LIST_NAME_EDIT).WaitForFocus();
     NameList(L"New staff");
     EXPECT_EQ(Confirm(), HostResult(1, std::vector<SignerGroup>{{L"New staff", {kAnn}}, {L"Staff", {kBob}}}));
 }
@@ -154,6 +157,7 @@ TEST_F(SelectionConfirming, ASignerListNeedsSigners) {
     Control(IDOK).PostClick();
     ExpectBox(L"No users selected.", kBoxRefusal, IDOK);
     ExpectStaysOpen();
+    Found().WaitForFocus();
 }
 
 TEST_F(SelectionConfirming, ASignerListWhoseSignersAreAllDroppedStaysOpen) {
@@ -163,6 +167,7 @@ TEST_F(SelectionConfirming, ASignerListWhoseSignersAreAllDroppedStaysOpen) {
     ExpectBox(kAskForBob, kBoxQuestion, IDYES);
     ExpectBox(L"No users selected.", kBoxRefusal, IDOK);
     ExpectStaysOpen();
+    Found().WaitForFocus();
     EXPECT_EQ(Chosen().Column(0), Texts{kBob});
 }
 

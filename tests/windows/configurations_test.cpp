@@ -280,6 +280,7 @@ TEST_F(Configurations, AnAddedExtensionIsSortedInAndNotSelected) {
     EXPECT_EQ(Listed(dialog), (Texts{L"doc", L"gz", L"p7s", L"xml"}));
     dialog.Control(IDC_CONFIG_DELETE_BUTTON).PostClick();
     AnswerBox(dialog, L"Select list item to delete.", kRefusal, IDOK);
+    dialog.Control(IDC_CONFIG_ADDITIONAL_LIST).WaitForFocus();
     Close(dialog, IDCANCEL);
 }
 

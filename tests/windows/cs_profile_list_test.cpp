@@ -182,6 +182,7 @@ TEST_F(CsProfileList, DeletingWithoutASelectionIsRefused) {
     CsProfiles(dialog).Send(LB_SETCURSEL, static_cast<WPARAM>(-1));
     dialog.Control(IDC_PROFILE_DELETE_CS_PROFILE_BUTTON).PostClick();
     AnswerBox(dialog, L"Select list item to delete.", kRefusal, IDOK);
+    CsProfiles(dialog).WaitForFocus();
     EXPECT_EQ(Names(dialog), (Texts{L"CS one", L"CS two"}));
     Close(dialog, IDCANCEL);
 }

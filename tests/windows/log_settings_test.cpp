@@ -30,6 +30,7 @@ class LogSettings : public EditorTest {
         ExpectMessageBox(dialog, ReportText(L"Opening file " + path, code, L"Bad Log path."), kReport, IDOK);
         dialog.WaitUntilEnabled();
         EXPECT_EQ(dialog.Control(IDC_LOG_FOLDER_EDIT).Text(), path);
+        dialog.Control(IDC_LOG_FOLDER_EDIT).WaitForFocus();
     }
     [[nodiscard]] static driver::RegistryData StoredPath() {
         return driver::ReadRegistryValue(kProgramKey, L"LogPath");

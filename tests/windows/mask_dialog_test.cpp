@@ -149,7 +149,7 @@ TEST_F(RuleMasks, AfterTheLastMaskIsDeletedOkMissesIt) {
     dialog.Control(IDC_RULE_DELETE_MASK_BUTTON).PostClick();
     AnswerBox(dialog, L"Delete 1 mask(s)?", kConfirmation, IDYES);
     WaitForEditor(dialog);
-    ExpectRefusal(dialog, L"No Mask selected.", kRefusal);
+    ExpectRefusal(dialog, L"No Mask selected.", kRefusal, IDC_RULE_ADD_MASK_BUTTON);
     Close(dialog, IDCANCEL);
 }
 
@@ -261,6 +261,8 @@ TEST_F(MaskDialog, NoTextIsRefused) {
     mask.Control(IDOK).PostClick();
     ExpectMessageBox(mask, L"No Mask selected.", kRefusal, IDOK);
     mask.WaitUntilEnabled();
+    // The part of the combo box that is typed into.
+    driver::Window(GetWindow(mask.Control(IDC_MASK_COMBO).Handle(), GW_CHILD)).WaitForFocus();
     EXPECT_TRUE(mask.IsVisible());
     CloseMaskDialog(dialog, mask, IDCANCEL);
     ExpectMasks(dialog, {L"*.a"});

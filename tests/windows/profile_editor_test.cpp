@@ -488,6 +488,7 @@ TEST_F(ProfileEditor, AProfileIsEditedAlsoWhereTheCatalogueIsEmpty) {
     EXPECT_EQ(choice.Control(IDC_CS_PROFILE_CHOICE_COMBO).Send(CB_GETCOUNT), 0);
     choice.Control(IDOK).PostClick();
     ExpectMessageBox(choice, L"No CS profiles found.", kRefusal, IDOK);
+    choice.Control(IDC_CS_PROFILE_CHOICE_COMBO).WaitForFocus();
     choice.WaitUntilEnabled();
     choice.Control(IDCANCEL).PostClick();
     choice.WaitUntilGone();

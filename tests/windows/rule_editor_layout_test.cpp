@@ -301,7 +301,8 @@ TEST_F(RuleEditorLayout, LeavingTheRecipientGroupDropsTheRecipients) {
     SelectOperation(dialog, L"SIGN");
     SelectOperation(dialog, L"ENCR");
     EXPECT_EQ(Cert(dialog), kRecipients);
-    ExpectErrorBox(dialog, L"No certificate is selected for operation.", IDI_CERTIFICATES);
+    ExpectErrorBox(dialog, L"No certificate is selected for operation.", IDI_CERTIFICATES,
+                   IDC_RULE_CERT_BUTTON);
     Close(dialog, IDCANCEL);
 }
 

@@ -251,7 +251,8 @@ void RuleEditorTest::AddMaskByDialog(const Window& dialog, const std::wstring& m
     WaitForEditor(dialog);
 }
 
-void RuleEditorTest::ExpectErrorBox(const Window& dialog, const std::wstring& text, int icon) const {
+void RuleEditorTest::ExpectErrorBox(const Window& dialog, const std::wstring& text, int icon,
+                                    int focusId) const {
     dialog.Control(IDOK).PostClick();
     const Window box = Editor().WaitForWindow(dialog);
     EXPECT_EQ(box.Text(), L"Error");
@@ -264,13 +265,28 @@ void RuleEditorTest::ExpectErrorBox(const Window& dialog, const std::wstring& te
     box.WaitUntilGone();
     WaitForEditor(dialog);
     EXPECT_TRUE(dialog.IsVisible());
+    ExpectFocusToMend(dialog, focusId);
 }
 
-void RuleEditorTest::ExpectRefusal(const Window& dialog, const std::wstring& text, unsigned style) const {
+void RuleEditorTest::ExpectRefusal(const Window& dialog, const std::wstring& text, unsigned style,
+                                   int focusId) const {
     dialog.Control(IDOK).PostClick();
     AnswerBox(dialog, text, style, IDOK);
     dialog.WaitUntilEnabled();
     EXPECT_TRUE(dialog.IsVisible());
+    ExpectFocusToMend(dialog, focusId);
+}
+
+void RuleEditorTest::ExpectFocusToMend(const Window& dialog, int focusId) {
+    SettleEditor(dialog);
+    const Window control = dialog.Control(focusId);
+    EXPECT_EQ(dialog.FocusOfThread(), control)
+        << "the focus is on " << driver::Utf8(dialog.FocusOfThread().Name());
+    const bool isButton = control.IsOfClass(L"Button");
+    EXPECT_EQ((dialog.Control(IDOK).Style() & BS_TYPEMASK) == BS_DEFPUSHBUTTON, !isButton);
+    if (isButton) {
+        EXPECT_EQ(control.Style() & BS_TYPEMASK, static_cast<DWORD>(BS_DEFPUSHBUTTON));
+    }
 }
 
 void RuleEditorTest::AnswerBox(const Window& dialog, const std::wstring& text, unsigned style, int answer,

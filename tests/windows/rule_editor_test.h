@@ -63,10 +63,14 @@ class RuleEditorTest : public EditorTest {
         return driver::ListView(dialog.Control(IDC_RULE_MASK_LIST));
     }
 
-    /// OK must be refused by the error box with this text and the picture of this icon resource.
-    void ExpectErrorBox(const driver::Window& dialog, const std::wstring& text, int icon) const;
-    /// OK must be refused by a message box of this style.
-    void ExpectRefusal(const driver::Window& dialog, const std::wstring& text, unsigned style) const;
+    /// OK must be refused by the error box with this text and the picture of this icon resource, and the
+    /// focus goes to this control.
+    void ExpectErrorBox(const driver::Window& dialog, const std::wstring& text, int icon, int focusId) const;
+    /// OK must be refused by a message box of this style, and the focus goes to this control.
+    void ExpectRefusal(const driver::Window& dialog, const std::wstring& text, unsigned style,
+                       int focusId) const;
+    /// The focus is on this control; Enter presses it if it is a button, else OK.
+    static void ExpectFocusToMend(const driver::Window& dialog, int focusId);
     /// A message box of the editor, answered; comes back when the editor's command has gone on, to its end
     /// or to the next box.
     void AnswerBox(const driver::Window& dialog, const std::wstring& text, unsigned style, int answer,

@@ -24,7 +24,7 @@ class RuleEditorValidation : public RuleEditorTest {
     void ExpectBadFolder(const Window& dialog, int editId, const std::wstring& folder, unsigned code,
                          const std::wstring& detail) const {
         dialog.Control(editId).SetText(folder);
-        ExpectRefusal(dialog, ReportText(L"Opening file " + folder, code, detail), kReport);
+        ExpectRefusal(dialog, ReportText(L"Opening file " + folder, code, detail), kReport, editId);
         EXPECT_EQ(dialog.Control(editId).Text(), folder);
     }
     void ExpectAccepted(const Window& dialog) const {
@@ -36,15 +36,16 @@ class RuleEditorValidation : public RuleEditorTest {
 TEST_F(RuleEditorValidation, MissingFieldsAreAskedForOneAfterTheOther) {
     StartWithRules({});
     const Window dialog = OpenNew();
-    ExpectErrorBox(dialog, L"No Input folder selected.", IDI_INPUT_FOLDER);
+    ExpectErrorBox(dialog, L"No Input folder selected.", IDI_INPUT_FOLDER, IDC_RULE_INPUT_EDIT);
     dialog.Control(IDC_RULE_INPUT_EDIT).SetText(kInFolder);
-    ExpectErrorBox(dialog, L"No Output folder selected.", IDI_OUTPUT_FOLDER);
+    ExpectErrorBox(dialog, L"No Output folder selected.", IDI_OUTPUT_FOLDER, IDC_RULE_OUTPUT_EDIT);
     dialog.Control(IDC_RULE_OUTPUT_EDIT).SetText(kOutFolder);
-    ExpectErrorBox(dialog, L"No Error folder selected.", IDI_ERROR_FOLDER);
+    ExpectErrorBox(dialog, L"No Error folder selected.", IDI_ERROR_FOLDER, IDC_RULE_ERROR_EDIT);
     dialog.Control(IDC_RULE_ERROR_EDIT).SetText(kErrorFolder);
-    ExpectRefusal(dialog, L"No Mask selected.", kRefusal);
+    ExpectRefusal(dialog, L"No Mask selected.", kRefusal, IDC_RULE_ADD_MASK_BUTTON);
     AddMaskByDialog(dialog, L"*.xml");
-    ExpectErrorBox(dialog, L"No certificate is selected for operation.", IDI_CERTIFICATES);
+    ExpectErrorBox(dialog, L"No certificate is selected for operation.", IDI_CERTIFICATES,
+                   IDC_RULE_CERT_BUTTON);
     EXPECT_EQ(dialog.Control(IDC_RULE_INPUT_EDIT).Text(), kInFolder);
     Close(dialog, IDCANCEL);
     ExpectNothingToSave();
@@ -55,13 +56,13 @@ TEST_F(RuleEditorValidation, AFolderOfZeroIsNotSet) {
     const Window dialog = OpenNew();
     FillFolders(dialog);
     dialog.Control(IDC_RULE_INPUT_EDIT).SetText(L"0");
-    ExpectErrorBox(dialog, L"No Input folder selected.", IDI_INPUT_FOLDER);
+    ExpectErrorBox(dialog, L"No Input folder selected.", IDI_INPUT_FOLDER, IDC_RULE_INPUT_EDIT);
     dialog.Control(IDC_RULE_INPUT_EDIT).SetText(kInFolder);
     dialog.Control(IDC_RULE_OUTPUT_EDIT).SetText(L"0");
-    ExpectErrorBox(dialog, L"No Output folder selected.", IDI_OUTPUT_FOLDER);
+    ExpectErrorBox(dialog, L"No Output folder selected.", IDI_OUTPUT_FOLDER, IDC_RULE_OUTPUT_EDIT);
     dialog.Control(IDC_RULE_OUTPUT_EDIT).SetText(kOutFolder);
     dialog.Control(IDC_RULE_ERROR_EDIT).SetText(L"0");
-    ExpectErrorBox(dialog, L"No Error folder selected.", IDI_ERROR_FOLDER);
+    ExpectErrorBox(dialog, L"No Error folder selected.", IDI_ERROR_FOLDER, IDC_RULE_ERROR_EDIT);
     Close(dialog, IDCANCEL);
 }
 
@@ -133,7 +134,7 @@ TEST_F(RuleEditorValidation, DeleteNeedsNoOutputFolder) {
     const Window dialog = OpenNew();
     SelectOperation(dialog, L"DELE");
     dialog.Control(IDC_RULE_INPUT_EDIT).SetText(kInFolder);
-    ExpectErrorBox(dialog, L"No Error folder selected.", IDI_ERROR_FOLDER);
+    ExpectErrorBox(dialog, L"No Error folder selected.", IDI_ERROR_FOLDER, IDC_RULE_ERROR_EDIT);
     dialog.Control(IDC_RULE_ERROR_EDIT).SetText(kErrorFolder);
     AddMaskByDialog(dialog, L"*");
     ExpectAccepted(dialog);
@@ -155,9 +156,9 @@ TEST_F(RuleEditorValidation, ASecondFolderMayBeLeftOutButNotBeBad) {
 
 TEST_F(RuleEditorValidation, ExecuteNeedsAProgramThatNeedNotExist) {
     const Window dialog = OpenComplete(L"EXEC");
-    ExpectErrorBox(dialog, L"Executable file is not set.", IDI_EXECUTABLE);
+    ExpectErrorBox(dialog, L"Executable file is not set.", IDI_EXECUTABLE, IDC_RULE_CERT_EDIT);
     dialog.Control(IDC_RULE_CERT_EDIT).SetText(L"0");
-    ExpectErrorBox(dialog, L"Executable file is not set.", IDI_EXECUTABLE);
+    ExpectErrorBox(dialog, L"Executable file is not set.", IDI_EXECUTABLE, IDC_RULE_CERT_EDIT);
     dialog.Control(IDC_RULE_CERT_EDIT).SetText(L"nowhere.exe");
     ExpectAccepted(dialog);
 }
@@ -167,8 +168,8 @@ TEST_F(RuleEditorValidation, WhatIsCheckedIsShown) {
     dialog.Control(IDC_RULE_ROW1_NUMBER_EDIT).SetText(L"");
     dialog.Control(IDC_RULE_ROW2_NUMBER_EDIT).SetText(L"007");
     dialog.Control(IDC_RULE_INPUT_EDIT).SetText(L"in");
-    ExpectRefusal(dialog, ReportText(L"Opening file in", ERROR_PATH_NOT_FOUND, L"Bad Input folder."),
-                  kReport);
+    ExpectRefusal(dialog, ReportText(L"Opening file in", ERROR_PATH_NOT_FOUND, L"Bad Input folder."), kReport,
+                  IDC_RULE_INPUT_EDIT);
     EXPECT_EQ(dialog.Control(IDC_RULE_ROW1_NUMBER_EDIT).Text(), L"0");
     EXPECT_EQ(dialog.Control(IDC_RULE_ROW2_NUMBER_EDIT).Text(), L"7");
     Close(dialog, IDCANCEL);

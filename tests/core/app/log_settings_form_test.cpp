@@ -20,7 +20,10 @@ class LogSettings : public ::testing::Test {
 
     void AnswerExistence(std::uint32_t code) { files_.FailCall(0, code); }
 
-    bool Confirm() { return form_.Confirm(files_, fixture_.reporter, fixture_.presenter, dialog_); }
+    bool Confirm() {
+        fieldToMend_ = form_.Confirm(files_, fixture_.reporter, fixture_.presenter, dialog_);
+        return !fieldToMend_.has_value();
+    }
 
     [[nodiscard]] std::vector<ShownBox> Boxes() const { return fixture_.presenter.Boxes(); }
 
@@ -38,6 +41,7 @@ class LogSettings : public ::testing::Test {
     ReporterFixture fixture_;
     MemoryFiles files_;
     LogSettingsForm form_{L"C:\\old", 4000};
+    std::optional<LogSettingsField> fieldToMend_;  ///< What the last OK left to be mended.
 };
 
 TEST_F(LogSettings, StartWithTheSettingsInForce) {
@@ -131,6 +135,7 @@ TEST_F(LogSettings, OkRefusesAPathThatDoesNotExist) {
     EXPECT_FALSE(Confirm());
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_EQ(form_.editedPath, L"D:\\log");
+    EXPECT_EQ(fieldToMend_, LogSettingsField::kPath);
     EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(L"D:\\log", 5)));
 }
 
@@ -149,6 +154,7 @@ TEST_F(LogSettings, OkRefusesARelativePathEvenIfItExists) {
         form_.editedPath = path;
         fixture_.presenter.Clear();
         EXPECT_FALSE(Confirm()) << path;
+        EXPECT_EQ(fieldToMend_, LogSettingsField::kPath);
         EXPECT_EQ(form_.LogPath(), L"C:\\old");
         EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(path, 3)));
     }
@@ -168,6 +174,7 @@ TEST_F(LogSettings, OkRefusesASizeBelow400InTheDialogsOwnBox) {
     EXPECT_FALSE(Confirm());
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_EQ(form_.logFileSize, 399);
+    EXPECT_EQ(fieldToMend_, LogSettingsField::kSize);
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{.owner = dialog_,
                                               .text = L"Log files size must be bigger than 400 KB.",
                                               .title = L"QENT automized client Velmaris",

@@ -58,7 +58,10 @@ class SelectionForm : public CertsFixture {
         }
         return owners;
     }
-    bool Confirm(RecipientSelectionForm& form) { return form.Confirm(context_, Reporter(), owner_); }
+    bool Confirm(RecipientSelectionForm& form) {
+        outcome_ = form.Confirm(context_, Reporter(), owner_);
+        return outcome_ == SelectionOutcome::kAccepted;
+    }
     [[nodiscard]] ShownBox Question(const std::wstring& owner) const {
         return {owner_, L"No certificates found for user " + owner + L".\r\nContinue to check other users?",
                 AppTitle, 0x134};
@@ -68,6 +71,7 @@ class SelectionForm : public CertsFixture {
     std::set<std::string> withCertificate_;
     CertSearchSettings settings_;
     Cryptocontext context_ = OpenContext();
+    SelectionOutcome outcome_ = SelectionOutcome::kFailed;  ///< Of the last OK.
 };
 
 TEST_F(SelectionForm, ItsTitleSaysWhatItIsFor) {
@@ -384,6 +388,7 @@ TEST_F(SelectionForm, NoKeepsEveryOwnerAndTheDialog) {
     withCertificate_ = {"CN=A", "CN=C"};
     Reports().presenter.AnswerNext(kAnswerNo);
     EXPECT_FALSE(Confirm(form));
+    EXPECT_EQ(outcome_, SelectionOutcome::kBadOwner);
     EXPECT_THAT(Chosen(form), ElementsAre(L"CN=A", L"CN=B", L"CN=C"));
     EXPECT_THAT(form.Result(), IsEmpty());
     EXPECT_EQ(sessions_.Searches().size(), 2U);
@@ -393,6 +398,7 @@ TEST_F(SelectionForm, AFailedSearchStopsOk) {
     RecipientSelectionForm form = Form({L"CN=A", L"CN=B"});
     sessions_.findStatus = 0xE0700046;
     EXPECT_FALSE(Confirm(form));
+    EXPECT_EQ(outcome_, SelectionOutcome::kFailed);
     EXPECT_EQ(sessions_.Searches().size(), 1U);
     EXPECT_EQ(Boxes().size(), 1U);
     EXPECT_EQ(Boxes()[0].style, kErrorStyle);
@@ -410,6 +416,7 @@ TEST_F(SelectionForm, ASignerListNeedsASigner) {
     RecipientSelectionForm form = SignerForm({L"CN=A"}, {}, L"one");
     Reports().presenter.AnswerNext(kAnswerYes);
     EXPECT_FALSE(Confirm(form));
+    EXPECT_EQ(outcome_, SelectionOutcome::kNobodyChosen);
     EXPECT_THAT(Boxes(), ElementsAre(Question(L"CN=A"), Refusal(L"No users selected.")));
     RecipientSelectionForm empty = SignerForm({}, {}, L"one");
     EXPECT_FALSE(Confirm(empty));
@@ -421,8 +428,10 @@ TEST_F(SelectionForm, ASignerListNeedsANameOfItsOwnBeforeAnySearch) {
     withCertificate_ = {"CN=A"};
     form.listName = L"";
     EXPECT_FALSE(Confirm(form));
+    EXPECT_EQ(outcome_, SelectionOutcome::kBadListName);
     form.listName = L"two";
     EXPECT_FALSE(Confirm(form));
+    EXPECT_EQ(outcome_, SelectionOutcome::kBadListName);
     EXPECT_THAT(Boxes(),
                 ElementsAre(Refusal(L"No list name"), Refusal(L"List with this name already exists")));
     EXPECT_THAT(sessions_.Searches(), IsEmpty());

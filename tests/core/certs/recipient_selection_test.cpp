@@ -37,7 +37,7 @@ class Selection : public CertsFixture {
             form.AddFound({L"CN=New"});
             form.CheckAllFound(true);
             EXPECT_EQ(form.AddChecked(), L"");
-            return form.Confirm(context, Reporter(), owner_);
+            return form.Confirm(context, Reporter(), owner_) == SelectionOutcome::kAccepted;
         };
     }
     SelectionRun Cancelling() {

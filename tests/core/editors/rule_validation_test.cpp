@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "app/reporting/app_title.h"
 #include "app/reporting/message_styles.h"
 #include "tests/core/editors/sample_rules.h"
@@ -17,16 +19,34 @@ using ::testing::IsEmpty;
 
 using RefusedRule = std::optional<RuleRefusal>;
 
+/// Where what a refusal says can be mended.
+RuleField FieldFor(const std::wstring& text) {
+    static const std::map<std::wstring, RuleField> kFields = {
+        {L"No operation selected.", RuleField::kOperation},
+        {L"No Input folder selected.", RuleField::kInputFolder},
+        {L"No Output folder selected.", RuleField::kOutputFolder},
+        {L"No Error folder selected.", RuleField::kErrorFolder},
+        {L"Bad Input folder.", RuleField::kInputFolder},
+        {L"Bad Output folder.", RuleField::kOutputFolder},
+        {L"Bad Error folder.", RuleField::kErrorFolder},
+        {L"No Mask selected.", RuleField::kMasks},
+        {L"No certificate is selected for operation.", RuleField::kCertificates},
+        {L"Bad Second Output folder.", RuleField::kCertPath},
+        {L"Executable file is not set.", RuleField::kCertPath},
+    };
+    return kFields.at(text);
+}
+
 RuleRefusal Box(const wchar_t* text, RuleIcon icon) {
-    return {RefusalKind::kErrorBox, text, icon, L"", 0};
+    return {RefusalKind::kErrorBox, text, icon, L"", 0, FieldFor(text)};
 }
 
 RuleRefusal Message(const wchar_t* text) {
-    return {RefusalKind::kMessage, text, RuleIcon::kInputFolder, L"", 0};
+    return {RefusalKind::kMessage, text, RuleIcon::kInputFolder, L"", 0, FieldFor(text)};
 }
 
 RuleRefusal Report(const wchar_t* detail, const std::wstring& folder, std::uint32_t code) {
-    return {RefusalKind::kFileReport, detail, RuleIcon::kInputFolder, folder, code};
+    return {RefusalKind::kFileReport, detail, RuleIcon::kInputFolder, folder, code, FieldFor(detail)};
 }
 
 class RuleCheck : public ::testing::Test {
@@ -159,6 +179,7 @@ TEST_F(RuleCheck, AFolderThatDoesNotExistWithCode80RefusesSilently) {
     const RefusedRule refusal = Check();
     ASSERT_TRUE(refusal.has_value());
     EXPECT_EQ(refusal->kind, RefusalKind::kSilent);
+    EXPECT_EQ(refusal->field, RuleField::kInputFolder) << "It is told nowhere, but the caret goes there.";
     Show(*refusal);
     EXPECT_THAT(fixture_.presenter.Boxes(), IsEmpty());
     EXPECT_THAT(errorBoxes_, IsEmpty());
