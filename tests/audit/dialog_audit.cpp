@@ -371,6 +371,10 @@ Faults WrongIconSizes(const Window& dialog) {
 }
 
 Faults AllFaults(const Window& dialog) {
+    if (!IsPictureScale()) {
+        // What the other checks look at is the same at every scale; whether a text fits is not.
+        return CutOffTexts(dialog);
+    }
     Faults all;
     for (const auto& check : {CutOffTexts, MisplacedControls, NamelessControls, UnreadableTabOrder,
                               DefaultButtonFaults, ForeignColours, WrongIconSizes}) {

@@ -28,7 +28,7 @@ using Faults = std::vector<std::wstring>;
 /// Icons that were not loaded at the size that this screen wants.
 [[nodiscard]] Faults WrongIconSizes(const driver::Window& dialog);
 
-/// All of the above.
+/// All of the above; at a scale of which no pictures are kept, only the texts that are cut off.
 [[nodiscard]] Faults AllFaults(const driver::Window& dialog);
 
 }  // namespace audit

@@ -148,6 +148,11 @@ COLORREF ScreenColour(POINT point) {
     return colour;
 }
 
+bool IsPictureScale() {
+    const int dpi = ScreenDpi();
+    return dpi == 96 || dpi == 144 || dpi == 192;
+}
+
 void KeepPicture(const driver::Window& window, const std::string& name) {
     RedrawWindow(window.Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
@@ -156,6 +161,9 @@ void KeepPicture(const driver::Window& window, const std::string& name) {
 }
 
 void KeepPictureAsPainted(const driver::Window& window, const std::string& name) {
+    if (!IsPictureScale()) {
+        return;
+    }
     const std::filesystem::path folder = PictureFolder();
     std::filesystem::create_directories(folder);
     const std::filesystem::path file = folder / (name + "_" + std::to_string(ScreenDpi()) + ".png");

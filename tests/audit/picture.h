@@ -7,7 +7,8 @@
 namespace audit {
 
 /// Keeps a picture of the window with its frame, as it stands on the screen, under
-/// "<folder of pictures>/<name>_<dpi>.png". The folder is what CORVANE_PICTURES names.
+/// "<folder of pictures>/<name>_<dpi>.png". The folder is what CORVANE_PICTURES names. Nothing at a scale of
+/// which no pictures are kept.
 void KeepPicture(const driver::Window& window, const std::string& name);
 
 /// The same of a window whose program is busy: nothing is asked of it, and what it has painted is what there
@@ -16,6 +17,9 @@ void KeepPictureAsPainted(const driver::Window& window, const std::string& name)
 
 /// Colour of one point of the screen.
 [[nodiscard]] COLORREF ScreenColour(POINT point);
+
+/// Whether pictures are kept of the scale that the screen has: those of a few show what there is to see.
+[[nodiscard]] bool IsPictureScale();
 
 /// Dots per inch of the screen.
 [[nodiscard]] int ScreenDpi();
