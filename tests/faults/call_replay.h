@@ -13,6 +13,9 @@ namespace corvane::testing {
 /// The codes with which calls fail, each plausible for some reason of the system's.
 inline constexpr std::uint32_t kFailureCodes[] = {2, 5, 13, 87, 234, 1018};
 
+/// The codes with which calls fail from then on: one that stands for a missing value, and one that does not.
+inline constexpr std::uint32_t kLastingCodes[] = {2, 5};
+
 /// The calls without the closing ones. Those do not matter for what a load or save does; that every key is
 /// closed is counted.
 [[nodiscard]] std::vector<RegistryCall> WithoutClosing(const std::vector<RegistryCall>& calls);

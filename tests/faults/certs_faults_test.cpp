@@ -1,10 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "certs/group_file.h"
 #include "certs/recipient_selection.h"
@@ -180,6 +183,64 @@ TEST(SessionFaults, EveryRegistryCallThatFailsIsReportedAndOnlyTheMissingKeyStop
             const bool isMissing = failed.operation == RegistryOperation::kQuerySize && code == 2;
             const bool isSilent = isMissing || failed.operation == RegistryOperation::kClose;
             EXPECT_EQ(session.reports.presenter.Boxes().size(), isSilent ? 0U : 1U);
+        }
+    }
+}
+
+TEST(SessionFaults, ProviderCallsThatFailFromOneOnAreShownOneByOneUntilTheChoiceEnds) {
+    // What is shown for each call that is made and fails: warnings, and boxes with reports and questions.
+    constexpr std::array<std::size_t, kCallCount> kWarnings = {1, 1, 1, 0, 0, 0};
+    constexpr std::array<std::size_t, kCallCount> kBoxes = {0, 1, 1, 1, 1, 1};
+    for (const std::uint32_t status : kStatuses) {
+        for (std::size_t first = 0; first < kCallCount; ++first) {
+            SCOPED_TRACE("from call " + std::to_string(first) + " on with " + std::to_string(status));
+            Session session;
+            session.sessions.FailCallsFrom(first, status);
+            EXPECT_EQ(session.Run().has_value(), first == kClose);
+            session.ExpectNothingKept();
+            EXPECT_EQ(session.wasDialogShown, first != kInitialize);
+            std::size_t warnings = 0;
+            std::size_t boxes = 0;
+            for (std::size_t call = first; call < session.sessions.CallCount(); ++call) {
+                const bool isNothingFoundByProbe = call == kProbe && status == kStatusNothingFound;
+                warnings += isNothingFoundByProbe ? 0 : kWarnings[call];
+                boxes += isNothingFoundByProbe ? 0 : kBoxes[call];
+            }
+            EXPECT_EQ(session.warnings.count, warnings);
+            EXPECT_EQ(session.reports.presenter.Boxes().size(), boxes);
+            const std::size_t lastMade =
+                first <= kInitialize ? kInitialize : std::max<std::size_t>(first, kSearchLocal);
+            EXPECT_EQ(session.sessions.CallCount(), lastMade + 1);
+            const bool isDropped = lastMade == kSearchLocal || lastMade == kResolve;
+            EXPECT_EQ(session.sessions.OpenContexts(), isDropped ? 1U : 0U);
+        }
+    }
+}
+
+TEST(SessionFaults, RegistryCallsThatFailFromOneOnAreReportedOneByOne) {
+    std::vector<RegistryCall> clean;
+    {
+        Session session;
+        EXPECT_TRUE(session.Run());
+        clean = session.registry.Calls();
+    }
+    for (const std::uint32_t code : kCodes) {
+        for (std::size_t first = 0; first < clean.size(); ++first) {
+            SCOPED_TRACE("from call " + std::to_string(first) + " on with " + std::to_string(code));
+            Session session;
+            session.registry.FailCallsFrom(first, code);
+            const std::optional<corvane::TextList> result = session.Run();
+            session.ExpectNothingKept();
+            const bool isWithoutKey = clean[first].operation == RegistryOperation::kOpen;
+            EXPECT_EQ(result.has_value(), !isWithoutKey);
+            EXPECT_EQ(session.sessions.OpenContexts(), 0U);
+            std::size_t reports = isWithoutKey ? 1 : 0;
+            for (std::size_t call = first; call < clean.size() && !isWithoutKey; ++call) {
+                const bool isRead = clean[call].operation == RegistryOperation::kQuerySize;
+                const bool isWritten = clean[call].operation == RegistryOperation::kSet;
+                reports += isWritten || (isRead && code != 2) ? 1 : 0;
+            }
+            EXPECT_EQ(session.reports.presenter.Boxes().size(), reports);
         }
     }
 }

@@ -3,13 +3,16 @@
 #include <functional>
 #include <optional>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "tests/faults/call_replay.h"
 #include "tests/faults/stored_configuration.h"
 #include "tests/support/store_fixture.h"
 
-// Each registry call of a load fails once, with each code. What is then owed follows from the kind of the
-// call and from the value it was about, as the clean run recorded them, and from nothing of the product.
+// Each registry call of a load fails, once or from then on, with each code. What is then owed follows from
+// the kind of the call and from the value it was about, as the clean run recorded them, and from nothing of
+// the product.
 
 namespace corvane::testing {
 namespace {
@@ -161,26 +164,119 @@ ExpectedLoad Expect(const std::vector<RegistryCall>& allClean, const std::vector
     return expected;
 }
 
+// What is owed when one call of a clean load and every one behind it fail: the values of the key at hand one
+// by one, and then the next key, which ends the load.
+class ExpectedLoadThatKeepsFailing {
+  public:
+    // `clean` has no closing calls; it must outlive this object.
+    ExpectedLoadThatKeepsFailing(const std::vector<RegistryCall>& clean, std::size_t failed,
+                                 std::uint32_t code)
+        : clean_(clean), failed_(failed), code_(code) {
+        for (std::size_t index = failed; index < clean.size() && result; ++index) {
+            Fail(index);
+        }
+    }
+
+    bool result = true;
+    std::vector<std::wstring> reports;
+    std::vector<const RegistryCall*> missingValues;
+
+  private:
+    void Fail(std::size_t index) {
+        const RegistryCall& call = clean_[index];
+        switch (call.operation) {
+            case RegistryOperation::kOpen:
+            case RegistryOperation::kCreate:
+                result = false;
+                reports.push_back(OpenReport(call.keyPath, code_));
+                break;
+            case RegistryOperation::kEnumerate:
+                result = false;
+                reports.push_back(SearchReport(call.keyPath, code_));
+                break;
+            case RegistryOperation::kSet:
+                reports.push_back(WriteReport(call, code_));
+                break;
+            default:
+                FailReading(index);
+        }
+    }
+
+    void FailReading(std::size_t index) {
+        const RegistryCall& call = clean_[index];
+        const bool isElementOfNoCount =
+            std::any_of(uncounted_.begin(), uncounted_.end(),
+                        [&call](wchar_t letter) { return IsElement(call.name, letter); });
+        const bool hasSize = index > 0 && clean_[index - 1].operation == RegistryOperation::kQuerySize &&
+                             IsReadOf(clean_[index - 1], call);
+        if (isElementOfNoCount || (hasSize && index > failed_)) {
+            return;  // Not asked for any more.
+        }
+        missingValues.push_back(&call);
+        if (hasSize) {
+            reports.push_back(ReadReport(L"multistring", call.name, code_));
+            return;
+        }
+        const bool isList = call.operation == RegistryOperation::kQuerySize;
+        ReportUnlessMissing(isList                ? L"multistring"
+                            : IsNumber(call.name) ? L"integer"
+                                                  : L"string",
+                            call.name);
+        if (const wchar_t letter = ElementLetter(call.name); letter != L'\0') {
+            uncounted_ += letter;
+        }
+        if (call.name == L"Mask num" && clean_[index + 1].name != L"Mask") {
+            ReportUnlessMissing(L"string", L"Mask");
+        }
+    }
+
+    void ReportUnlessMissing(const std::wstring& kind, const std::wstring& name) {
+        if (code_ != kCodeNotFound && code_ != kCodeInvalidData) {
+            reports.push_back(ReadReport(kind, name, code_));
+        }
+    }
+
+    const std::vector<RegistryCall>& clean_;
+    std::size_t failed_;
+    std::uint32_t code_;
+    std::wstring uncounted_;  // The letters of the elements whose count failed.
+};
+
+// A machine on which the program was never started.
+void PutCatalogueOnly(MemoryRegistry& registry) {
+    registry.PutText(kCatalogue + L"\\{1}", L"ProfileName", L"Main CSP");
+    registry.PutText(kCatalogue + L"\\{2}", L"ProfileName", L"Second CSP");
+}
+
 // True where each element of `part` is the one of `whole` at its place, and there are not more.
 template <typename Element>
 bool IsBeginning(const std::vector<Element>& part, const std::vector<Element>& whole) {
     return part.size() <= whole.size() && std::equal(part.begin(), part.end(), whole.begin());
 }
 
-// The records of a load of `stored` without one value.
+// The records of a load of `stored` without these values.
 ConfigurationState LoadWithout(const RegistrySnapshot& stored, const corvane::TextList& profileNames,
-                               const RegistryCall& missing) {
+                               const std::vector<const RegistryCall*>& missing) {
     return Load([&](MemoryRegistry& registry) {
                registry.PutAll(stored);
-               registry.RemoveValue(missing.keyPath, missing.name);
+               for (const RegistryCall* value : missing) {
+                   registry.RemoveValue(value->keyPath, value->name);
+               }
                // A tree that was put in at once enumerates by name, the one that was loaded does not.
-               registry.PutSubkeysFirst(kProgram, profileNames);
+               if (registry.SubkeyNames(kProgram).size() == profileNames.size()) {
+                   registry.PutSubkeysFirst(kProgram, profileNames);
+               }
                const std::wstring ruleWithLists = kProgram + L"\\Mail\\rules\\Rule 0";
                if (registry.HasKey(ruleWithLists)) {
                    registry.PutSubkeysFirst(ruleWithLists, {L"Officers"});
                }
            })
         .state;
+}
+
+void ExpectBeginningOf(const ConfigurationState& whole, const ConfigurationState& found) {
+    EXPECT_TRUE(IsBeginning(found.profiles, whole.profiles)) << "a profile was kept that was not read whole";
+    EXPECT_TRUE(IsBeginning(found.csProfileCatalogue, whole.csProfileCatalogue));
 }
 
 void FailEveryCallOfALoad(const Preparation& prepare) {
@@ -210,17 +306,56 @@ void FailEveryCallOfALoad(const Preparation& prepare) {
             EXPECT_EQ(outcome.misuses, 0U);
             EXPECT_FALSE(outcome.state.isDirty);
             if (!expected.result) {
-                EXPECT_TRUE(IsBeginning(outcome.state.profiles, clean.state.profiles))
-                    << "a profile was kept that was not read whole";
-                EXPECT_TRUE(IsBeginning(outcome.state.csProfileCatalogue, clean.state.csProfileCatalogue));
+                ExpectBeginningOf(clean.state, outcome.state);
             } else if (expected.missingValue == nullptr) {
                 EXPECT_TRUE(outcome.state == clean.state) << "the records differ from those of a clean load";
             } else {
                 if (!without) {
-                    without = LoadWithout(stored, clean.state.profileNames, *expected.missingValue);
+                    without = LoadWithout(stored, clean.state.profileNames, {expected.missingValue});
                 }
                 EXPECT_TRUE(outcome.state == *without)
                     << "the records differ from those of a load without the value";
+            }
+            if (::testing::Test::HasFailure()) {
+                return;
+            }
+        }
+    }
+}
+
+void FailEveryCallFromThenOn(const Preparation& prepare) {
+    const LoadOutcome clean = Load(prepare);
+    ASSERT_TRUE(clean.result);
+    MemoryRegistry registryBefore;
+    prepare(registryBefore);
+    const RegistrySnapshot before = registryBefore.Snapshot();
+    const std::vector<RegistryCall> cleanWithoutClosing = WithoutClosing(clean.calls);
+    for (std::size_t index = 0; index < clean.calls.size(); ++index) {
+        for (const std::uint32_t code : kLastingCodes) {
+            SCOPED_TRACE("from call " + std::to_string(index) + " on with " + std::to_string(code) + ": " +
+                         Describe(clean.calls[index]));
+            const ExpectedLoadThatKeepsFailing expected(cleanWithoutClosing,
+                                                        CountWithoutClosing(clean.calls, index), code);
+            const LoadOutcome outcome = Load([&](MemoryRegistry& registry) {
+                prepare(registry);
+                registry.FailCallsFrom(index, code);
+            });
+            EXPECT_EQ(outcome.result, expected.result);
+            EXPECT_EQ(outcome.reports, expected.reports);
+            const std::vector<RegistryCall> done(clean.calls.begin(),
+                                                 clean.calls.begin() + static_cast<std::ptrdiff_t>(index));
+            const RegistrySnapshot stored = Replay(before, done);
+            EXPECT_EQ(Differences(stored, outcome.stored), "");
+            EXPECT_EQ(outcome.keysLeftOpen, 0U);
+            EXPECT_EQ(outcome.misuses, 0U);
+            EXPECT_FALSE(outcome.state.isDirty);
+            const ConfigurationState without =
+                LoadWithout(stored, clean.state.profileNames, expected.missingValues);
+            if (expected.result) {
+                EXPECT_TRUE(outcome.state == without)
+                    << "the records differ from those of a load without the values";
+            } else {
+                ExpectBeginningOf(without, outcome.state);
             }
             if (::testing::Test::HasFailure()) {
                 return;
@@ -234,10 +369,15 @@ TEST(LoadConfigurationFaults, EachCallOfALoadFailsWithEachCode) {
 }
 
 TEST(LoadConfigurationFaults, EachCallOfAFirstStartFailsWithEachCode) {
-    FailEveryCallOfALoad([](MemoryRegistry& registry) {
-        registry.PutText(kCatalogue + L"\\{1}", L"ProfileName", L"Main CSP");
-        registry.PutText(kCatalogue + L"\\{2}", L"ProfileName", L"Second CSP");
-    });
+    FailEveryCallOfALoad(PutCatalogueOnly);
+}
+
+TEST(LoadConfigurationFaults, FromEachCallOfALoadOnEveryCallFails) {
+    FailEveryCallFromThenOn(PutStoredConfiguration);
+}
+
+TEST(LoadConfigurationFaults, FromEachCallOfAFirstStartOnEveryCallFails) {
+    FailEveryCallFromThenOn(PutCatalogueOnly);
 }
 
 }  // namespace

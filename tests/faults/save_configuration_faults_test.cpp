@@ -1,15 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <optional>
+#include <functional>
 #include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/faults/call_replay.h"
 #include "tests/faults/stored_configuration.h"
 #include "tests/support/store_fixture.h"
 
-// Each registry call of a save fails once, with each code. The calls of the clean run are told apart by
-// their kind and key; what is owed when one fails is the row of the table that speaks of it.
+// Each registry call of a save fails, once or from then on, with each code. The calls of the clean run are
+// told apart by their kind and key; what is owed when one fails is the row of the table that speaks of it.
 
 namespace corvane::testing {
 namespace {
@@ -26,13 +29,13 @@ struct SaveOutcome {
     std::size_t misuses = 0;
 };
 
-SaveOutcome Save(std::optional<std::size_t> failedIndex, std::uint32_t code) {
+using Failure = std::function<void(MemoryRegistry&)>;
+
+SaveOutcome Save(const Failure& fail) {
     ReporterFixture reports;
     MemoryRegistry registry;
     PutStoredConfiguration(registry);
-    if (failedIndex) {
-        registry.FailCall(*failedIndex, code);
-    }
+    fail(registry);
     SaveOutcome outcome;
     outcome.state = ChangedConfiguration();
     {
@@ -50,6 +53,8 @@ SaveOutcome Save(std::optional<std::size_t> failedIndex, std::uint32_t code) {
     outcome.misuses = registry.Misuses();
     return outcome;
 }
+
+void NoFailure(MemoryRegistry& /*registry*/) {}
 
 enum class Step {
     kOpenProgram,
@@ -244,8 +249,128 @@ class ExpectedSave {
     std::size_t failed_ = 0;
 };
 
+// What is owed when one call of a clean save and every one behind it fail.
+class ExpectedSaveThatKeepsFailing {
+  public:
+    // `clean` are the calls `allClean` without the closing ones; it must outlive this object.
+    ExpectedSaveThatKeepsFailing(const std::vector<RegistryCall>& allClean,
+                                 const std::vector<RegistryCall>& clean, std::size_t failedIndex,
+                                 std::uint32_t code)
+        : clean_(clean), code_(code), next_(CountWithoutClosing(allClean, failedIndex)) {
+        while (next_ < clean_.size()) {
+            Fail();
+        }
+        if (!isDirty) {
+            reports.push_back(OpenReport(kProgram, code_));  // The last key does not close.
+        }
+    }
+
+    std::vector<std::wstring> reports;
+    bool isDirty = false;
+
+  private:
+    void Fail() {
+        const RegistryCall& call = clean_[next_];
+        switch (StepOf(clean_, next_)) {
+            case Step::kOpenProgram:
+                StopWith(OpenReport(call.keyPath, code_));
+                isDirty = true;
+                break;
+            case Step::kSearchProfiles:
+                StopWith(SearchReport(call.keyPath, code_));
+                isDirty = true;
+                break;
+            case Step::kDeleteGoneProfile:
+                StopWith(DeleteReport(kGone, code_));
+                isDirty = true;
+                break;
+            case Step::kWriteValue:
+                reports.push_back(WriteReport(call, code_));
+                ++next_;
+                break;
+            case Step::kMakeNewProfile:
+                reports.push_back(OpenReport(call.keyPath, code_));
+                next_ += 2;  // The program's key is still open.
+                break;
+            case Step::kReopenAfterNewProfile:
+            case Step::kReopenProgram:
+                reports.push_back(OpenReport(call.keyPath, code_));
+                ++next_;
+                break;
+            case Step::kOpenProfile:
+            case Step::kMakeRules:
+                StopWith(OpenReport(call.keyPath, code_));
+                break;
+            case Step::kDeleteRules:
+                FailDeletion(call.keyPath.substr(0, call.keyPath.find(L"\\rules") + 6));
+                break;
+            case Step::kOpenRules:
+            case Step::kMakeRule:
+                reports.push_back(OpenReport(call.keyPath, code_));
+                GoTo(Step::kReopenProgram, Step::kReopenProgram);
+                break;
+            case Step::kMakeSignerList:
+                reports.push_back(OpenReport(call.keyPath, code_));
+                GoTo(Step::kOpenRules, Step::kReopenProgram);
+                break;
+        }
+    }
+
+    void FailDeletion(const std::wstring& rulesKey) {
+        if (code_ == kCodeNotFound) {
+            GoTo(Step::kMakeRules, Step::kMakeRules);
+        } else {
+            StopWith(DeleteReport(rulesKey, code_));
+        }
+    }
+
+    void StopWith(std::wstring report) {
+        reports.push_back(std::move(report));
+        next_ = clean_.size();
+    }
+
+    void GoTo(Step either, Step other) {
+        do {
+            ++next_;
+        } while (StepOf(clean_, next_) != either && StepOf(clean_, next_) != other);
+    }
+
+    const std::vector<RegistryCall>& clean_;
+    std::uint32_t code_;
+    std::size_t next_;
+};
+
+TEST(SaveConfigurationFaults, FromEachCallOfASaveOnEveryCallFails) {
+    const SaveOutcome clean = Save(NoFailure);
+    MemoryRegistry registryBefore;
+    PutStoredConfiguration(registryBefore);
+    const RegistrySnapshot before = registryBefore.Snapshot();
+    const std::vector<RegistryCall> cleanWithoutClosing = WithoutClosing(clean.calls);
+    for (std::size_t index = 0; index < clean.calls.size(); ++index) {
+        for (const std::uint32_t code : kLastingCodes) {
+            SCOPED_TRACE("from call " + std::to_string(index) + " on with " + std::to_string(code) + ": " +
+                         Describe(clean.calls[index]));
+            const ExpectedSaveThatKeepsFailing expected(clean.calls, cleanWithoutClosing, index, code);
+            const SaveOutcome outcome =
+                Save([&](MemoryRegistry& registry) { registry.FailCallsFrom(index, code); });
+            EXPECT_EQ(outcome.reports, expected.reports);
+            const std::vector<RegistryCall> done(clean.calls.begin(),
+                                                 clean.calls.begin() + static_cast<std::ptrdiff_t>(index));
+            EXPECT_EQ(Differences(Replay(before, done), outcome.stored), "");
+            ConfigurationState records = ChangedConfiguration();
+            records.isDirty = expected.isDirty;
+            EXPECT_TRUE(outcome.state == records) << "the records or the dirty flag";
+            EXPECT_EQ(outcome.keysLeftOpen, 0U);
+            EXPECT_EQ(outcome.misuses, 0U);
+            if (HasFailure()) {
+                return;
+            }
+        }
+    }
+}
+
 TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
-    const SaveOutcome clean = Save(std::nullopt, 0);
+    const SaveOutcome clean = Save(NoFailure);
     ASSERT_TRUE(clean.reports.empty());
     ASSERT_FALSE(clean.state.isDirty);
     MemoryRegistry registryBefore;
@@ -257,7 +382,8 @@ TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
             SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
                          Describe(clean.calls[index]));
             const ExpectedSave expected(clean.calls, cleanWithoutClosing, index, code);
-            const SaveOutcome outcome = Save(index, code);
+            const SaveOutcome outcome =
+                Save([&](MemoryRegistry& registry) { registry.FailCall(index, code); });
             EXPECT_EQ(outcome.reports, expected.reports);
             ExpectSameCalls(expected.calls, outcome.calls);
             EXPECT_EQ(Differences(Replay(before, expected.calls), outcome.stored), "");
@@ -277,7 +403,7 @@ TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
 }
 
 TEST(SaveConfigurationFaults, TheCleanRunMakesEveryKindOfStep) {
-    const std::vector<RegistryCall> clean = WithoutClosing(Save(std::nullopt, 0).calls);
+    const std::vector<RegistryCall> clean = WithoutClosing(Save(NoFailure).calls);
     std::set<Step> steps;
     for (std::size_t index = 0; index < clean.size(); ++index) {
         steps.insert(StepOf(clean, index));

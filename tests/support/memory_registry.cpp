@@ -129,6 +129,8 @@ bool MemoryRegistry::IsToldToFail() {
     RegistryCall& call = calls_.back();
     if (const auto found = failures_.find(callCount_ - 1); found != failures_.end()) {
         call.code = found->second;
+    } else if (callCount_ > firstFailure_) {
+        call.code = lastingCode_;
     } else if (failsMatching_ && failsMatching_(call)) {
         call.code = matchingCode_;
     }

@@ -75,6 +75,17 @@ class MemoryRegistry : public RegistryCalls {
     /// Makes the call of this index (from 0, all kinds counted together) answer `code` and do nothing else;
     /// a failed close closes nonetheless.
     void FailCall(std::size_t index, std::uint32_t code) { failures_[index] = code; }
+    /// Makes the call of this index and every one behind it answer `code`, in the same way.
+    void FailCallsFrom(std::size_t index, std::uint32_t code) {
+        firstFailure_ = index;
+        lastingCode_ = code;
+    }
+    /// Nothing is told to fail any more.
+    void Mend() {
+        failures_.clear();
+        failsMatching_ = nullptr;
+        firstFailure_ = SIZE_MAX;
+    }
     /// Makes every call that `matches` answer `code` and do nothing else. It sees the call before its code is
     /// known.
     void FailCalls(std::function<bool(const RegistryCall&)> matches, std::uint32_t code) {
@@ -117,6 +128,8 @@ class MemoryRegistry : public RegistryCalls {
     std::shared_ptr<StoredKey> root_;
     std::map<Key, OpenedKey> opened_;
     std::map<std::size_t, std::uint32_t> failures_;
+    std::size_t firstFailure_ = SIZE_MAX;
+    std::uint32_t lastingCode_ = 0;
     std::function<bool(const RegistryCall&)> failsMatching_;
     std::uint32_t matchingCode_ = 0;
     std::wstring changedName_;

@@ -70,7 +70,11 @@ const ProviderFunctions* ScriptedSessions::Functions() {
 
 std::uint32_t ScriptedSessions::Enter(const std::string& name, std::uint32_t status) {
     log.push_back(name);
-    const auto failure = failures_.find(callCount_++);
+    const std::size_t index = callCount_++;
+    if (index >= firstFailure_) {
+        return lastingStatus_;
+    }
+    const auto failure = failures_.find(index);
     return failure == failures_.end() ? status : failure->second;
 }
 

@@ -86,6 +86,11 @@ class ScriptedSessions : public ProviderLibrary {
     /// Makes the call of this index answer `status`: openings, closings, searches and control calls are
     /// counted together, from 0.
     void FailCall(std::size_t index, std::uint32_t status) { failures_[index] = status; }
+    /// Makes the call of this index and every one behind it answer `status`.
+    void FailCallsFrom(std::size_t index, std::uint32_t status) {
+        firstFailure_ = index;
+        lastingStatus_ = status;
+    }
 
     /// What was called, in order: "initialize", "uninitialize", "find", "free result", "control", and what
     /// the test adds.
@@ -120,6 +125,8 @@ class ScriptedSessions : public ProviderLibrary {
     ScriptedProvider& errors_;
     ProviderFunctions functions_{};
     std::map<std::size_t, std::uint32_t> failures_;
+    std::size_t firstFailure_ = SIZE_MAX;
+    std::uint32_t lastingStatus_ = 0;
     std::vector<InitializeCall> initializations_;
     std::vector<ProviderContext> closed_;
     std::vector<FindCall> searches_;
