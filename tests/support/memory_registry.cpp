@@ -11,7 +11,11 @@ namespace {
 
 constexpr std::uint32_t kCodeAccessDenied = 5;
 constexpr std::uint32_t kCodeInvalidHandle = 6;
+constexpr std::uint32_t kCodeInvalidParameter = 87;
+constexpr std::uint32_t kCodeBadPath = 161;
 constexpr std::uint32_t kCodeKeyDeleted = 1018;
+/// The system's limit for the name of a key.
+constexpr std::size_t kLongestKeyNameChars = 255;
 
 // The case of Latin and Cyrillic letters; what more the system folds, no test needs.
 wchar_t FoldCase(wchar_t character) {
@@ -29,6 +33,7 @@ bool IsSameName(std::wstring_view left, std::wstring_view right) {
                       [](wchar_t a, wchar_t b) { return FoldCase(a) == FoldCase(b); });
 }
 
+// Empty parts count for nothing, also behind the last backslash.
 std::vector<std::wstring> SplitPath(std::wstring_view path) {
     std::vector<std::wstring> names;
     while (!path.empty()) {
@@ -52,6 +57,7 @@ std::wstring Join(const std::wstring& parent, const std::wstring& path) {
 
 struct MemoryRegistry::StoredKey {
     std::wstring name;
+    StoredKey* parent = nullptr;  // Lives at least as long as this key is not deleted.
     std::vector<std::shared_ptr<StoredKey>> subkeys;
     std::vector<std::pair<std::wstring, StoredData>> values;
     bool isDeleted = false;
@@ -68,6 +74,7 @@ struct MemoryRegistry::StoredKey {
         if (!subkey) {
             subkey = std::make_shared<StoredKey>();
             subkey->name = subkeyName;
+            subkey->parent = this;
             subkeys.push_back(subkey);
         }
         return subkey;
@@ -160,6 +167,25 @@ std::shared_ptr<MemoryRegistry::StoredKey> MemoryRegistry::FindKey(std::wstring_
     return key;
 }
 
+std::uint32_t MemoryRegistry::Resolve(Key parent, const std::wstring& path,
+                                      std::shared_ptr<StoredKey>& found) {
+    std::wstring parentPath;
+    found = KeyBehind(parent, parentPath);
+    if (found->isDeleted) {
+        return kCodeKeyDeleted;
+    }
+    if (path.starts_with(L'\\')) {
+        return kCodeBadPath;
+    }
+    for (const std::wstring& name : SplitPath(path)) {
+        found = found->FindSubkey(name);
+        if (!found) {
+            return kCodeNotFound;
+        }
+    }
+    return 0;
+}
+
 RegistryCalls::Key MemoryRegistry::Remember(std::shared_ptr<StoredKey> stored, const std::wstring& path) {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): a key is a number that nobody looks behind.
     const Key key = reinterpret_cast<Key>(++lastKey_);
@@ -179,16 +205,10 @@ std::uint32_t MemoryRegistry::Open(Key parent, const std::wstring& path, std::ui
     if (IsToldToFail()) {
         return call->code;
     }
-    std::wstring parentPath;
-    std::shared_ptr<StoredKey> found = KeyBehind(parent, parentPath);
-    if (found->isDeleted) {
-        return call->code = kCodeKeyDeleted;
-    }
-    for (const std::wstring& name : SplitPath(path)) {
-        found = found->FindSubkey(name);
-        if (!found) {
-            return call->code = kCodeNotFound;
-        }
+    std::shared_ptr<StoredKey> found;
+    call->code = Resolve(parent, path, found);
+    if (call->code != 0) {
+        return call->code;
     }
     key = Remember(std::move(found), call->keyPath);
     return 0;
@@ -205,12 +225,18 @@ std::uint32_t MemoryRegistry::Create(Key parent, const std::wstring& path, std::
     if (IsToldToFail()) {
         return call->code;
     }
-    std::wstring parentPath;
-    std::shared_ptr<StoredKey> created = KeyBehind(parent, parentPath);
-    if (created->isDeleted) {
-        return call->code = kCodeKeyDeleted;
+    std::shared_ptr<StoredKey> created;
+    call->code = Resolve(parent, path, created);
+    if (call->code != 0 && call->code != kCodeNotFound) {
+        return call->code;
     }
+    call->code = 0;
+    std::wstring parentPath;
+    created = KeyBehind(parent, parentPath);
     for (const std::wstring& name : SplitPath(path)) {
+        if (name.size() > kLongestKeyNameChars) {
+            return call->code = kCodeInvalidParameter;
+        }
         created = created->Subkey(name);
     }
     key = Remember(std::move(created), call->keyPath);
@@ -228,17 +254,16 @@ std::uint32_t MemoryRegistry::Delete(Key parent, const std::wstring& name, std::
     if (IsToldToFail()) {
         return call->code;
     }
-    std::wstring parentPath;
-    const std::shared_ptr<StoredKey> holder = KeyBehind(parent, parentPath);
-    const std::shared_ptr<StoredKey> found = holder->FindSubkey(name);
-    if (!found) {
-        return call->code = kCodeNotFound;
+    std::shared_ptr<StoredKey> found;
+    call->code = Resolve(parent, name, found);
+    if (call->code != 0) {
+        return call->code;
     }
-    if (!found->subkeys.empty()) {
+    if (!found->subkeys.empty() || found == root_) {
         return call->code = kCodeAccessDenied;
     }
     found->isDeleted = true;
-    std::erase(holder->subkeys, found);
+    std::erase(found->parent->subkeys, found);
     return 0;
 }
 

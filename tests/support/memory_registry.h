@@ -31,7 +31,8 @@ struct RegistryCall {
 
 /// A registry in memory, for tests of everything that reads or writes the configuration. Any call can be told
 /// to fail; each call is kept in a log, each open key is counted. Names are found whatever their case and
-/// keep the case in which they were made.
+/// keep the case in which they were made; odd names and paths come to what they come to in the system's
+/// registry, which a test in tests/registry compares call by call.
 class MemoryRegistry : public RegistryCalls {
   public:
     MemoryRegistry();
@@ -122,6 +123,9 @@ class MemoryRegistry : public RegistryCalls {
     // Decides whether the call entered last is told to fail; its code then stands in the log.
     bool IsToldToFail();
     std::shared_ptr<StoredKey> KeyBehind(Key key, std::wstring& path);
+    // The existing key that `path` leads to from `parent`, or the code why there is none.
+    [[nodiscard]] std::uint32_t Resolve(Key parent, const std::wstring& path,
+                                        std::shared_ptr<StoredKey>& found);
     [[nodiscard]] std::shared_ptr<StoredKey> FindKey(std::wstring_view path) const;
     Key Remember(std::shared_ptr<StoredKey> stored, const std::wstring& path);
 
