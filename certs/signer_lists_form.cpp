@@ -61,7 +61,9 @@ bool SignerListsForm::Delete(const std::vector<std::size_t>& positions, ErrorRep
     if (reporter.ShowMessage(dialog, question, kWarningQuestionStyle) != kAnswerYes) {
         return false;
     }
+    // There is room for all of them at once: no list is moved before it is certain that all can be.
     std::vector<SignerGroup> kept;
+    kept.reserve(lists_.size());
     for (std::size_t i = 0; i < lists_.size(); ++i) {
         if (isDeleted[i] == 0) {
             kept.push_back(std::move(lists_[i]));
