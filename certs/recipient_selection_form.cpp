@@ -22,11 +22,11 @@ SortMark RecipientSelectionForm::ListSort::Mark() const {
     return direction == SortDirection::kAscending ? SortMark::kUp : SortMark::kDown;
 }
 
-void RecipientSelectionForm::ListSort::Reverse() {
-    if (wasSorted) {
-        direction =
-            direction == SortDirection::kAscending ? SortDirection::kDescending : SortDirection::kAscending;
+SortDirection RecipientSelectionForm::ListSort::Next() const {
+    if (!wasSorted) {
+        return direction;
     }
+    return direction == SortDirection::kAscending ? SortDirection::kDescending : SortDirection::kAscending;
 }
 
 RecipientSelectionForm::RecipientSelectionForm(const CertSearchSettings& settings, SelectionStart start,
@@ -139,13 +139,12 @@ void RecipientSelectionForm::SetFilter(std::wstring_view text) {
 void RecipientSelectionForm::SetSortField(std::size_t fieldIndex) {
     if (fieldIndex < sortKeys_.size()) {
         sortField_ = fieldIndex;
-        SortFound();
+        SortFound(foundSort_.direction);
     }
 }
 
 void RecipientSelectionForm::ClickFoundHeader() {
-    foundSort_.Reverse();
-    SortFound();
+    SortFound(foundSort_.Next());
 }
 
 OwnerBox RecipientSelectionForm::FoundDetails(std::size_t position) const {
@@ -180,6 +179,8 @@ std::wstring RecipientSelectionForm::AddChecked() {
     for (std::wstring& owner : newOwners) {
         chosen_.push_back({std::move(owner), false});
     }
+    // The rows are filled for certain once owners are taken out behind them.
+    chosenRows_.reserve(chosen_.size());
     std::wstring report = ExcludeSignersOfOtherLists();
     FillChosen();
     return report.empty()
@@ -234,8 +235,7 @@ void RecipientSelectionForm::RemoveChecked() {
 }
 
 void RecipientSelectionForm::ClickChosenHeader() {
-    chosenSort_.Reverse();
-    SortChosen();
+    SortChosen(chosenSort_.Next());
 }
 
 OwnerBox RecipientSelectionForm::ChosenDetails(std::size_t position) const {
@@ -300,7 +300,9 @@ bool RecipientSelectionForm::IsListNameAccepted(ErrorReporter& reporter, toolkit
     return true;
 }
 
+// When memory is short the rows stay whole: whoever presses OK next keeps what is shown.
 void RecipientSelectionForm::FillFound() {
+    foundRows_.reserve(found_.size());
     foundRows_.clear();
     for (std::size_t i = 0; i < found_.size(); ++i) {
         if (!found_[i].text.empty() && found_[i].upperText.find(upperFilter_) != std::wstring::npos) {
@@ -311,6 +313,7 @@ void RecipientSelectionForm::FillFound() {
 }
 
 void RecipientSelectionForm::FillChosen() {
+    chosenRows_.reserve(chosen_.size());
     chosenRows_.clear();
     for (std::size_t i = 0; i < chosen_.size(); ++i) {
         if (!chosen_[i].text.empty()) {
@@ -320,26 +323,24 @@ void RecipientSelectionForm::FillChosen() {
     chosenSort_.isSorted = false;
 }
 
-void RecipientSelectionForm::SortFound() {
+void RecipientSelectionForm::SortFound(SortDirection direction) {
     std::vector<std::wstring_view> owners;
     owners.reserve(found_.size());
     for (const FoundOwner& owner : found_) {
         owners.push_back(owner.text);
     }
-    SortOwnerRows(foundRows_, owners, sortKeys_[sortField_], foundSort_.direction);
-    foundSort_.wasSorted = true;
-    foundSort_.isSorted = true;
+    SortOwnerRows(foundRows_, owners, sortKeys_[sortField_], direction);
+    foundSort_ = {.direction = direction, .wasSorted = true, .isSorted = true};
 }
 
-void RecipientSelectionForm::SortChosen() {
+void RecipientSelectionForm::SortChosen(SortDirection direction) {
     std::vector<std::wstring_view> owners;
     owners.reserve(chosen_.size());
     for (const ChosenOwner& owner : chosen_) {
         owners.push_back(owner.text);
     }
-    SortOwnerRows(chosenRows_, owners, sortKeys_[sortField_], chosenSort_.direction);
-    chosenSort_.wasSorted = true;
-    chosenSort_.isSorted = true;
+    SortOwnerRows(chosenRows_, owners, sortKeys_[sortField_], direction);
+    chosenSort_ = {.direction = direction, .wasSorted = true, .isSorted = true};
 }
 
 }  // namespace corvane

@@ -137,13 +137,14 @@ class RecipientSelectionForm {
         bool isSorted = false;
 
         [[nodiscard]] SortMark Mark() const;
-        void Reverse();
+        /// The direction in which a click on the header sorts.
+        [[nodiscard]] SortDirection Next() const;
     };
 
     void FillFound();
     void FillChosen();
-    void SortFound();
-    void SortChosen();
+    void SortFound(SortDirection direction);
+    void SortChosen(SortDirection direction);
     [[nodiscard]] std::wstring ExcludeSignersOfOtherLists();
     [[nodiscard]] bool IsListNameAccepted(ErrorReporter& reporter, toolkit::WindowHandle dialog) const;
 
