@@ -61,7 +61,9 @@ std::optional<ExtensionField> ConfigPageForm::Apply(const TextList& listed, Erro
             return wanted.field;
         }
     }
-    settings.additionalExtensions = listed;
+    // Copied first, for a lack of memory may not leave some of the old ones among the new.
+    TextList applied = listed;
+    settings.additionalExtensions = std::move(applied);
     isModified_ = false;
     return std::nullopt;
 }
