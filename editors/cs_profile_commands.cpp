@@ -1,6 +1,7 @@
 #include "editors/cs_profile_commands.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "app/reporting/message_styles.h"
 #include "editors/cs_profile_list.h"
@@ -67,12 +68,17 @@ void AddCsProfile(ProfileForm& form, const std::wstring& name, ShownCsProfile& s
     if (HasCsProfile(form.result, name, systemText)) {
         return;
     }
-    KeepShownSettings(form, shown.index);
+    // All or nothing, should memory be short: the eleven lists and what is shown of them belong together.
+    ProfileForm changed = form;
+    ShownCsProfile changedShown;
+    KeepShownSettings(changed, shown.index);
     CsProfile added;
     added.name = name;
-    AppendCsProfile(form.result, added);
-    ShowCsProfile(form, static_cast<int>(form.result.csProfiles.size()) - 1, shown);
-    std::erase(form.deletedCsProfiles, name);
+    AppendCsProfile(changed.result, added);
+    ShowCsProfile(changed, static_cast<int>(changed.result.csProfiles.size()) - 1, changedShown);
+    std::erase(changed.deletedCsProfiles, name);
+    form = std::move(changed);
+    shown = changedShown;
 }
 
 void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown, ErrorReporter& reporter,
@@ -92,12 +98,17 @@ void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown, ErrorReporter& re
     if (reporter.ShowMessage(dialog, DeletionQuestion(form, name), kConfirmationStyle) != kAnswerYes) {
         return;
     }
-    EraseCsProfile(form.result, selected);
-    ShowCsProfile(form, 0, shown);
-    TextList& deleted = form.deletedCsProfiles;
+    // All or nothing here too: the settings of the deleted one must not stay shown for another.
+    ProfileForm changed = form;
+    ShownCsProfile changedShown;
+    EraseCsProfile(changed.result, selected);
+    ShowCsProfile(changed, 0, changedShown);
+    TextList& deleted = changed.deletedCsProfiles;
     if (std::find(deleted.begin(), deleted.end(), name) == deleted.end()) {
         deleted.push_back(name);
     }
+    form = std::move(changed);
+    shown = changedShown;
 }
 
 }  // namespace corvane
