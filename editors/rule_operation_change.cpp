@@ -1,6 +1,7 @@
 #include "editors/rule_operation_change.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -66,13 +67,14 @@ void EmptyFields(RuleForm& form, Operation previous, Operation next) {
 /// been one without the row. Signature formats are no archivers, so their index is left as it is.
 void CarryArchiver(ChoiceField& choice, Operation next) {
     constexpr int kLastWithNo = 2;
-    const bool heldArchivers = HoldsArchivers(choice);
+    // Entries and index change together, so that a change that fails for lack of memory can be made good.
+    ChoiceField carried = choice;
+    FillArchivers(carried, LayoutOf(next));
     const bool heldNo = HoldsNoArchiver(choice);
-    FillArchivers(choice, LayoutOf(next));
-    if (!heldArchivers || heldNo == HoldsNoArchiver(choice)) {
-        return;
+    if (HoldsArchivers(choice) && heldNo != HoldsNoArchiver(carried)) {
+        carried.index = heldNo ? std::max(carried.index - 1, 0) : std::min(carried.index + 1, kLastWithNo);
     }
-    choice.index = heldNo ? std::max(choice.index - 1, 0) : std::min(choice.index + 1, kLastWithNo);
+    choice = std::move(carried);
 }
 
 void ResetChoices(RuleForm& form, Operation previous, Operation next) {
