@@ -12,6 +12,7 @@
 #include "certs/provider_call_message.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
+#include "fuzz/silent_reporting.h"
 
 // An input lays down an error stack: each of its entries has three texts of any bytes, with zeros inside,
 // with a length and no memory, or none at all. Whatever it is, both layouts show it, nothing outside of the
@@ -103,23 +104,6 @@ class FuzzedLibrary : public ProviderLibrary {
     ProviderBindFailure failure_;
 };
 
-class NoPresenter : public toolkit::MessagePresenter {
-  public:
-    int Show(toolkit::WindowHandle /*owner*/, const std::wstring& /*text*/, const std::wstring& /*title*/,
-             std::uint32_t /*style*/) override {
-        return 0;
-    }
-    [[nodiscard]] bool IsLive(toolkit::WindowHandle /*window*/) const override { return false; }
-};
-
-class NoMessages : public SystemMessages {
-  public:
-    [[nodiscard]] std::optional<std::wstring> FromSystem(std::uint32_t /*code*/) const override { return {}; }
-    [[nodiscard]] std::optional<std::wstring> FromInternetModule(std::uint32_t /*code*/) const override {
-        return {};
-    }
-};
-
 // Takes an input apart.
 class Input {
   public:
@@ -190,8 +174,8 @@ std::wstring ExpectedDescription(const toolkit::SystemText& systemText) {
 
 void CheckStack(std::string_view bytes, const toolkit::SystemText& systemText) {
     FuzzedLibrary provider;
-    NoPresenter presenter;
-    const NoMessages messages;
+    fuzz::SilentPresenter presenter;
+    const fuzz::NoMessages messages;
     ErrorReporter reporter(presenter, messages, provider, systemText);
 
     LayDown(bytes);
