@@ -40,6 +40,14 @@ bool IsAmong(const std::vector<Profile>& profiles, const Profile& profile) {
     return std::find(profiles.begin(), profiles.end(), profile) != profiles.end();
 }
 
+// A profile as it comes back from the store.
+Profile AsStored(Profile profile) {
+    std::replace(profile.timeStampServers.begin(), profile.timeStampServers.end(), std::wstring(),
+                 std::wstring(L"0"));
+    std::erase_if(profile.rules, [](const Rule& rule) { return rule.operation.empty(); });
+    return profile;
+}
+
 class HalfWrittenStore : public ::testing::Test {
   protected:
     HalfWrittenStore() {
@@ -54,6 +62,9 @@ class HalfWrittenStore : public ::testing::Test {
         calls_ = store.registry.Calls();
         EXPECT_TRUE(store.Load());
         after_ = store.state;
+        for (const Profile& profile : ChangedConfiguration().profiles) {
+            EXPECT_TRUE(IsAmong(after_.profiles, AsStored(profile))) << Printable(profile.name);
+        }
     }
 
     // Cuts the save short at every call but the closing ones, which change nothing that is stored. Which code
