@@ -16,6 +16,7 @@
 #include "toolkit/combo_box.h"
 #include "toolkit/file_dialogs.h"
 #include "toolkit/message_presenter_windows.h"
+#include "toolkit/wait_cursor.h"
 #include "toolkit/window_text.h"
 
 namespace corvane {
@@ -40,20 +41,6 @@ constexpr std::array kCaptions = std::to_array<Caption>({
     {IDC_SELECTION_LIST_NAME_LABEL, L"List name:"},
     {IDCANCEL, L"Exit"},
 });
-
-/// Shows the hourglass while the provider is at work.
-class WaitCursor {
-  public:
-    WaitCursor() : before_(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-    WaitCursor(WaitCursor&&) = delete;
-    WaitCursor& operator=(WaitCursor&&) = delete;
-    ~WaitCursor() { SetCursor(before_); }
-
-  private:
-    HCURSOR before_;
-};
 
 toolkit::FileDialogOffer FileDialogOfferFor(const GroupFileOffer& offer) {
     return {.fileName = {},
@@ -242,7 +229,7 @@ void CPreEncryptDlg::ChangeChosen(const std::function<void()>& change) {
 
 void CPreEncryptDlg::SearchLocalStore() {
     ChangeFound([this] {
-        const WaitCursor waiting;
+        const toolkit::WaitCursor waiting;
         form_.SearchLocalStore(context_, reporter_, Window());
     });
 }
@@ -253,7 +240,7 @@ void CPreEncryptDlg::SearchNetworkStore() {
         return;
     }
     ChangeFound([this, &filter] {
-        const WaitCursor waiting;
+        const toolkit::WaitCursor waiting;
         form_.SearchNetworkStore(filter.Form().Pattern(reporter_.Text()), context_, reporter_, Window());
     });
 }
@@ -294,7 +281,7 @@ void CPreEncryptDlg::ShowDetails(const OwnerBox& box) {
 
 void CPreEncryptDlg::OnOk() {
     TakeData();
-    const WaitCursor waiting;
+    const toolkit::WaitCursor waiting;
     switch (form_.Confirm(context_, reporter_, Window())) {
         case SelectionOutcome::kAccepted:
             EndModal(IDOK);

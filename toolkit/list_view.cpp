@@ -48,6 +48,18 @@ int ListView::ClientWidth() const {
     return client.right;
 }
 
+void ListView::LayOutColumns(const std::function<void(int clientWidth)>& setWidths) const {
+    constexpr int kPasses = 3;
+    int width = -1;
+    for (int pass = 0; pass < kPasses && ClientWidth() != width; ++pass) {
+        width = ClientWidth();
+        // The list arranges itself anew after each column, and all other columns with it. Its scroll bars
+        // are up to date only when it may draw again.
+        const RedrawLock locked(*this);
+        setWidths(width);
+    }
+}
+
 void ListView::MarkHeading(int column, HeadingMark mark) const {
     const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
     HDITEMW item = {};
@@ -225,14 +237,13 @@ int ListView::TopRow() const {
 }
 
 void ListView::ScrollTo(int topRow) const {
-    const int shown = TopRow();
-    if (RowCount() == 0 || topRow == shown) {
+    if (RowCount() == 0) {
         return;
     }
     RECT row = {};
     row.left = LVIR_BOUNDS;
     Send(LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
-    Send(LVM_SCROLL, 0, static_cast<LPARAM>(topRow - shown) * (row.bottom - row.top));
+    Send(LVM_SCROLL, 0, static_cast<LPARAM>(topRow - TopRow()) * (row.bottom - row.top));
 }
 
 ListView::RedrawLock::RedrawLock(const ListView& list) : control_(list.control_) {

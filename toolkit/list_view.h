@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,10 @@ class ListView {
     void SetColumnWidth(int column, int widthPixels) const;
     [[nodiscard]] int ColumnWidth(int column) const;
     [[nodiscard]] int ClientWidth() const;
+    /// Lets `setWidths` share the client width, in pixels, out among the columns. Scroll bars that the old
+    /// widths or a new size called for may come or go with the new ones, and change what there is to share;
+    /// then it is asked again, three times at most.
+    void LayOutColumns(const std::function<void(int clientWidth)>& setWidths) const;
     /// Nothing when the heading has this mark, so that it is not drawn again.
     void MarkHeading(int column, HeadingMark mark) const;
 
@@ -84,7 +89,8 @@ class ListView {
 
     /// The first row that is shown.
     [[nodiscard]] int TopRow() const;
-    /// Scrolls so that this row is the first shown, as far as there are rows.
+    /// Scrolls so that this row is the first shown, as far as there are rows. Not while redrawing is locked:
+    /// Windows is reported to ignore LVM_SCROLL then.
     void ScrollTo(int topRow) const;
 
   private:

@@ -27,7 +27,22 @@ class FontSelector {
     HGDIOBJ before_;
 };
 
+bool IsHighContrastOn() {
+    HIGHCONTRASTW contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != FALSE &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 }  // namespace
+
+int CaptionColor(UINT itemState, bool isHighContrast) {
+    if ((itemState & CDIS_DISABLED) != 0) {
+        return COLOR_GRAYTEXT;
+    }
+    const bool isHotOrPressed = (itemState & (CDIS_HOT | CDIS_SELECTED)) != 0;
+    return isHighContrast && isHotOrPressed ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT;
+}
 
 LRESULT DrawWrappedCaption(const NMCUSTOMDRAW& draw) {
     if (draw.dwDrawStage != CDDS_PREPAINT) {
@@ -49,9 +64,8 @@ LRESULT DrawWrappedCaption(const NMCUSTOMDRAW& draw) {
     lines.top += (inside.bottom - inside.top - height) / 2;
     lines.bottom = lines.top + height;
 
-    const bool isDisabled = (draw.uItemState & CDIS_DISABLED) != 0;
     const COLORREF colorBefore =
-        SetTextColor(draw.hdc, GetSysColor(isDisabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
+        SetTextColor(draw.hdc, GetSysColor(CaptionColor(draw.uItemState, IsHighContrastOn())));
     const int modeBefore = SetBkMode(draw.hdc, TRANSPARENT);
     // The lines may reach into the margin: a descender there is better than one cut off.
     DrawTextW(draw.hdc, caption.c_str(), length, &lines, DT_CENTER | DT_WORDBREAK | DT_NOCLIP);

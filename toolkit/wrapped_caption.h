@@ -6,6 +6,11 @@
 
 namespace toolkit {
 
+/// The system colour (COLOR_...) of a push button's caption in the given state (CDIS_...). In a scheme of
+/// high contrast a button under the mouse, or pressed, has the ground of selected text, on which only the
+/// colour of selected text can be read.
+[[nodiscard]] int CaptionColor(UINT itemState, bool isHighContrast);
+
 /// Draws the caption of a push button in as many centred lines as it needs (NM_CUSTOMDRAW of a button with
 /// BS_MULTILINE), and returns what the notification is to be answered with.
 ///

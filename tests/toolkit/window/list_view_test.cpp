@@ -275,6 +275,61 @@ TEST_F(ListViewTest, AMarkThatAHeadingHasIsNotSetAgain) {
     EXPECT_EQ(settings, 1);
 }
 
+// A column that is wider than what is left beside a new vertical scroll bar brings a horizontal one, which
+// takes the height of a row, and so on: the widths are right when they bring no scroll bar any more.
+TEST_F(ListViewTest, ColumnsAreLaidOutUntilTheirWidthBringsNoScrollBar) {
+    list_.InsertColumn(0, L"Name", list_.ClientWidth());
+    const auto hasHorizontalBar = [this] {
+        return (GetWindowLongPtrW(list_.Window(), GWL_STYLE) & WS_HSCROLL) != 0;
+    };
+    list_.AppendRowsOnRequest(kManyRows);
+    ASSERT_TRUE(hasHorizontalBar());
+    list_.LayOutColumns([this](int clientWidth) { list_.SetColumnWidth(0, clientWidth); });
+    EXPECT_FALSE(hasHorizontalBar());
+    EXPECT_EQ(list_.ColumnWidth(0), list_.ClientWidth());
+}
+
+TEST_F(ListViewTest, ColumnsTakeTheRoomOfAScrollBarThatGoesWithTheirNewWidth) {
+    // As many rows as have room only without a horizontal scroll bar.
+    list_.InsertColumn(0, L"Name", 10);
+    list_.AppendRowsOnRequest(1);
+    list_.AppendRowsOnRequest(static_cast<std::size_t>(ListView_GetCountPerPage(list_.Window())) - 1);
+    const int wholeWidth = list_.ClientWidth();
+    list_.SetColumnWidth(0, wholeWidth + 100);
+    ASSERT_LT(list_.ClientWidth(), wholeWidth) << "both scroll bars were expected";
+    list_.LayOutColumns([this](int clientWidth) { list_.SetColumnWidth(0, clientWidth); });
+    EXPECT_EQ(list_.ClientWidth(), wholeWidth);
+    EXPECT_EQ(list_.ColumnWidth(0), wholeWidth);
+}
+
+TEST_F(ListViewTest, ALayoutThatNeverFitsIsGivenUpAfterThreeTimes) {
+    list_.InsertColumn(0, L"Name", 10);
+    int layouts = 0;
+    list_.LayOutColumns([&](int) {
+        // Each time the list has another width.
+        ++layouts;
+        SetWindowPos(list_.Window(), nullptr, 0, 0, 100 + 10 * layouts, 60, SWP_NOMOVE | SWP_NOZORDER);
+    });
+    EXPECT_EQ(layouts, 3);
+}
+
+// Windows scrolls back to the first row otherwise.
+TEST_F(ListViewTest, ANewNumberOfRowsAsksTheListNotToScroll) {
+    LPARAM flags = 0;
+    SetWindowSubclass(
+        list_.Window(),
+        [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR noted) -> LRESULT {
+            if (message == LVM_SETITEMCOUNT) {
+                // NOLINTNEXTLINE(performance-no-int-to-ptr): the platform keeps the pointer as a number.
+                *reinterpret_cast<LPARAM*>(noted) = lParam;
+            }
+            return DefSubclassProc(window, message, wParam, lParam);
+        },
+        1, reinterpret_cast<DWORD_PTR>(&flags));
+    list_.SetRowCount(5);
+    EXPECT_EQ(flags & LVSICF_NOSCROLL, LVSICF_NOSCROLL);
+}
+
 TEST_F(ListViewTest, CheckStatesAreOnOffOrNoRow) {
     list_.AddExtendedStyles(LVS_EX_CHECKBOXES);
     AppendRows({L"a", L"b"});
@@ -304,13 +359,13 @@ TEST_F(ListViewTest, TheScrollPositionSurvivesARefill) {
     AppendManyRows();
     list_.ScrollTo(17);
     ASSERT_EQ(list_.TopRow(), 17);
+    const int top = list_.TopRow();
     {
         const ListView::RedrawLock locked(list_);
-        const int top = list_.TopRow();
         list_.DeleteAllRows();
         list_.AppendRowsOnRequest(kManyRows);
-        list_.ScrollTo(top);
     }
+    list_.ScrollTo(top);
     EXPECT_EQ(list_.TopRow(), 17);
 }
 

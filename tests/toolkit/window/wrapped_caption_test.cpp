@@ -165,6 +165,20 @@ TEST_F(WrappedCaption, HasTheColourOfDisabledTextWhileTheButtonIsDisabled) {
     EXPECT_EQ(canvas.Count(GetSysColor(COLOR_BTNTEXT)), 0);
 }
 
+TEST(CaptionColorTest, IsTheOneOfButtonTextWhateverIsDoneToTheButton) {
+    for (const int state : {0, CDIS_HOT, CDIS_SELECTED, CDIS_FOCUS, CDIS_DEFAULT}) {
+        EXPECT_EQ(CaptionColor(static_cast<UINT>(state), false), COLOR_BTNTEXT) << "state " << state;
+    }
+    EXPECT_EQ(CaptionColor(CDIS_DISABLED, false), COLOR_GRAYTEXT);
+}
+
+TEST(CaptionColorTest, InHighContrastIsThatOfSelectedTextUnderTheMouseAndWhilePressed) {
+    EXPECT_EQ(CaptionColor(CDIS_HOT, true), COLOR_HIGHLIGHTTEXT);
+    EXPECT_EQ(CaptionColor(CDIS_SELECTED | CDIS_FOCUS, true), COLOR_HIGHLIGHTTEXT);
+    EXPECT_EQ(CaptionColor(CDIS_FOCUS | CDIS_DEFAULT, true), COLOR_BTNTEXT);
+    EXPECT_EQ(CaptionColor(CDIS_DISABLED | CDIS_HOT, true), COLOR_GRAYTEXT);
+}
+
 TEST_F(WrappedCaption, ShowsTheFocusWhereTheUserWantsToSeeIt) {
     uiState_ = 0;
     SetWindowSubclass(button_, &AnswerUiState, 1, reinterpret_cast<DWORD_PTR>(&uiState_));
