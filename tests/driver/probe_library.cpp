@@ -88,6 +88,9 @@ HICON IconAt(HWND window, IconPlace place) {
         case IconPlace::kSmallWindowIcon:
             icon = SendMessageW(window, WM_GETICON, ICON_SMALL, 0);
             break;
+        case IconPlace::kDragIcon:
+            icon = SendMessageW(window, WM_QUERYDRAGICON, 0, 0);
+            break;
     }
     return reinterpret_cast<HICON>(icon);
 }
@@ -118,6 +121,39 @@ void DescribeIcon(HWND window, ProbeRequest& request) {
     }
 }
 
+void DescribePointer(ProbeRequest& request) {
+    const HCURSOR shown = GetCursor();
+    for (const wchar_t* number : {IDC_ARROW, IDC_IBEAM, IDC_WAIT}) {
+        if (shown != nullptr && shown == LoadCursorW(nullptr, number)) {
+            request.systemPointer = static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(number));
+        }
+    }
+}
+
+/// What is noted of the messages of one window; it lives as long as the hook keeps this library loaded.
+struct Watch {
+    HWND window = nullptr;
+    ProbeRequest notes{};
+};
+
+Watch& TheWatch() {
+    static Watch watch;
+    return watch;
+}
+
+void NoteMessage(const CWPSTRUCT& call) {
+    Watch& watch = TheWatch();
+    if (call.hwnd != watch.window || call.message == 0) {
+        return;
+    }
+    for (const std::uint32_t watched : watch.notes.watched) {
+        if (watched == call.message && watch.notes.messageCount < watch.notes.messages.size()) {
+            watch.notes.messages[watch.notes.messageCount++] = {call.message,
+                                                                static_cast<std::uint32_t>(call.wParam)};
+        }
+    }
+}
+
 void Answer(HWND window, ProbeRequest& request) {
     switch (request.question) {
         case ProbeQuestion::kMenuBar:
@@ -133,6 +169,17 @@ void Answer(HWND window, ProbeRequest& request) {
             GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof request.font,
                        &request.font);
             break;
+        case ProbeQuestion::kPointer:
+            DescribePointer(request);
+            break;
+        case ProbeQuestion::kWatch:
+            TheWatch().window = window;
+            TheWatch().notes = request;
+            TheWatch().notes.messageCount = 0;
+            break;
+        case ProbeQuestion::kWatched:
+            request = TheWatch().notes;
+            break;
     }
     request.isAnswered = 1;
 }
@@ -145,6 +192,8 @@ extern "C" __declspec(dllexport) LRESULT CALLBACK ProbeHook(int code, WPARAM wPa
         static const UINT kProbeMessage = RegisterWindowMessageW(driver::kProbeMessageName);
         if (call.message == kProbeMessage && call.lParam != 0) {
             Answer(call.hwnd, *reinterpret_cast<ProbeRequest*>(call.lParam));
+        } else {
+            NoteMessage(call);
         }
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);

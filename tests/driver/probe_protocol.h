@@ -15,10 +15,19 @@ enum class ProbeQuestion : std::uint32_t {
     kSystemMenu,  ///< All items of the window's system menu.
     kIcon,        ///< The icon of a control or window.
     kFont,        ///< The font of a control.
+    kPointer,     ///< The pointer that the window's thread shows.
+    kWatch,       ///< From now on, note which of `watched` are sent to the window.
+    kWatched,     ///< What was noted since kWatch.
 };
 
 /// Where an icon is asked for.
-enum class IconPlace : std::uint32_t { kStatic, kButton, kLargeWindowIcon, kSmallWindowIcon };
+enum class IconPlace : std::uint32_t { kStatic, kButton, kLargeWindowIcon, kSmallWindowIcon, kDragIcon };
+
+/// A message that was sent to a window.
+struct ProbeMessage {
+    std::uint32_t message;
+    std::uint32_t wParam;  ///< Its low half.
+};
 
 struct ProbeMenuItem {
     std::int32_t depth;  ///< 0 for the bar itself.
@@ -43,6 +52,13 @@ struct ProbeRequest {
     std::int32_t showsResource;
     /// Number of the system's own icon (IDI_ERROR and its kin), 0 for none of them.
     std::int32_t systemIcon;
+
+    /// Number of the system's pointer (IDC_ARROW and its kin), 0 for none of them.
+    std::int32_t systemPointer;
+
+    std::array<std::uint32_t, 4> watched;  ///< Messages, 0 for none.
+    std::uint32_t messageCount;
+    std::array<ProbeMessage, 256> messages;
 
     LOGFONTW font;  ///< Zeroed where the control has the system font.
 };
