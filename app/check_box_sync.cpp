@@ -1,5 +1,7 @@
 #include "app/check_box_sync.h"
 
+#include <vector>
+
 namespace corvane {
 
 namespace {
@@ -28,6 +30,18 @@ void SyncCheckBoxes(ConfigurationState& state, const std::function<int(std::size
             if (!profile.rules[position].operation.empty()) {
                 SyncRule(profile.rules[position], checkState(position), state.isDirty);
             }
+        }
+    }
+}
+
+void TakeTicks(ConfigurationState& state, std::size_t profilePosition,
+               const std::function<int(std::size_t row)>& checkState) {
+    std::vector<Rule>& rules = state.profiles.at(profilePosition).rules;
+    for (std::size_t position = 0; position < rules.size(); ++position) {
+        const bool isChecked = checkState(position) != 0;
+        if (isChecked != (rules[position].isOn != 0)) {
+            rules[position].isOn = isChecked ? 1 : 0;
+            state.isDirty = true;
         }
     }
 }

@@ -18,6 +18,8 @@
 #include "config/load_configuration.h"
 #include "config/save_configuration.h"
 #include "res/ids.h"
+#include "toolkit/wait_cursor.h"
+#include "toolkit/window_placement.h"
 #include "toolkit/window_scale.h"
 #include "toolkit/window_text.h"
 #include "toolkit/wrapped_caption.h"
@@ -57,7 +59,7 @@ bool CCorvaneDlg::OnInitDialog() {
     state_.isDirty = false;
     SetUpLists();
 
-    if (!LoadConfiguration(state_, registry_, services_.reporter, Window())) {
+    if (!Load()) {
         EndModal(IDCANCEL);
         return true;
     }
@@ -66,7 +68,14 @@ bool CCorvaneDlg::OnInitDialog() {
     profileList_.Focus();
     profileList_.SelectOnly(0);
     OpenProfile();
+    toolkit::ShowNeverMaximised(Window());
     return false;
+}
+
+bool CCorvaneDlg::Load() {
+    const toolkit::WaitCursor waiting;
+    // Nobody can see the window yet: what is reported stands on its own.
+    return LoadConfiguration(state_, registry_, services_.reporter, nullptr);
 }
 
 void CCorvaneDlg::SetUpMenu() const {
@@ -136,20 +145,14 @@ void CCorvaneDlg::RestorePlacement() const {
     if (!ShouldRestoreWindow(stored)) {
         return;
     }
-    WINDOWPLACEMENT placement = {};
-    placement.length = sizeof placement;
-    GetWindowPlacement(Window(), &placement);
-    placement.rcNormalPosition = {stored.left, stored.top, stored.right, stored.bottom};
-    // The window is shown when all of it is ready. A rectangle on a screen that is no longer there is moved
-    // by the system to where it can be seen.
-    placement.showCmd = SW_HIDE;
-    SetWindowPlacement(Window(), &placement);
+    // A rectangle on a screen that is no longer there is moved by the system to where it can be seen.
+    toolkit::PlaceHiddenWindow(Window(), {stored.left, stored.top, stored.right, stored.bottom},
+                               [this] { return DotsPerInch(); });
 }
 
 bool CCorvaneDlg::OnCommand(int controlId, UINT notificationCode) {
     if (controlId == IDC_SEARCH_EDIT && notificationCode == EN_CHANGE) {
-        TakeData();
-        RefillRuleList(RuleListView::Keep::kScrollAndSelection);
+        Execute([this] { Search(); });
         return true;
     }
     // A menu sends 0 like a button, an accelerator key 1.
@@ -158,11 +161,16 @@ bool CCorvaneDlg::OnCommand(int controlId, UINT notificationCode) {
     if (!command) {
         return false;
     }
-    Execute(*command);
+    Execute([this, &command] { Run(*command); });
     return true;
 }
 
-void CCorvaneDlg::Execute(MainCommand command) {
+void CCorvaneDlg::Execute(const std::function<void()>& command) {
+    TakeTicksOfShownRules();
+    command();
+}
+
+void CCorvaneDlg::Run(MainCommand command) {
     switch (command) {
         case MainCommand::kSave:
             return Save();
@@ -216,9 +224,9 @@ bool CCorvaneDlg::OnNotify(NMHDR& header, LRESULT& result) {
 
 void CCorvaneDlg::OnProfileListNotification(const NMHDR& header) {
     if (header.code == NM_CLICK) {
-        OpenProfile();
+        Execute([this] { OpenProfile(); });
     } else if (header.code == NM_DBLCLK) {
-        EditCurrentProfile();
+        Execute([this] { EditCurrentProfile(); });
     }
 }
 
@@ -228,17 +236,17 @@ bool CCorvaneDlg::OnRuleListNotification(NMHDR& header) {
             ruleList_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
             return true;
         case NM_DBLCLK:
-            EditSelectedRule();
+            Execute([this] { EditSelectedRule(); });
             return true;
         case NM_RCLICK:
-            DescribeCell(reinterpret_cast<const NMITEMACTIVATE&>(header));
+            Execute([this, &header] { DescribeCell(reinterpret_cast<const NMITEMACTIVATE&>(header)); });
             return true;
         case NM_KILLFOCUS:
             CopyCheckBoxes();
             return true;
         case LVN_KEYDOWN:
             if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == VK_DELETE) {
-                DeleteSelectedRules();
+                Execute([this] { DeleteSelectedRules(); });
             }
             return true;
         default:
@@ -247,7 +255,7 @@ bool CCorvaneDlg::OnRuleListNotification(NMHDR& header) {
 }
 
 void CCorvaneDlg::Save() {
-    CopyCheckBoxesOfFocusedList();
+    const toolkit::WaitCursor waiting;
     SaveConfiguration(state_, RestoredRectangle(), registry_, services_.reporter, Window());
 }
 
@@ -267,7 +275,6 @@ void CCorvaneDlg::OnOk() {
 }
 
 void CCorvaneDlg::OnCancel() {
-    CopyCheckBoxesOfFocusedList();
     if (MayLeave(state_.isDirty, services_.reporter, Window())) {
         Leave(IDCANCEL);
     }
@@ -331,7 +338,7 @@ bool CCorvaneDlg::OnSystemCommand(WPARAM command) {
     if (!IsAboutCommand(command)) {
         return false;
     }
-    ShowAbout();
+    Execute([this] { ShowAbout(); });
     return true;
 }
 
@@ -357,7 +364,7 @@ HICON CCorvaneDlg::OnQueryDragIcon() {
 }
 
 bool CCorvaneDlg::OnQueryEndSession() {
-    CopyCheckBoxesOfFocusedList();
+    TakeTicksOfShownRules();
     if (!state_.isDirty) {
         return true;
     }
@@ -395,7 +402,9 @@ void CCorvaneDlg::ReportException(const std::exception& exception) {
 void CCorvaneDlg::LayOutColumns() {
     const int scrollBarWidth = toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch());
     ruleList_.LayOutColumns(scrollBarWidth);
-    profileList_.SetColumnWidth(0, LayOutProfileColumn(profileList_.ClientWidth(), scrollBarWidth, false));
+    profileList_.LayOutColumns([this, scrollBarWidth](int clientWidth) {
+        profileList_.SetColumnWidth(0, LayOutProfileColumn(clientWidth, scrollBarWidth, false));
+    });
 }
 
 }  // namespace corvane

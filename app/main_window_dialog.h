@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 
 #include "app/main_window_layout.h"
@@ -49,10 +50,15 @@ class CCorvaneDlg final : public toolkit::Dialog {
     void SetUpIcons();
     void SetUpLists();
     void RememberLayout();
+    [[nodiscard]] bool Load();
     void RestorePlacement() const;
 
     // The window's own commands.
-    void Execute(MainCommand command);
+    /// Every command of the window goes this way, wherever it comes from: what the user has just ticked is
+    /// in the configuration before the command works on it.
+    void Execute(const std::function<void()>& command);
+    void Run(MainCommand command);
+    void Search();
     void Save();
     void EditLogSettings();
     void EditExtensions();
@@ -79,7 +85,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     void RefillRuleList(RuleListView::Keep keep);
     void SelectRow(int row);
     void CopyCheckBoxes();
-    void CopyCheckBoxesOfFocusedList();
+    void TakeTicksOfShownRules();
 
     void LayOutColumns();
     void OnProfileListNotification(const NMHDR& header);

@@ -15,10 +15,12 @@
 namespace corvane {
 
 void CCorvaneDlg::FillProfileList() {
-    const toolkit::ListView::RedrawLock locked(profileList_);
-    for (const std::wstring& name : state_.profileNames) {
-        if (!name.empty() && profileList_.FindRow(name) < 0) {
-            profileList_.AppendRow(name);
+    {
+        const toolkit::ListView::RedrawLock locked(profileList_);
+        for (const std::wstring& name : state_.profileNames) {
+            if (!name.empty() && profileList_.FindRow(name) < 0) {
+                profileList_.AppendRow(name);
+            }
         }
     }
     LayOutColumns();
@@ -90,8 +92,9 @@ void CCorvaneDlg::DeleteSelectedProfile() {
     for (int row = 0; row < profileList_.RowCount(); ++row) {
         rows.push_back(profileList_.RowText(row));
     }
-    if (DeleteProfile(state_, rows, static_cast<std::size_t>(selected)) ==
-        DeleteProfileResult::kRefusedLast) {
+    const std::optional<DeletedProfile> deleted =
+        DeleteProfile(state_, rows, static_cast<std::size_t>(selected));
+    if (!deleted) {
         services_.reporter.ShowMessage(Window(), std::wstring(kLastProfileText), kRefusalStyle);
         return;
     }
@@ -103,6 +106,10 @@ void CCorvaneDlg::DeleteSelectedProfile() {
     ruleListCaption_ = RuleListCaption(0);
     PutData();
     EnableProfileCommands(false);
+    // Last of all: the rule list has lost the focus by now, and the check boxes that it does not have were
+    // copied nowhere.
+    state_.currentProfileName = deleted->nextCurrentName;
+    LayOutColumns();
 }
 
 void CCorvaneDlg::ImportRules() {
@@ -128,6 +135,7 @@ void CCorvaneDlg::EnableProfileCommands(bool isEnabled) {
     for (const int item : kProfileMenuItems) {
         EnableMenuItem(menu, static_cast<UINT>(item), MF_BYCOMMAND | state);
     }
+    DrawMenuBar(Window());
 }
 
 }  // namespace corvane

@@ -28,6 +28,11 @@ void CCorvaneDlg::RefillRuleList(RuleListView::Keep keep) {
                    services_.reporter.Text(), keep);
 }
 
+void CCorvaneDlg::Search() {
+    TakeData();
+    RefillRuleList(RuleListView::Keep::kScroll);
+}
+
 void CCorvaneDlg::SelectRow(int row) {
     ruleList_.Control().Focus();
     ruleList_.Control().SelectOnly(row);
@@ -146,12 +151,17 @@ void CCorvaneDlg::CopyCheckBoxes() {
                    [this](std::size_t row) { return ruleList_.Control().CheckState(static_cast<int>(row)); });
 }
 
-void CCorvaneDlg::CopyCheckBoxesOfFocusedList() {
-    // Saving and leaving by the keyboard or the menu take no focus from the list. What was just ticked in it
-    // must not be lost; only while the search hides rules, whose missing rows would count as ticked, it has
-    // to wait until the list really loses the focus.
-    if (GetFocus() == ruleList_.Control().Window() && ruleList_.ShowsEveryRule()) {
-        CopyCheckBoxes();
+void CCorvaneDlg::TakeTicksOfShownRules() {
+    const Profile* const current = FindCurrentProfile(state_);
+    if (state_.currentProfileName.empty() || current == nullptr) {
+        return;
+    }
+    // While the search hides rules, rows do not stand for the rules that they show, and the boxes wait until
+    // the list loses the focus. After a profile was deleted the list shows nothing at all.
+    const auto position = static_cast<std::size_t>(current - state_.profiles.data());
+    if (ruleList_.ShowsEveryRuleOf(position)) {
+        TakeTicks(state_, position,
+                  [this](std::size_t row) { return ruleList_.Control().CheckState(static_cast<int>(row)); });
     }
 }
 

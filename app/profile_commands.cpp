@@ -50,28 +50,25 @@ std::optional<OpenedProfile> OpenProfileNamed(ConfigurationState& state, const s
                          .position = PositionOf(state, *profile)};
 }
 
-DeleteProfileResult DeleteProfile(ConfigurationState& state, TextList& rowTexts, std::size_t selectedRow) {
+std::optional<DeletedProfile> DeleteProfile(ConfigurationState& state, const TextList& rowTexts,
+                                            std::size_t selectedRow) {
     RequirePosition(selectedRow, rowTexts.size());
     RequirePosition(selectedRow, state.profiles.size());
     RequirePosition(selectedRow, state.profileNames.size());
-    // Deliberate: the walk goes on behind the deleted row, and its index is not corrected for it, so the name
-    // of a later row may be the current one although no profile is shown. Programs that drive this one find
-    // the state so; a user clicks a row next, which sets the name anew.
-    for (std::size_t row = 0; row < rowTexts.size(); ++row) {
-        state.currentProfileName = rowTexts[row];
-        if (row != selectedRow) {
-            continue;
-        }
-        if (rowTexts.size() < 2) {
-            return DeleteProfileResult::kRefusedLast;
-        }
-        EraseAt(rowTexts, row);
-        EraseAt(state.profiles, row);
-        EraseAt(state.profileNames, row);
-        state.currentProfileName.clear();
-        state.isDirty = true;
+    if (rowTexts.size() < 2) {
+        state.currentProfileName = rowTexts[selectedRow];
+        return std::nullopt;
     }
-    return DeleteProfileResult::kDeleted;
+    EraseAt(state.profiles, selectedRow);
+    EraseAt(state.profileNames, selectedRow);
+    state.currentProfileName.clear();
+    state.isDirty = true;
+    // Deliberate: a walk over the rows goes on behind the deleted one, makes each row's name the current one,
+    // and skips the row that has moved up into the gap. So the name of the last row may be the current one
+    // although no profile is shown. Programs that drive this one find the state so; a user clicks a row next,
+    // which sets the name anew.
+    const bool isAnyRowVisitedAfterwards = selectedRow + 2 < rowTexts.size();
+    return DeletedProfile{.nextCurrentName = isAnyRowVisitedAfterwards ? rowTexts.back() : std::wstring()};
 }
 
 void AppendProfile(ConfigurationState& state, Profile profile) {

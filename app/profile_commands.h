@@ -21,16 +21,21 @@ struct OpenedProfile {
 /// where no profile has it, the name being the current one all the same.
 std::optional<OpenedProfile> OpenProfileNamed(ConfigurationState& state, const std::wstring& rowText);
 
-enum class DeleteProfileResult {
-    kRefusedLast,  ///< It was the only one; nothing was removed, the dirty flag stays.
-    kDeleted,
+/// What is left to do when a profile has been deleted.
+struct DeletedProfile {
+    /// What becomes the current profile name when nothing shows the deleted profile any more.
+    std::wstring nextCurrentName;
+
+    bool operator==(const DeletedProfile&) const = default;
 };
 
 /// Deletes the profile of the selected row, once the user has confirmed it. `rowTexts` are the rows of the
-/// profile list and lose the deleted one. No profile is opened; which name is the current one afterwards
-/// depends on where the walk over the rows ends. A row that the list or the configuration lacks throws
-/// std::invalid_argument, with nothing changed.
-DeleteProfileResult DeleteProfile(ConfigurationState& state, TextList& rowTexts, std::size_t selectedRow);
+/// profile list, the selected one included. No profile is opened, and none is the current one: while the
+/// window still shows rules of the deleted profile, or has just thrown their rows away, no check box may be
+/// taken for one of another profile. Returns none for the only profile: it stays, and so does the dirty flag.
+/// A row that the list or the configuration lacks throws std::invalid_argument, with nothing changed.
+std::optional<DeletedProfile> DeleteProfile(ConfigurationState& state, const TextList& rowTexts,
+                                            std::size_t selectedRow);
 
 /// Appends a new profile; the current one stays.
 void AppendProfile(ConfigurationState& state, Profile profile);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,7 @@ class RuleListView {
     /// Takes over the control, which is empty, and makes its columns. `scrollBarWidth` in pixels.
     void Attach(HWND control, int scrollBarWidth);
     /// Shares its width out among the columns. `scrollBarWidth` in pixels.
-    void LayOutColumns(int scrollBarWidth) const;
+    void LayOutColumns(int scrollBarWidth);
     /// Has the check boxes drawn for the scale of today; the check marks stay.
     void MakeCheckBoxesAgain() const { list_.MakeCheckBoxesAgain(); }
 
@@ -32,8 +33,9 @@ class RuleListView {
     /// Shows the rules of the profile at this position of the configuration that match the search text.
     void Fill(std::size_t profilePosition, const std::wstring& searchText, const toolkit::SystemText& text,
               Keep keep);
-    /// Tells whether every rule of the profile has its row.
-    [[nodiscard]] bool ShowsEveryRule() const;
+    /// Tells whether the list shows the profile at this position of the configuration, and every rule of it
+    /// at the row of its own position.
+    [[nodiscard]] bool ShowsEveryRuleOf(std::size_t profilePosition) const;
 
     /// Answers the control's question for a cell's text (LVN_GETDISPINFO).
     void AnswerDisplayRequest(NMLVDISPINFOW& request);
@@ -45,13 +47,18 @@ class RuleListView {
 
   private:
     [[nodiscard]] const std::vector<Rule>* ShownRules() const;
+    void DeleteRows();
+    void InsertRows(const std::vector<Rule>& rules);
+    void FitColumnsToScrollBar();
     void Select(const std::vector<std::size_t>& rulePositions) const;
 
     const ConfigurationState& state_;
     toolkit::ListView list_;
     TextList columnNames_;
-    std::size_t profilePosition_ = 0;
-    std::vector<std::size_t> rows_;  ///< The rule position of each row.
+    int scrollBarWidth_ = 0;
+    int laidOutWidth_ = 0;                        ///< The client width that the columns share, in pixels.
+    std::optional<std::size_t> profilePosition_;  ///< None while no profile is shown.
+    std::vector<std::size_t> rows_;               ///< The rule position of each row.
     // An answered text must outlive the next two questions.
     std::array<std::wstring, 4> answers_;
     std::size_t nextAnswer_ = 0;

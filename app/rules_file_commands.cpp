@@ -10,6 +10,7 @@
 #include "config/rules_file_text.h"
 #include "toolkit/file_dialogs.h"
 #include "toolkit/format_text.h"
+#include "toolkit/wait_cursor.h"
 
 namespace corvane {
 
@@ -37,6 +38,7 @@ void ExportProfileRules(const ConfigurationState& state, toolkit::WindowHandle o
     }
     const std::optional<std::wstring> path = toolkit::AskWhereToSave(owner, RulesFileOffer(profile->name));
     if (path) {
+        const toolkit::WaitCursor waiting;
         // A failure has been reported, and nothing but the file depends on the outcome.
         static_cast<void>(WriteRulesFile(*path, profile->rules, services.files, services.reporter, owner));
     }
@@ -47,6 +49,7 @@ bool ImportProfileRules(ConfigurationState& state, toolkit::WindowHandle owner, 
     if (!path) {
         return false;
     }
+    const toolkit::WaitCursor waiting;
     const std::optional<std::string> content = ReadRulesFile(*path, services.files, services.reporter, owner);
     Profile* const profile = FindCurrentProfile(state);
     if (!content || profile == nullptr) {

@@ -68,7 +68,8 @@ void AnchoredLayout::Arrange(int width, int height) const {
 }
 
 void AnchoredLayout::LimitSize(MINMAXINFO& info) const {
-    if (dialog_ == nullptr) {
+    // The frame of a minimised dialog is not the one that it gets back.
+    if (dialog_ == nullptr || IsIconic(dialog_) != FALSE) {
         return;
     }
     // What the frame adds to the client area, at this scale and whatever the frame looks like.

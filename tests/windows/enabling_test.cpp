@@ -1,4 +1,5 @@
 #include "tests/driver/menu.h"
+#include "tests/driver/probe.h"
 #include "tests/windows/editor_test.h"
 
 namespace corvane {
@@ -59,6 +60,19 @@ TEST_F(Enabling, DeletingTheProfileDisablesAndGreysThemUntilAnotherIsOpened) {
     ExpectStates(false);
     OpenProfile(L"gamma");
     ExpectStates(true);
+}
+
+// Windows draws the bar anew only when it is told to.
+TEST_F(Enabling, TheMenuBarIsDrawnAgainWhenItsItemsChange) {
+    StartWithSample();
+    const driver::MessageWatch watch(Main(), {WM_NCCALCSIZE});
+    const auto framesDrawn = [&watch] { return watch.Sent().size(); };
+    const std::size_t before = framesDrawn();
+    DeleteOpenProfile(L"alpha");
+    const std::size_t afterGreying = framesDrawn();
+    EXPECT_GT(afterGreying, before);
+    OpenProfile(L"gamma");
+    EXPECT_GT(framesDrawn(), afterGreying);
 }
 
 TEST_F(Enabling, NothingDependsOnTheSelectionOfRules) {

@@ -1,3 +1,4 @@
+#include "tests/driver/failure.h"
 #include "tests/windows/editor_test.h"
 
 #include <commctrl.h>
@@ -39,7 +40,7 @@ TEST_F(ProfileList, AClickOpensTheProfile) {
     EXPECT_EQ(Control(IDC_RULE_LIST_CAPTION_EDIT).Text(), L"CS profile's num: 1");
     EXPECT_EQ(ShownRules(), (Texts{L"Hash reports", L"Encode reports"}));
     OpenProfile(L"gamma");
-    EXPECT_EQ(Rules().RowCount(), 0);
+    EXPECT_EQ(ShownRules(), (Texts{L"Hash letters", L"Decode letters"}));
     ExpectNothingToSave();
 }
 
@@ -111,6 +112,28 @@ TEST_F(ProfileList, DeletingTheLastRowLeavesNoCurrentName) {
     OpenProfile(L"gamma");
     DeleteOpenProfile(L"gamma");
     ExpectCurrentName(L"");
+}
+
+// The rule list is empty and loses the focus while the profile goes; boxes that are not there must not count
+// as checked for a profile that nobody has opened.
+TEST_F(ProfileList, DeletingFromWithinTheRuleListSwitchesNoRuleOfAnotherProfile) {
+    WriteSampleConfiguration();
+    const std::vector<std::wstring> others = {L"beta", L"gamma"};
+    for (const std::wstring& other : others) {
+        for (int rule = 0; rule < 2; ++rule) {
+            driver::WriteRegistryValue(RuleKey(other, rule), L"Is on", 0U);
+        }
+    }
+    Start();
+    Rules().PostLeftClick(Rules().CellCentre(kEncrypt, kDescriptionColumn));
+    Rules().WaitForFocus();
+    Main().PostMenuCommand(IDM_DELETE_PROFILE);
+    ExpectBox(L"Delete profile 'alpha'?", kConfirmation, IDYES);
+    Profiles().WaitForFocus();
+    SaveAndLeave();
+    for (const std::wstring& other : others) {
+        EXPECT_EQ(StoredSwitches(other), (std::vector<std::uint32_t>{0, 0})) << driver::Utf8(other);
+    }
 }
 
 TEST_F(ProfileList, TheOnlyProfileIsRefusedAfterTheQuestion) {

@@ -109,6 +109,35 @@ TEST_F(Search, FollowsEachCharacterTyped) {
     EXPECT_EQ(Rules().RowCount(), 0);
 }
 
+// A command would otherwise work on a rule that nobody has selected in the list that is shown.
+TEST_F(Search, LeavesNoRowSelected) {
+    StartWithSample();
+    Rules().Select({kEncrypt, kDelete});
+    Control(IDC_SEARCH_EDIT).SetText(L"orders");
+    EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{});
+    Press(IDC_DELETE_RULE_BUTTON);
+    ExpectNoDialog();
+    Rules().Select({1});
+    Control(IDC_SEARCH_EDIT).SetText(L"");
+    EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{});
+    ExpectNothingToSave();
+}
+
+TEST_F(Search, TheDeleteKeyInItsFieldDeletesACharacterAndNoRule) {
+    StartWithSample();
+    Rules().Select({kEncrypt});
+    Control(IDC_SEARCH_EDIT).SetText(L"xy");
+    Control(IDC_SEARCH_EDIT).PostLeftClick({4, 4});
+    Control(IDC_SEARCH_EDIT).WaitForFocus();
+    Control(IDC_SEARCH_EDIT).Send(EM_SETSEL, 0, 0);
+    Control(IDC_SEARCH_EDIT).PostKey(VK_DELETE);
+    Control(IDC_SEARCH_EDIT).WaitForText(L"y");
+    ExpectNoDialog();
+    Control(IDC_SEARCH_EDIT).SetText(L"");
+    EXPECT_EQ(ShownRules(), SampleDescriptions());
+    ExpectNothingToSave();
+}
+
 TEST_F(Search, LooksAtTheDescriptionOnly) {
     StartWithSample();
     Control(IDC_SEARCH_EDIT).SetText(L"*.xml");

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "tests/driver/file_dialog.h"
+#include "tests/driver/probe.h"
 #include "tests/driver/waiting.h"
 #include "tests/windows/editor_test.h"
 
@@ -104,8 +105,10 @@ TEST_F(RulesFile, ExportByTheMenuAddsTheExtension) {
 }
 
 TEST_F(RulesFile, ExportOfAProfileWithoutRulesIsRefused) {
-    StartWithSample();
-    OpenProfile(L"gamma");
+    WriteSampleConfiguration();
+    WriteProfile(L"without rules", {L"CS one"});
+    Start();
+    OpenProfile(L"without rules");
     Control(IDC_EXPORT_RULES_BUTTON).PostClick();
     ExpectBox(L"Profile contains no rules.", kRefusal, IDOK);
     ExpectNothingToSave();
@@ -130,6 +133,7 @@ TEST_F(RulesFile, ExportOverAnExistingFileAsksFirst) {
 }
 
 TEST_F(RulesFile, ExportToAFileThatCannotBeCreatedIsReported) {
+    SetCursorPos(1, 1);
     StartWithSample();
     // Opened without sharing, the file is there for the dialog and closed to the export.
     WriteFile(L"locked.prx", "locked");
@@ -140,6 +144,7 @@ TEST_F(RulesFile, ExportToAFileThatCannotBeCreatedIsReported) {
     dialog.Confirm();
     Editor().WaitForMessageBox(dialog).Answer(IDYES);
     dialog.WaitUntilGone();
+    EXPECT_EQ(driver::PointerOf(Editor().WaitForMessageBox(Main())), driver::kHourglass);
     ExpectBox(ReportText(L"Creating file " + Path(L"locked.prx"), ERROR_SHARING_VIOLATION), kReport, IDOK);
     ExpectNothingToSave();
 }
@@ -169,17 +174,19 @@ TEST_F(RulesFile, ImportAppendsTheRulesSelectsTheLastAndHasToBeSaved) {
 }
 
 TEST_F(RulesFile, AnImportedRuleIsSavedLikeTheOneThatWasExported) {
-    StartWithSample();
+    WriteSampleConfiguration();
+    WriteProfile(L"target", {L"CS one"});
+    Start();
     Export(L"all.prx");
-    OpenProfile(L"gamma");
+    OpenProfile(L"target");
     Import(L"all.prx");
     SaveAndLeave();
     for (const int rule : {kEncrypt, kMove, kPack, kExecute, kDelete}) {
-        EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"gamma", rule)),
+        EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"target", rule)),
                   driver::ReadRegistryTree(RuleKey(L"alpha", rule)))
             << "rule " << rule;
     }
-    EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"gamma", kResign) + L"\\Board"),
+    EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"target", kResign) + L"\\Board"),
               driver::ReadRegistryTree(RuleKey(L"alpha", kResign) + L"\\Board"));
 }
 
@@ -219,6 +226,7 @@ TEST_F(RulesFile, ImportOfAFileWithoutRecordsChangesNothing) {
 }
 
 TEST_F(RulesFile, ImportOfAFileThatIsInUseIsReported) {
+    SetCursorPos(1, 1);
     StartWithSample();
     WriteFile(L"locked.prx", "locked");
     const driver::FileDialog dialog = OpenFileDialog(IDC_IMPORT_RULES_BUTTON);
@@ -231,6 +239,7 @@ TEST_F(RulesFile, ImportOfAFileThatIsInUseIsReported) {
         dialog.WaitUntilGone();
         box = Editor().WaitForWindow(Main());
     }
+    EXPECT_EQ(driver::PointerOf(box), driver::kHourglass);
     EXPECT_EQ(
         driver::MessageBoxWindow(box).View(),
         driver::MessageBoxOfStyle(ReportText(L"Opening file " + Path(L"locked.prx"), ERROR_SHARING_VIOLATION),

@@ -119,6 +119,9 @@ void WriteSampleConfiguration() {
 
     WriteRule(L"beta", 0, PlainRule(L"HASH", L"Hash reports", 1));
     WriteRule(L"beta", 1, PlainRule(L"B64E", L"Encode reports"));
+
+    WriteRule(L"gamma", 0, PlainRule(L"HASH", L"Hash letters"));
+    WriteRule(L"gamma", 1, PlainRule(L"B64D", L"Decode letters"));
 }
 
 Texts StoredRuleTexts(const std::wstring& profile, const std::wstring& value) {

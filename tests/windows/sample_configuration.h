@@ -23,7 +23,7 @@ enum SampleRule : int { kEncrypt, kMove, kResign, kPack, kExecute, kDelete, kSam
 
 /// Writes the configuration that the tests work on: the provider's catalogue "CS one", "CS two"; the
 /// profiles "alpha" (two CS profiles, the six rules), "beta" (one CS profile, two rules) and "gamma" (one CS
-/// profile, no rules).
+/// profile, two rules). Each has rules that are switched off; all of "gamma" are.
 void WriteSampleConfiguration();
 
 /// Writes the provider's catalogue alone, one key for each name.

@@ -1,6 +1,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/icon.h"
 #include "tests/driver/menu.h"
+#include "tests/driver/probe.h"
 #include "tests/driver/tool_tips.h"
 #include "tests/windows/editor_test.h"
 
@@ -228,9 +229,11 @@ TEST_F(FirstStart, WithoutAnyCsProfileEndsWithOneMessageBox) {
 }
 
 TEST_F(FirstStart, WithoutTheProvidersKeyReportsItAndEnds) {
+    SetCursorPos(1, 1);
     driver::Program editor(EditorPath());
-    // The report belongs to the main window, which is not shown yet.
-    const driver::MessageBoxWindow box(editor.WaitForAnyWindow());
+    // The main window is not shown yet, so the report stands on its own.
+    const driver::MessageBoxWindow box = editor.WaitForMessageBox(driver::Window());
+    EXPECT_EQ(driver::PointerOf(box), driver::kHourglass) << "while the configuration is loaded";
     EXPECT_EQ(
         box.View(),
         driver::MessageBoxOfStyle(

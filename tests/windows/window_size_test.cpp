@@ -1,6 +1,9 @@
 #include <map>
 
+#include "tests/driver/icon.h"
 #include "tests/driver/menu.h"
+#include "tests/driver/probe.h"
+#include "tests/driver/remote_block.h"
 #include "tests/driver/waiting.h"
 #include "tests/windows/editor_test.h"
 
@@ -32,6 +35,37 @@ class WindowSize : public EditorTest {
         })) << "the client area did not become "
             << dx << " by " << dy << " larger";
         Settle();
+    }
+    void Minimise() const {
+        Main().Post(WM_SYSCOMMAND, SC_MINIMIZE);
+        ASSERT_TRUE(driver::WaitUntil([&] { return Main().IsMinimised(); }));
+    }
+    void Restore() const {
+        Main().Post(WM_SYSCOMMAND, SC_RESTORE);
+        // The window counts as restored a moment before it has left the place off screen where minimised
+        // ones wait.
+        ASSERT_TRUE(driver::WaitUntil([&] {
+            RECT bounds = {};
+            GetWindowRect(Main().Handle(), &bounds);
+            return !Main().IsMinimised() && bounds.left > -10000;
+        }));
+        Settle();
+    }
+    void ExpectColumnsFillTheRuleList() const {
+        Settle();
+        EXPECT_EQ(Rules().Style() & WS_HSCROLL, 0U) << "a needless horizontal scroll bar";
+        const int scrollBar = GetSystemMetrics(SM_CXVSCROLL);
+        EXPECT_EQ(Rules().ColumnWidth(0), 3 * scrollBar);
+        for (int column = 1; column < kRuleColumnCount; ++column) {
+            EXPECT_EQ(Rules().ColumnWidth(column), (Rules().ClientSize().cx - 3 * scrollBar) / 8)
+                << "column " << column;
+        }
+    }
+    /// Tells the window that it is on a screen of another scale now, as the system does.
+    void MoveToScreenOf(UINT dotsPerInch) const {
+        driver::RemoteBlock block(Main().Handle(), sizeof(RECT));
+        block.Put(Main().Bounds());
+        Main().Send(WM_DPICHANGED, MAKEWPARAM(dotsPerInch, dotsPerInch), block.Parameter());
     }
     static void ExpectPlace(const Places& places, int id, RECT expected) {
         const RECT found = places.at(id);
@@ -103,24 +137,93 @@ TEST_F(WindowSize, ResizingLaysOutTheColumnsAgain) {
     EXPECT_EQ(Profiles().ColumnWidth(0), Profiles().ClientSize().cx);
 }
 
+// Rows that do not all fit bring a vertical scroll bar, and columns that are laid out without it a horizontal
+// one.
+TEST_F(WindowSize, MoreRulesThanFitBringNoHorizontalScrollBar) {
+    WriteSampleConfiguration();
+    for (int rule = kSampleRuleCount; rule < 40; ++rule) {
+        WriteRule(L"alpha", rule, PlainRule(L"ENCR", L"rule " + std::to_wstring(rule)));
+    }
+    Start();
+    ExpectColumnsFillTheRuleList();
+    ASSERT_NE(Rules().Style() & WS_VSCROLL, 0U);
+    // The bar goes, and comes back.
+    OpenProfile(L"beta");
+    ExpectColumnsFillTheRuleList();
+    ASSERT_EQ(Rules().Style() & WS_VSCROLL, 0U);
+    OpenProfile(L"alpha");
+    ExpectColumnsFillTheRuleList();
+    Control(IDC_SEARCH_EDIT).SetText(L"orders");
+    ExpectColumnsFillTheRuleList();
+    Control(IDC_SEARCH_EDIT).SetText(L"");
+    Control(IDC_DELETE_PROFILE_BUTTON).PostClick();
+    ExpectBox(L"Delete profile 'alpha'?", kConfirmation, IDYES);
+    ExpectColumnsFillTheRuleList();
+}
+
+// At the old widths a smaller list has both scroll bars for a moment, and less room than it has without them.
+TEST_F(WindowSize, AListThatIsJustHighEnoughHasNoStubColumnWhenItIsMadeNarrower) {
+    StartWithSample();
+    while (Rules().RowCount() < static_cast<int>(Rules().Send(LVM_GETCOUNTPERPAGE))) {
+        Rules().Select({0});
+        Press(IDC_COPY_RULE_BUTTON);
+    }
+    ResizeBy(100, 0);
+    ASSERT_EQ(Rules().Style() & WS_VSCROLL, 0U);
+    ResizeBy(-100, 0);
+    EXPECT_EQ(Rules().Style() & WS_VSCROLL, 0U);
+    ExpectColumnsFillTheRuleList();
+}
+
+// Only a scroll bar that comes or goes changes the widths: they may be the user's own.
+TEST_F(WindowSize, ARefillLeavesColumnWidthsThatTheUserHasSet) {
+    StartWithSample();
+    Rules().Send(LVM_SETCOLUMNWIDTH, kDescriptionColumn, 5);
+    Control(IDC_SEARCH_EDIT).SetText(L"orders");
+    EXPECT_EQ(Rules().ColumnWidth(kDescriptionColumn), 5);
+}
+
 TEST_F(WindowSize, MinimisingAndRestoringMovesNothing) {
     StartWithSample();
     const Places before = ControlPlaces();
-    Main().Post(WM_SYSCOMMAND, SC_MINIMIZE);
-    ASSERT_TRUE(driver::WaitUntil([&] { return Main().IsMinimised(); }));
-    Main().Post(WM_SYSCOMMAND, SC_RESTORE);
-    // The window counts as restored a moment before it has left the place off screen where minimised ones
-    // wait.
-    ASSERT_TRUE(driver::WaitUntil([&] {
-        RECT bounds = {};
-        GetWindowRect(Main().Handle(), &bounds);
-        return !Main().IsMinimised() && bounds.left > -10000;
-    }));
-    Settle();
+    Minimise();
+    Restore();
     const Places after = ControlPlaces();
     for (const auto& [id, place] : before) {
         ExpectPlace(after, id, place);
     }
+}
+
+// A minimised window has no client area. Were that taken for the size that the controls stand in, they would
+// all move by the whole size of the window when it is restored.
+TEST_F(WindowSize, AnotherScaleAndBackWhileMinimisedMovesNothing) {
+    StartWithSample();
+    const Places before = ControlPlaces();
+    Minimise();
+    MoveToScreenOf(144);
+    MoveToScreenOf(96);
+    Restore();
+    for (const auto& [id, place] : ControlPlaces()) {
+        ExpectPlace(before, id, place);
+    }
+}
+
+TEST_F(WindowSize, DrawsItsIconWhileMinimised) {
+    StartWithSample();
+    Minimise();
+    // What a system sends that lets minimised windows draw themselves.
+    const driver::MessageWatch watch(Main(), {WM_ICONERASEBKGND});
+    Main().Send(WM_PAINT);
+    EXPECT_EQ(watch.Sent().size(), 1U);
+    Restore();
+    Main().Send(WM_PAINT);
+    EXPECT_EQ(watch.Sent().size(), 1U) << "a restored window paints as a dialog";
+}
+
+TEST_F(WindowSize, IsDraggedByItsOwnIconWhileMinimised) {
+    StartWithSample();
+    Minimise();
+    EXPECT_TRUE(IconOf(Main(), driver::IconPlace::kDragIcon, IDI_MAIN_WINDOW).showsResource);
 }
 
 TEST_F(WindowSize, HasASmallestSize) {

@@ -118,5 +118,28 @@ TEST(SyncCheckBoxes, WithoutACurrentProfileNameNoBoxIsRead) {
     EXPECT_FALSE(state.isDirty);
 }
 
+TEST(TakeTicks, CopiesTheBoxesIntoTheProfileAndNoOther) {
+    ConfigurationState state =
+        StateWith({ProfileWithRules(L"main", {L"a"}), ProfileWithRules(L"main", {L"b", L"c"})}, L"main");
+    TakeTicks(state, 1, ListWith({kUnchecked, kChecked}));
+    EXPECT_THAT(Switches(state, 0), ElementsAre(0));
+    EXPECT_THAT(Switches(state, 1), ElementsAre(0, 1));
+    EXPECT_TRUE(state.isDirty);
+}
+
+TEST(TakeTicks, OneSwitchedOffAloneSetsTheDirtyFlag) {
+    ConfigurationState state = StateWithSwitches({1, 1});
+    TakeTicks(state, 0, ListWith({kChecked, kUnchecked}));
+    EXPECT_THAT(Switches(state), ElementsAre(1, 0));
+    EXPECT_TRUE(state.isDirty);
+}
+
+TEST(TakeTicks, BoxesThatShowWhatTheRulesAreChangeNothing) {
+    ConfigurationState state = StateWithSwitches({5, 0});
+    TakeTicks(state, 0, ListWith({kChecked, kUnchecked}));
+    EXPECT_THAT(Switches(state), ElementsAre(5, 0));
+    EXPECT_FALSE(state.isDirty);
+}
+
 }  // namespace
 }  // namespace corvane::testing

@@ -50,67 +50,51 @@ TEST(OpenProfileNamed, ANameThatNoProfileHasIsTheCurrentOneAllTheSame) {
     EXPECT_EQ(state.currentProfileName, L"A");
 }
 
-TEST(DeleteProfile, RemovesTheProfileItsNameAndItsRow) {
+TEST(DeleteProfile, RemovesTheProfileAndItsName) {
     ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"b");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 1), DeleteProfileResult::kDeleted);
-    EXPECT_THAT(rows, ElementsAre(L"a", L"c"));
+    EXPECT_TRUE(DeleteProfile(state, state.profileNames, 1));
     EXPECT_THAT(state.profileNames, ElementsAre(L"a", L"c"));
     EXPECT_THAT(NamesOfProfiles(state), ElementsAre(L"a", L"c"));
     EXPECT_TRUE(state.isDirty);
 }
 
-// Deliberate: the walk's index is not corrected for the removed row.
-TEST(DeleteProfile, OfTheFirstOfThreeLeavesTheThirdRowsTextAsTheCurrentName) {
-    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"a");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kDeleted);
-    EXPECT_EQ(state.currentProfileName, L"c");
+// While the window takes the deleted profile from the screen, no check box may reach another profile.
+TEST(DeleteProfile, LeavesNoCurrentNameUntilTheWindowIsThrough) {
+    for (const std::size_t row : {0U, 1U, 2U}) {
+        ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"a");
+        EXPECT_TRUE(DeleteProfile(state, TextList(state.profileNames), row));
+        EXPECT_EQ(state.currentProfileName, L"") << "row " << row;
+    }
 }
 
-TEST(DeleteProfile, OfTheFirstOfTwoLeavesNoCurrentName) {
-    ConfigurationState state = StateNamed({L"a", L"b"}, L"a");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kDeleted);
-    EXPECT_EQ(state.currentProfileName, L"");
-}
-
-TEST(DeleteProfile, OfTheSecondOfThreeLeavesNoCurrentName) {
-    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"b");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 1), DeleteProfileResult::kDeleted);
-    EXPECT_EQ(state.currentProfileName, L"");
-}
-
-TEST(DeleteProfile, OfTheSecondOfFiveLeavesTheLastRowsText) {
-    ConfigurationState state = StateNamed({L"a", L"b", L"c", L"d", L"e"}, L"b");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 1), DeleteProfileResult::kDeleted);
-    EXPECT_EQ(state.currentProfileName, L"e");
-    EXPECT_THAT(NamesOfProfiles(state), ElementsAre(L"a", L"c", L"d", L"e"));
-}
-
-TEST(DeleteProfile, OfTheLastRowLeavesNoCurrentName) {
-    ConfigurationState state = StateNamed({L"a", L"b", L"c"}, L"c");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 2), DeleteProfileResult::kDeleted);
-    EXPECT_EQ(state.currentProfileName, L"");
-    EXPECT_THAT(rows, ElementsAre(L"a", L"b"));
+// Deliberate: the walk over the rows does not correct its index for the removed one.
+TEST(DeleteProfile, TellsWhichNameBecomesTheCurrentOne) {
+    const TextList all = {L"a", L"b", L"c", L"d", L"e"};
+    struct Case {
+        std::size_t rowCount;
+        std::size_t selectedRow;
+        const wchar_t* nextCurrentName;
+    };
+    for (const Case& wanted : {Case{2, 0, L""}, Case{2, 1, L""}, Case{3, 0, L"c"}, Case{3, 1, L""},
+                               Case{3, 2, L""}, Case{5, 1, L"e"}, Case{5, 2, L"e"}, Case{5, 3, L""}}) {
+        const TextList rows(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(wanted.rowCount));
+        ConfigurationState state = StateNamed(rows, L"a");
+        EXPECT_EQ(DeleteProfile(state, rows, wanted.selectedRow),
+                  (DeletedProfile{.nextCurrentName = wanted.nextCurrentName}))
+            << "row " << wanted.selectedRow << " of " << wanted.rowCount;
+    }
 }
 
 TEST(DeleteProfile, TheOnlyProfileIsRefused) {
     ConfigurationState state = StateNamed({L"a"}, L"a");
     const ConfigurationState before = state;
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kRefusedLast);
-    EXPECT_THAT(rows, ElementsAre(L"a"));
+    EXPECT_EQ(DeleteProfile(state, {L"a"}, 0), std::nullopt);
     EXPECT_EQ(state, before);
 }
 
 TEST(DeleteProfile, TheRefusalLeavesTheVisitedRowsTextAsTheCurrentName) {
     ConfigurationState state = StateNamed({L"a"}, L"");
-    TextList rows = state.profileNames;
-    EXPECT_EQ(DeleteProfile(state, rows, 0), DeleteProfileResult::kRefusedLast);
+    EXPECT_EQ(DeleteProfile(state, {L"a"}, 0), std::nullopt);
     EXPECT_EQ(state.currentProfileName, L"a");
     EXPECT_FALSE(state.isDirty);
 }
@@ -118,12 +102,9 @@ TEST(DeleteProfile, TheRefusalLeavesTheVisitedRowsTextAsTheCurrentName) {
 TEST(DeleteProfile, ARowThatIsNoneIsAFaultThatChangesNothing) {
     ConfigurationState state = StateNamed({L"a", L"b"}, L"a");
     const ConfigurationState before = state;
-    TextList rows = state.profileNames;
-    EXPECT_THROW(DeleteProfile(state, rows, 2), std::invalid_argument);
-    rows.push_back(L"row without a profile");
-    EXPECT_THROW(DeleteProfile(state, rows, 2), std::invalid_argument);
+    EXPECT_THROW(DeleteProfile(state, {L"a", L"b"}, 2), std::invalid_argument);
+    EXPECT_THROW(DeleteProfile(state, {L"a", L"b", L"row without a profile"}, 2), std::invalid_argument);
     EXPECT_EQ(state, before);
-    EXPECT_EQ(rows.size(), 3U);
 }
 
 TEST(AppendProfile, AppendsProfileAndNameAndSetsTheDirtyFlag) {

@@ -98,6 +98,23 @@ TEST_F(AnchoredLayoutTest, AtAnotherScaleTheTemplateOfThatScaleIsGrown) {
     EXPECT_EQ(info.ptMinTrackSize.x, frame.right - frame.left - 6);
 }
 
+TEST_F(AnchoredLayoutTest, AnotherScaleLeavesAMinimisedDialogForWhenItHasItsSizeBack) {
+    ShowWindow(dialog_.Window(), SW_SHOWMINNOACTIVE);
+    MoveWindow(dialog_.Control(IDOK), 17, 105, 50, 25, FALSE);
+    layout_.Rescale(192);
+    ExpectPlace(IDOK, {17, 105, 67, 130});
+    ShowWindow(dialog_.Window(), SW_SHOWNOACTIVATE);
+    layout_.Arrange(2 * width_ + 7, 2 * height_ + 5);
+    ExpectPlace(IDOK, {27, 205, 77, 230});
+}
+
+TEST_F(AnchoredLayoutTest, AMinimisedDialogHasNoSmallestSize) {
+    ShowWindow(dialog_.Window(), SW_SHOWMINNOACTIVE);
+    MINMAXINFO info = {};
+    layout_.LimitSize(info);
+    EXPECT_EQ(info.ptMinTrackSize.x, 0);
+}
+
 TEST(AnchoredLayoutBeforeItsDialog, LimitsNothing) {
     const AnchoredLayout layout;
     MINMAXINFO info = {};
