@@ -1,4 +1,5 @@
 #include "tests/driver/icon.h"
+#include "tests/driver/remote_block.h"
 #include "tests/driver/waiting.h"
 #include "tests/windows/editor_test.h"
 
@@ -171,6 +172,29 @@ TEST_F(DescriptionBox, ResizingMovesTheButtonsAndGrowsTheText) {
     EXPECT_EQ(grown.top, edit.top);
     EXPECT_EQ(grown.right, edit.right + 60);
     EXPECT_EQ(grown.bottom, edit.bottom + 40);
+    CloseExtra(box);
+}
+
+// A minimised box has no client area, which must not be taken for the size that its controls stand in.
+TEST_F(DescriptionBox, AnotherScaleAndBackWhileMinimisedMovesNothing) {
+    StartWithSample();
+    const driver::Window box = OpenExtra(kEncrypt);
+    const RECT button = box.Control(IDCANCEL).BoundsInParent();
+    const RECT edit = box.Control(IDC_WARNING_BOX_EDIT).BoundsInParent();
+    ShowWindow(box.Handle(), SW_SHOWMINNOACTIVE);
+    ASSERT_TRUE(driver::WaitUntil([&] { return box.IsMinimised(); }));
+    for (const UINT dotsPerInch : {144U, 96U}) {
+        driver::RemoteBlock block(box.Handle(), sizeof(RECT));
+        block.Put(box.Bounds());
+        box.Send(WM_DPICHANGED, MAKEWPARAM(dotsPerInch, dotsPerInch), block.Parameter());
+    }
+    ShowWindow(box.Handle(), SW_RESTORE);
+    ASSERT_TRUE(driver::WaitUntil([&] { return !box.IsMinimised() && box.Bounds().left > -10000; }));
+    box.Send(WM_NULL);
+    const RECT buttonAfter = box.Control(IDCANCEL).BoundsInParent();
+    const RECT editAfter = box.Control(IDC_WARNING_BOX_EDIT).BoundsInParent();
+    EXPECT_TRUE(EqualRect(&buttonAfter, &button)) << buttonAfter.left << ", " << buttonAfter.top;
+    EXPECT_TRUE(EqualRect(&editAfter, &edit)) << editAfter.right << ", " << editAfter.bottom;
     CloseExtra(box);
 }
 
