@@ -15,6 +15,7 @@
 #include "certs/warning_box_presenter.h"
 #include "config/registry_calls_windows.h"
 #include "toolkit/file_calls_windows.h"
+#include "toolkit/input_gate_windows.h"
 #include "toolkit/message_presenter_windows.h"
 #include "toolkit/named_mutex.h"
 #include "toolkit/shell_manager.h"
@@ -23,6 +24,9 @@
 namespace corvane {
 
 bool CCorvaneApp::InitInstance() {
+    // Where a call of the provider takes long, Windows would offer to end the program with its "ghost"
+    // window.
+    DisableProcessWindowsGhosting();
     INITCOMMONCONTROLSEX classes = {};
     classes.dwSize = sizeof classes;
     // All classes of the first generation of common controls.
@@ -53,11 +57,15 @@ bool CCorvaneApp::InitInstance() {
     WindowsRegistryCalls registry;
     WarningBoxPresenter warnings;
     const SystemClock clock;
+    toolkit::WindowsInputGate input;
+    SessionOpening opening;
     const CertServices certs = {.provider = provider,
                                 .reporter = reporter,
                                 .warnings = warnings,
                                 .registry = registry,
-                                .clock = clock};
+                                .clock = clock,
+                                .input = input,
+                                .opening = opening};
     AcceptedCsProfile acceptedCsProfile;
     ShownCsProfile shownCsProfile;
     const EditorServices editors = {.messages = messages,

@@ -6,6 +6,7 @@
 #include "certs/crl_update.h"
 #include "certs/network_store_check.h"
 #include "certs/provider_call_message.h"
+#include "toolkit/input_gate.h"
 
 namespace corvane {
 
@@ -27,6 +28,20 @@ class ShownWaitWindow {
     WaitWindow& window_;
 };
 
+// Says that an opening is under way, for as long as this object lives.
+class UnderWay {
+  public:
+    explicit UnderWay(SessionOpening& opening) : opening_(opening) { opening_.isUnderWay = true; }
+    ~UnderWay() { opening_.isUnderWay = false; }
+    UnderWay(const UnderWay&) = delete;
+    UnderWay& operator=(const UnderWay&) = delete;
+    UnderWay(UnderWay&&) = delete;
+    UnderWay& operator=(UnderWay&&) = delete;
+
+  private:
+    SessionOpening& opening_;
+};
+
 const ProviderFunctions* BindProvider(toolkit::WindowHandle owner, const CertServices& services) {
     const ProviderFunctions* const provider = services.provider.Functions();
     if (provider == nullptr) {
@@ -40,7 +55,9 @@ const ProviderFunctions* BindProvider(toolkit::WindowHandle owner, const CertSer
 
 std::uint32_t Initialize(const ProviderFunctions& provider, const std::string& csProfileName,
                          std::uint32_t flags, WaitWindow& waitWindow, toolkit::WindowHandle owner,
-                         ProviderContext& context) {
+                         toolkit::InputGate& input, ProviderContext& context) {
+    // Shut first: the wait window is not to be touched by it, and is gone before the others take input again.
+    const toolkit::ShutInput shut(input);
     const ShownWaitWindow shown(waitWindow, owner);
     return provider.initialize(csProfileName.c_str(), flags, &context);
 }
@@ -59,6 +76,10 @@ void ShowInitializationFailure(toolkit::WindowHandle owner, const ProviderFuncti
 std::optional<CertSession> OpenCertSession(toolkit::WindowHandle owner, const Profile& profile,
                                            std::size_t index, CertificateUse use, WaitWindow& waitWindow,
                                            const CertServices& services) {
+    if (services.opening.isUnderWay) {
+        return std::nullopt;
+    }
+    const UnderWay underWay(services.opening);
     const ProviderFunctions* const provider = BindProvider(owner, services);
     if (provider == nullptr) {
         return std::nullopt;
@@ -66,13 +87,15 @@ std::optional<CertSession> OpenCertSession(toolkit::WindowHandle owner, const Pr
     const CsProfile csProfile = CsProfileAt(profile, index);
     CertSearchSettings settings = SearchSettingsOf(csProfile, use);
     ProviderContext context = 0;
-    const std::uint32_t status = Initialize(*provider, services.reporter.Text().Narrow(csProfile.name),
-                                            InitialisationFlags(settings), waitWindow, owner, context);
+    const std::uint32_t status =
+        Initialize(*provider, services.reporter.Text().Narrow(csProfile.name), InitialisationFlags(settings),
+                   waitWindow, owner, services.input, context);
     if (status != 0) {
         ShowInitializationFailure(owner, *provider, status, services);
         return std::nullopt;
     }
-    CertSession session{std::move(settings), Cryptocontext(*provider, context, services.reporter, owner),
+    CertSession session{std::move(settings),
+                        Cryptocontext(*provider, context, services.reporter, owner, services.input),
                         csProfile.notUseDirectory == 0};
     if (csProfile.notUseDirectory == 0) {
         const NetworkStoreCheck check =

@@ -22,9 +22,10 @@ struct CertSession {
 
 /// Opens a cryptocontext for CS profile `index` of `profile` behind the wait window, asks the network store
 /// for a sign of life and refreshes the revocation lists when that is due (XSIG_Initialize and what
-/// CheckNetworkStore and UpdateCrlIfDue call). None after a failure that has been shown, or when the user
-/// wants to stop; nothing is open then. A provider library that is missing is reported with the system's
-/// code and the name of what is missing.
+/// CheckNetworkStore and UpdateCrlIfDue call). The user is kept out while the provider works. None after a
+/// failure that has been shown, or when the user wants to stop; nothing is open then. None at once, and
+/// without a word, while another opening is under way. A provider library that is missing is reported with
+/// the system's code and the name of what is missing.
 [[nodiscard]] std::optional<CertSession> OpenCertSession(toolkit::WindowHandle owner, const Profile& profile,
                                                          std::size_t index, CertificateUse use,
                                                          WaitWindow& waitWindow,

@@ -72,7 +72,7 @@ bool FindAllLocal(toolkit::WindowHandle owner, const CertSearchSettings& setting
     query.fieldsWanted = kOwnerFields;
     std::uint32_t status = 0;
     {
-        const FoundCertificates found(context.Provider(), context.Get(), query);
+        const FoundCertificates found(context, query);
         status = found.Status();
         AppendOwners(found, settings, reporter.Text(), owners);
     }
@@ -96,7 +96,7 @@ bool FindByPattern(toolkit::WindowHandle owner, const CertSearchSettings& settin
     query.fieldsWanted = kOwnerFields;
     std::uint32_t status = 0;
     {
-        const FoundCertificates found(context.Provider(), context.Get(), query);
+        const FoundCertificates found(context, query);
         status = found.Status();
         AppendOwners(found, settings, reporter.Text(), owners);
     }
@@ -124,7 +124,7 @@ bool FindByOwner(toolkit::WindowHandle owner, const CertSearchSettings& settings
     query.fieldsWanted = kCertificateFields;
     std::uint32_t status = 0;
     {
-        const FoundCertificates found(context.Provider(), context.Get(), query);
+        const FoundCertificates found(context, query);
         status = found.Status();
         for (const CertEntry& entry : found.Entries()) {
             if (IsUsable(entry, settings) &&

@@ -10,6 +10,7 @@
 #include "config/registry_access.h"
 #include "config/registry_layout.h"
 #include "config/registry_reports.h"
+#include "toolkit/input_gate.h"
 
 namespace corvane {
 
@@ -28,7 +29,10 @@ Loading LoadRevocationLists(const Cryptocontext& context, const toolkit::SystemT
     std::array<char, 1024> buffer{};
     XsigBlob blob{static_cast<std::uint32_t>(buffer.size()), buffer.data()};
     Loading loading;
-    loading.status = context.Provider().control(context.Get(), kLoadRevocationLists, &blob);
+    {
+        const toolkit::ShutInput shut(context.Input());
+        loading.status = context.Provider().control(context.Get(), kLoadRevocationLists, &blob);
+    }
     // A diagnosis that fills the buffer may have come without its terminator.
     const auto end = std::find(buffer.begin(), buffer.end(), '\0');
     loading.diagnosis =

@@ -5,14 +5,15 @@
 namespace corvane {
 
 Cryptocontext::Cryptocontext(const ProviderFunctions& provider, ProviderContext context,
-                             ErrorReporter& reporter, toolkit::WindowHandle owner)
-    : provider_(provider), context_(context), reporter_(reporter), owner_(owner) {}
+                             ErrorReporter& reporter, toolkit::WindowHandle owner, toolkit::InputGate& input)
+    : provider_(provider), context_(context), reporter_(reporter), owner_(owner), input_(input) {}
 
 Cryptocontext::Cryptocontext(Cryptocontext&& other) noexcept
     : provider_(other.provider_),
       context_(std::exchange(other.context_, 0)),
       reporter_(other.reporter_),
-      owner_(other.owner_) {}
+      owner_(other.owner_),
+      input_(other.input_) {}
 
 void Cryptocontext::Close() {
     // Cleared first: while the report is shown, nobody may find a context that is gone.
@@ -20,10 +21,15 @@ void Cryptocontext::Close() {
     if (context == 0) {
         return;
     }
-    if (const std::uint32_t status = provider_.uninitialize(context); status != 0) {
+    if (const std::uint32_t status = Uninitialize(context); status != 0) {
         reporter_.ReportError(owner_, ProviderContext{}, kShowReport, status,
                               "Cryptocontext uninitialization", nullptr, nullptr);
     }
+}
+
+std::uint32_t Cryptocontext::Uninitialize(ProviderContext context) const {
+    const toolkit::ShutInput shut(input_);
+    return provider_.uninitialize(context);
 }
 
 }  // namespace corvane

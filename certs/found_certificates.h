@@ -3,16 +3,18 @@
 #include <cstdint>
 #include <span>
 
+#include "certs/cryptocontext.h"
 #include "certs/provider/provider_functions.h"
+#include "toolkit/input_gate.h"
 
 namespace corvane {
 
 /// One search, and what it found. What the library hands out goes back to it with the end of this object,
-/// after a failed search too (XSIG_FindCert, XSIG_FreeFindResult).
+/// after a failed search too (XSIG_FindCert, XSIG_FreeFindResult). The user is kept out while it searches.
 class FoundCertificates {
   public:
-    FoundCertificates(const ProviderFunctions& provider, ProviderContext context, CertQuery query)
-        : provider_(provider), context_(context), status_(provider.findCert(context, &query, &result_)) {}
+    FoundCertificates(const Cryptocontext& context, CertQuery query)
+        : provider_(context.Provider()), context_(context.Get()), status_(Find(query, context.Input())) {}
     ~FoundCertificates() { provider_.freeFindResult(context_, &result_); }
     FoundCertificates(const FoundCertificates&) = delete;
     FoundCertificates& operator=(const FoundCertificates&) = delete;
@@ -29,6 +31,11 @@ class FoundCertificates {
     }
 
   private:
+    [[nodiscard]] std::uint32_t Find(CertQuery& query, toolkit::InputGate& input) {
+        const toolkit::ShutInput shut(input);
+        return provider_.findCert(context_, &query, &result_);
+    }
+
     const ProviderFunctions& provider_;
     ProviderContext context_;
     CertFindResult result_;

@@ -14,7 +14,7 @@ std::uint32_t ProbeNetworkStore(const Cryptocontext& context) {
     query.searchFlags = 0xE04;
     query.ownerPattern = "CN=QQQ,C=RU";
     query.fieldsWanted = 4;
-    return FoundCertificates(context.Provider(), context.Get(), query).Status();
+    return FoundCertificates(context, query).Status();
 }
 
 }  // namespace

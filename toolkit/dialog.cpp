@@ -4,34 +4,13 @@
 #include <utility>
 
 #include "toolkit/control_place.h"
+#include "toolkit/modal_state.h"
+#include "toolkit/user_command.h"
 #include "toolkit/window_scale.h"
 
 namespace toolkit {
 
 namespace {
-
-/// Keeps the owner of a modal dialog from taking input, for as long as this object lives.
-class OwnerDisabler {
-  public:
-    explicit OwnerDisabler(HWND owner)
-        : owner_(owner != nullptr && IsWindowEnabled(owner) != FALSE ? owner : nullptr) {
-        if (owner_ != nullptr) {
-            EnableWindow(owner_, FALSE);
-        }
-    }
-    OwnerDisabler(const OwnerDisabler&) = delete;
-    OwnerDisabler& operator=(const OwnerDisabler&) = delete;
-    OwnerDisabler(OwnerDisabler&&) = delete;
-    OwnerDisabler& operator=(OwnerDisabler&&) = delete;
-    ~OwnerDisabler() {
-        if (owner_ != nullptr) {
-            EnableWindow(owner_, TRUE);
-        }
-    }
-
-  private:
-    HWND owner_;
-};
 
 /// Sets a flag for as long as this object lives.
 class FlagSetter {
@@ -48,6 +27,13 @@ class FlagSetter {
     bool before_;
 };
 
+/// Tells whether a message is the user's input into a window that is disabled. It can only have been posted:
+/// the system sends nothing of the kind there.
+bool IsInputForDisabledWindow(const MSG& message) {
+    return IsUserInput(message.message) && message.hwnd != nullptr &&
+           IsWindowEnabled(GetAncestor(message.hwnd, GA_ROOT)) == FALSE;
+}
+
 }  // namespace
 
 Dialog::~Dialog() {
@@ -61,7 +47,8 @@ int Dialog::RunModal() {
     result_ = -1;
     initFailure_ = nullptr;
     {
-        const OwnerDisabler disabled(owner);
+        const ModalState others;
+        backdrop_ = owner != nullptr ? owner : others.WindowInUse();
         if (CreateTemplateWindow(owner) != nullptr && !hasEnded_) {
             RunLoop();
         }
@@ -70,10 +57,10 @@ int Dialog::RunModal() {
                          SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
         }
     }
-    // The owner is enabled again by now; were the dialog destroyed before, Windows would activate some
-    // other program's window instead.
-    if (owner != nullptr && window_ != nullptr && GetActiveWindow() == window_) {
-        SetActiveWindow(owner);
+    // The other windows are enabled again by now; were the dialog destroyed before, Windows would activate
+    // some other program's window instead.
+    if (IsWindow(backdrop_) != FALSE && window_ != nullptr && GetActiveWindow() == window_) {
+        SetActiveWindow(backdrop_);
     }
     DestroyDialogWindow();
     isModal_ = false;
@@ -120,7 +107,7 @@ int Dialog::RunLoop() {
             }
             break;
         }
-        if (!IsUsedUpBeforeDispatch(message)) {
+        if (!IsInputForDisabledWindow(message) && !IsUsedUpBeforeDispatch(message)) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
@@ -195,9 +182,8 @@ bool Dialog::Begin(HWND window) {
     dotsPerInch_ = WindowDotsPerInch(window);
     TakeOverScaling(window);
     scale_.Remember(window, dotsPerInch_);
-    const HWND owner = GetWindow(window, GW_OWNER);
-    if (isModal_ && owner != nullptr && IsWindowVisible(owner) != FALSE && IsIconic(owner) == FALSE) {
-        CenterOver(window, owner);
+    if (isModal_ && IsWindowVisible(backdrop_) != FALSE && IsIconic(backdrop_) == FALSE) {
+        CenterOver(window, backdrop_);
     }
     try {
         return OnInitDialog();
@@ -239,6 +225,10 @@ INT_PTR Dialog::Answer(LRESULT result) const {
 }
 
 INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (IsUserCommand(message, wParam, lParam) && IsWindowEnabled(window_) == FALSE) {
+        // What the system makes of its own commands is its affair; a disabled window may be minimised.
+        return message == WM_SYSCOMMAND ? FALSE : Answer(0);
+    }
     switch (message) {
         case WM_COMMAND: {
             const bool isNotification = lParam != 0;
@@ -348,6 +338,7 @@ void Dialog::ExchangeFields(DataExchange& /*exchange*/) {}
 void Dialog::ReportException(const std::exception& exception) {
     const std::string what = exception.what();
     const std::wstring text(what.begin(), what.end());
+    const ModalState others(window_);
     MessageBoxW(window_, text.c_str(), nullptr, MB_ICONERROR | MB_OK);
 }
 

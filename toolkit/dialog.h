@@ -17,6 +17,8 @@ namespace toolkit {
 /// PreTranslateMessage first; that is how tooltips and keys reach whoever wants them before the dialog
 /// manager does.
 ///
+/// While its window is disabled, a dialog carries out no command, however it was sent (IsUserCommand).
+///
 /// Nothing thrown leaves a window procedure: what OnInitDialog throws comes out of RunModal; what a later
 /// handler throws is told to the user by ReportException, and the dialog goes on with what it holds.
 class Dialog {
@@ -27,10 +29,11 @@ class Dialog {
     Dialog& operator=(Dialog&&) = delete;
     virtual ~Dialog();
 
-    /// Shows the dialog in the middle of its owner and returns when it has ended, with the value it was
-    /// ended with. The owner is disabled meanwhile, and enabled and active again before the dialog's window
-    /// dies. WM_QUIT ends the dialog like Cancel and is handed on. Returns -1 when the window could not be
-    /// made.
+    /// Shows the dialog in the middle of its owner, or of the window in use where it has none, and returns
+    /// when it has ended, with the value it was ended with. All other windows of the thread are disabled
+    /// meanwhile, and enabled again before the dialog's window dies; then the owner, or the window that was
+    /// in use, is active again. WM_QUIT ends the dialog like Cancel and is handed on. Returns -1 when the
+    /// window could not be made.
     int RunModal();
 
     /// Creates the dialog's window without waiting for its end; it is visible as its template says.
@@ -117,6 +120,7 @@ class Dialog {
 
     int templateId_;
     HWND owner_;
+    HWND backdrop_ = nullptr;  ///< The window that a modal run goes on over; null for none.
     HWND window_ = nullptr;
     UINT dotsPerInch_ = USER_DEFAULT_SCREEN_DPI;
     TemplateScale scale_;

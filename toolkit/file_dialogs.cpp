@@ -6,6 +6,7 @@
 
 #include "toolkit/file_name_proposal.h"
 #include "toolkit/late_library.h"
+#include "toolkit/modal_state.h"
 
 namespace toolkit {
 
@@ -39,6 +40,7 @@ std::optional<std::wstring> Ask(const char* functionName, HWND owner, const File
     request.lpstrDefExt = offer.defaultExtension.c_str();
     // The current folder is not this dialog's to change.
     request.Flags = flags | OFN_EXPLORER | OFN_ENABLESIZING | OFN_NOCHANGEDIR;
+    const ModalState others(owner);
     if (function(&request) == FALSE) {
         return std::nullopt;
     }

@@ -2,10 +2,13 @@
 
 #include <windows.h>
 
+#include "toolkit/modal_state.h"
+
 namespace toolkit {
 
 int WindowsMessagePresenter::Show(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                                   std::uint32_t style) {
+    const ModalState others(owner);
     return MessageBoxW(owner, text.c_str(), title.c_str(), style);
 }
 

@@ -4,7 +4,9 @@
 
 namespace toolkit {
 
-/// The message boxes of Windows (MessageBoxW, IsWindow). The answer is 0 where the system cannot make a box.
+/// The message boxes of Windows (MessageBoxW, IsWindow). A box has the user to itself: the other windows of
+/// the thread are disabled meanwhile, without an owner all of them. The answer is 0 where the system cannot
+/// make a box.
 class WindowsMessagePresenter : public MessagePresenter {
   public:
     int Show(WindowHandle owner, const std::wstring& text, const std::wstring& title,

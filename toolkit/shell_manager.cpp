@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "toolkit/late_library.h"
+#include "toolkit/modal_state.h"
 
 namespace toolkit {
 
@@ -71,6 +72,7 @@ std::optional<std::wstring> ShellManager::PickFolder(HWND owner) {
     if (!OpenApartment()) {
         return std::nullopt;
     }
+    const ModalState others(owner);
     const UniqueInterface<IFileOpenDialog> dialog = CreateFileOpenDialog();
     FILEOPENDIALOGOPTIONS options = 0;
     if (dialog == nullptr || FAILED(dialog->GetOptions(&options)) ||

@@ -18,6 +18,7 @@
 #include "config/registry_calls_windows.h"
 #include "tests/certificates/host_setup.h"
 #include "toolkit/file_calls_windows.h"
+#include "toolkit/input_gate_windows.h"
 #include "toolkit/message_presenter_windows.h"
 #include "toolkit/system_text_windows.h"
 
@@ -150,12 +151,16 @@ class CertificateHost {
     WindowsRegistryCalls registry_;
     WarningBoxPresenter warnings_;
     SystemClock clock_;
+    toolkit::WindowsInputGate input_;
+    SessionOpening opening_;
     AwaitWindow waitWindow_;
     CertServices services_{.provider = provider_,
                            .reporter = reporter_,
                            .warnings = warnings_,
                            .registry = registry_,
-                           .clock = clock_};
+                           .clock = clock_,
+                           .input = input_,
+                           .opening = opening_};
 };
 
 std::filesystem::path OwnFolder() {

@@ -8,12 +8,17 @@
 
 namespace corvane {
 
-HeldCall::HeldCall(LibraryScriptWriter& script, const std::string& function, unsigned number) {
+HeldCall::HeldCall(LibraryScriptWriter& script, const std::string& function, unsigned number,
+                   Meanwhile meanwhile) {
     const std::string name = "corvane_held_" + std::to_string(GetCurrentProcessId()) + "_" + function + "_" +
                              std::to_string(number);
     event_.reset(CreateEventA(nullptr, TRUE, FALSE, name.c_str()));
     ResetEvent(event_.get());
-    script.Hold(function, number, name);
+    if (meanwhile == Meanwhile::kHandlesMessages) {
+        script.Pump(function, number, name);
+    } else {
+        script.Hold(function, number, name);
+    }
 }
 
 std::wstring StoredText(const driver::Window& window) {

@@ -13,8 +13,14 @@ namespace corvane {
 /// this object at the latest.
 class HeldCall {
   public:
+    enum class Meanwhile {
+        kBlocks,           ///< The thread does nothing else.
+        kHandlesMessages,  ///< As a library does that shows something.
+    };
+
     /// Writes it into a script that has not been installed yet.
-    HeldCall(LibraryScriptWriter& script, const std::string& function, unsigned number);
+    HeldCall(LibraryScriptWriter& script, const std::string& function, unsigned number,
+             Meanwhile meanwhile = Meanwhile::kBlocks);
     ~HeldCall() { Release(); }
     HeldCall(const HeldCall&) = delete;
     HeldCall& operator=(const HeldCall&) = delete;

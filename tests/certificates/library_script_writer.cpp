@@ -44,6 +44,10 @@ void LibraryScriptWriter::Hold(const std::string& function, unsigned number, con
     Line({"hold", function, std::to_string(number), Quoted(eventName)});
 }
 
+void LibraryScriptWriter::Pump(const std::string& function, unsigned number, const std::string& eventName) {
+    Line({"pump", function, std::to_string(number), Quoted(eventName)});
+}
+
 void LibraryScriptWriter::ErrorText(std::uint32_t status, const std::string& text) {
     Line({"errortext", Hex(status), Quoted(text)});
 }

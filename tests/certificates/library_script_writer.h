@@ -21,6 +21,8 @@ class LibraryScriptWriter {
     void Status(const std::string& function, unsigned number, std::uint32_t status);
     /// Lets call `number` wait until the event of the system with this name is set.
     void Hold(const std::string& function, unsigned number, const std::string& eventName);
+    /// The same, and lets it handle messages meanwhile, as a library does that shows something.
+    void Pump(const std::string& function, unsigned number, const std::string& eventName);
     /// The description of a status.
     void ErrorText(std::uint32_t status, const std::string& text);
     /// One more entry of the error stack of context `number` (from 1; 0: of a failed opening).

@@ -13,6 +13,7 @@
 #include "certs/recipient_selection.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_registry.h"
+#include "tests/support/recording_input_gate.h"
 #include "tests/support/reporter_fixture.h"
 #include "tests/support/scripted_sessions.h"
 
@@ -70,7 +71,7 @@ class Session {
     }
 
     std::optional<corvane::TextList> Run() {
-        const CertServices services{sessions, reports.reporter, warnings, registry, clock};
+        const CertServices services{sessions, reports.reporter, warnings, registry, clock, input, opening};
         const std::optional<corvane::ChosenRecipients> chosen =
             ChooseRecipients({nullptr, profile_, 0, waitWindow, services}, {},
                              [this](RecipientSelectionForm& form, const Cryptocontext& context) {
@@ -94,6 +95,8 @@ class Session {
         EXPECT_EQ(registry.OpenKeys(), 0U);
         EXPECT_EQ(registry.Misuses(), 0U);
         EXPECT_EQ(waitWindow.shown, 0);
+        EXPECT_TRUE(input.IsBalanced());
+        EXPECT_FALSE(opening.isUnderWay);
     }
 
     ReporterFixture reports;
@@ -102,6 +105,8 @@ class Session {
     CountedWarnings warnings;
     CountedWaitWindow waitWindow;
     StandingClock clock;
+    RecordingInputGate input;
+    SessionOpening opening;
     bool wasDialogShown = false;
 
   private:

@@ -70,6 +70,9 @@ const ProviderFunctions* ScriptedSessions::Functions() {
 
 std::uint32_t ScriptedSessions::Enter(const std::string& name, std::uint32_t status) {
     log.push_back(name);
+    if (during) {
+        during(name);
+    }
     const std::size_t index = callCount_++;
     if (index >= firstFailure_) {
         return lastingStatus_;

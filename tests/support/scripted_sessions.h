@@ -92,6 +92,10 @@ class ScriptedSessions : public ProviderLibrary {
         lastingStatus_ = status;
     }
 
+    /// Done in the middle of each call that FailCall counts, with its name in the log; a library that handles
+    /// messages may get anything done there.
+    std::function<void(const std::string& name)> during;
+
     /// What was called, in order: "initialize", "uninitialize", "find", "free result", "control", and what
     /// the test adds.
     std::vector<std::string> log;

@@ -27,8 +27,8 @@ void ReadLine(const std::vector<ScriptText>& words, LibraryScript& script) {
     const auto call = [&] { return CallNumber{word(1), Number(words[2], 10)}; };
     if (command == "status" && words.size() == 4) {
         script.statuses[call()] = Number(words[3], 16);
-    } else if (command == "hold" && words.size() == 4) {
-        script.holds[call()] = word(3);
+    } else if ((command == "hold" || command == "pump") && words.size() == 4) {
+        script.holds[call()] = {.eventName = word(3), .handlesMessages = command == "pump"};
     } else if (command == "errortext" && words.size() == 3) {
         script.errorTexts[Number(words[1], 16)] = word(2);
     } else if (command == "error" && words.size() == 6) {

@@ -35,8 +35,10 @@ using CallNumber = std::pair<std::string, unsigned>;
 ///
 ///     status FUNCTION NUMBER STATUS                      the answer of a call, 0 unless told
 ///     hold FUNCTION NUMBER EVENT                         the call waits until this event of the system is
-///     set errortext STATUS TEXT                              the description of a status error CONTEXT TEXT
-///     FILE LINE DATA                  one more entry of the error stack of the n-th context
+///     set pump FUNCTION NUMBER EVENT                         the same, and handles messages meanwhile
+///     errortext STATUS TEXT                              the description of a status
+///     error CONTEXT TEXT FILE LINE DATA                  one more entry of the error stack of the n-th
+///     context
 ///                                                        that was opened; 0: of a failed opening
 ///     control TEXT                                       what the control call writes into its buffer
 ///     certificate SEARCH OWNER USAGE ISSUER SERIAL       found by this search
@@ -45,8 +47,13 @@ using CallNumber = std::pair<std::string, unsigned>;
 /// Numbers of calls are decimal, statuses, usages and serial numbers hexadecimal. SEARCH is the number of the
 /// call, "=PATTERN" for all with this pattern, or 0 for all others.
 struct LibraryScript {
+    struct Hold {
+        std::string eventName;
+        bool handlesMessages = false;
+    };
+
     std::map<CallNumber, std::uint32_t> statuses;
-    std::map<CallNumber, std::string> holds;
+    std::map<CallNumber, Hold> holds;
     std::map<std::uint32_t, std::string> errorTexts;
     std::map<unsigned, std::vector<ScriptError>> errorStacks;
     std::string controlText;

@@ -18,10 +18,22 @@ std::string Hex(std::uint32_t number) {
     return digits;
 }
 
-void WaitForEvent(const std::string& name) {
-    const toolkit::UniqueKernelHandle event(OpenEventA(SYNCHRONIZE, FALSE, name.c_str()));
-    if (event) {
+void WaitForEvent(const LibraryScript::Hold& hold) {
+    const toolkit::UniqueKernelHandle event(OpenEventA(SYNCHRONIZE, FALSE, hold.eventName.c_str()));
+    if (!event) {
+        return;
+    }
+    if (!hold.handlesMessages) {
         WaitForSingleObject(event.Get(), kLongestHoldMilliseconds);
+        return;
+    }
+    const HANDLE handle = event.Get();
+    while (MsgWaitForMultipleObjects(1, &handle, FALSE, kLongestHoldMilliseconds, QS_ALLINPUT) ==
+           WAIT_OBJECT_0 + 1) {
+        for (MSG message = {}; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE;) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
 }
 

@@ -173,6 +173,81 @@ TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheRevocationLists) {
     EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
 }
 
+TEST_F(CertSessionTest, TheUserIsKeptOutOfEveryCallOfTheProvider) {
+    profile_.notUseDirectory = {0};
+    profile_.notLoadCrl = {0};
+    std::vector<std::string> shut;
+    sessions_.during = [&](const std::string& name) {
+        if (input_.IsShut()) {
+            shut.push_back(name);
+        }
+    };
+    static_cast<void>(Open());
+    EXPECT_THAT(shut, ElementsAre("initialize", "find", "control", "uninitialize"));
+}
+
+TEST_F(CertSessionTest, TheUserIsKeptOutAsLongAsTheWaitWindowStands) {
+    class Watcher : public WaitWindow {
+      public:
+        explicit Watcher(const RecordingInputGate& input) : input_(input) {}
+        void Show(toolkit::WindowHandle /*parent*/, const std::wstring& /*text*/) override {
+            wasShutAtShow = input_.IsShut();
+        }
+        void Destroy() override { wasShutAtDestroy = input_.IsShut(); }
+        bool wasShutAtShow = false;
+        bool wasShutAtDestroy = false;
+
+      private:
+        const RecordingInputGate& input_;
+    } watcher(input_);
+    ASSERT_TRUE(OpenCertSession(owner_, profile_, 0, CertificateUse::kSigners, watcher, services_));
+    EXPECT_TRUE(watcher.wasShutAtShow);
+    EXPECT_TRUE(watcher.wasShutAtDestroy);
+}
+
+TEST_F(CertSessionTest, WhatTheUserHasToAnswerFindsTheGateOpen) {
+    profile_.notUseDirectory = {0};
+    sessions_.findStatus = 0xE0700001;
+    bool wasShut = true;
+    warnings_.onShow = [&] { wasShut = input_.IsShut(); };
+    Reports().presenter.AnswerNext(kAnswerOk);
+    ASSERT_TRUE(Open());
+    EXPECT_FALSE(wasShut);
+}
+
+TEST_F(CertSessionTest, ASecondOneIsNotBegunInTheMiddleOfAnOpening) {
+    profile_.notUseDirectory = {0};
+    profile_.notLoadCrl = {0};
+    std::size_t second = 0;
+    sessions_.during = [&](const std::string& name) {
+        if (name != "uninitialize") {
+            second += Open() ? 1U : 0U;
+        }
+    };
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(second, 0U);
+    EXPECT_EQ(sessions_.Initializations().size(), 1U);
+    sessions_.during = nullptr;
+    EXPECT_TRUE(Open()) << "Afterwards one is opened as ever.";
+}
+
+TEST_F(CertSessionTest, ASecondOneIsNotBegunBehindAWarning) {
+    profile_.notUseDirectory = {0};
+    sessions_.findStatus = 0xE0700001;
+    warnings_.onShow = [&] { EXPECT_FALSE(Open()); };
+    Reports().presenter.AnswerNext(kAnswerCancel);
+    EXPECT_FALSE(Open());
+    EXPECT_EQ(sessions_.Initializations().size(), 1U);
+    EXPECT_EQ(warnings_.warnings.size(), 1U);
+}
+
+TEST_F(CertSessionTest, AfterAFailureTheNextOneIsBegun) {
+    sessions_.initializeStatus = 5;
+    EXPECT_FALSE(Open());
+    sessions_.initializeStatus = 0;
+    EXPECT_TRUE(Open());
+}
+
 TEST_F(CertSessionTest, ListsThatAreTooShortGiveTheirDefaults) {
     profile_ = Profile();
     const std::optional<CertSession> session = Open(5);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "certs/cryptocontext.h"
 #include "certs/wait_window.h"
 #include "tests/support/memory_registry.h"
+#include "tests/support/recording_input_gate.h"
 #include "tests/support/reporter_fixture.h"
 #include "tests/support/scripted_sessions.h"
 
@@ -34,7 +36,13 @@ class RecordingWarnings : public WarningPresenter {
               WarningMode mode) override {
         log_.emplace_back("warning");
         warnings.push_back({owner, text, title, mode});
+        if (onShow) {
+            onShow();
+        }
     }
+
+    /// Done while the box stands.
+    std::function<void()> onShow;
 
     std::vector<ShownWarning> warnings;
 
@@ -85,6 +93,7 @@ class CertsFixture : public ::testing::Test {
         EXPECT_EQ(registry_.OpenKeys(), 0U);
         EXPECT_EQ(registry_.Misuses(), 0U);
         EXPECT_EQ(Reports().presenter.UnusedAnswers(), 0U);
+        EXPECT_TRUE(input_.IsBalanced()) << "the user is kept out for good";
     }
 
     ReporterFixture& Reports() { return reports_; }
@@ -96,7 +105,7 @@ class CertsFixture : public ::testing::Test {
         const ProviderFunctions& provider = *sessions_.Functions();
         ProviderContext context = 0;
         EXPECT_EQ(provider.initialize("any", 0, &context), 0U);
-        return {provider, context, reports_.reporter, owner_};
+        return {provider, context, reports_.reporter, owner_, input_};
     }
 
     static ScriptedCertificate Certificate(const std::string& owner, std::uint8_t usage = 0x1C) {
@@ -108,9 +117,11 @@ class CertsFixture : public ::testing::Test {
     ScriptedSessions sessions_{reports_.provider};
     MemoryRegistry registry_;
     SetClock clock_;
+    RecordingInputGate input_;
+    SessionOpening opening_;
     RecordingWarnings warnings_{sessions_.log};
     RecordingWaitWindow waitWindow_{sessions_.log};
-    CertServices services_{sessions_, reports_.reporter, warnings_, registry_, clock_};
+    CertServices services_{sessions_, reports_.reporter, warnings_, registry_, clock_, input_, opening_};
 };
 
 }  // namespace corvane::testing

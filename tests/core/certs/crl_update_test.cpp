@@ -115,7 +115,7 @@ TEST_F(CrlUpdate, AKeyThatCannotBeOpenedStops) {
 
 TEST_F(CrlUpdate, AKeyThatIsMissingStopsAndIsNotMade) {
     MemoryRegistry empty;
-    const CertServices services{sessions_, Reporter(), warnings_, empty, clock_};
+    const CertServices services{sessions_, Reporter(), warnings_, empty, clock_, input_, opening_};
     const Cryptocontext context = OpenContext();
     EXPECT_FALSE(UpdateCrlIfDue(owner_, csProfile_, context, services));
     EXPECT_FALSE(empty.HasKey(kProgramKeyPath));
@@ -217,7 +217,7 @@ TEST_F(CrlUpdate, TheKeyIsClosedBeforeTheUserIsAsked) {
       private:
         MemoryRegistry& registry_;
     } watcher(registry_);
-    const CertServices services{sessions_, Reporter(), watcher, registry_, clock_};
+    const CertServices services{sessions_, Reporter(), watcher, registry_, clock_, input_, opening_};
     const Cryptocontext context = OpenContext();
     EXPECT_TRUE(UpdateCrlIfDue(owner_, csProfile_, context, services));
     EXPECT_EQ(watcher.openKeys, 0U);

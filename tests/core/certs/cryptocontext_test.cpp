@@ -57,7 +57,7 @@ TEST_F(CryptocontextTest, DroppedItStaysOpen) {
 }
 
 TEST_F(CryptocontextTest, NoneIsNotClosed) {
-    { const Cryptocontext none(*sessions_.Functions(), 0, Reporter(), owner_); }
+    { const Cryptocontext none(*sessions_.Functions(), 0, Reporter(), owner_, input_); }
     EXPECT_THAT(sessions_.Closed(), IsEmpty());
 }
 

@@ -1,5 +1,7 @@
 #include "tests/toolkit/window/box_closer.h"
 
+#include <utility>
+
 #include "toolkit/window_text.h"
 
 namespace toolkit::testing {
@@ -26,7 +28,8 @@ BOOL CALLBACK TakeBox(HWND window, LPARAM found) {
 
 }  // namespace
 
-BoxCloser::BoxCloser() : watcher_(&BoxCloser::Watch, this, GetCurrentThreadId()) {}
+BoxCloser::BoxCloser(std::function<void(HWND box)> look)
+    : look_(std::move(look)), watcher_(&BoxCloser::Watch, this, GetCurrentThreadId()) {}
 
 BoxCloser::~BoxCloser() {
     static_cast<void>(Boxes());
@@ -46,6 +49,9 @@ void BoxCloser::Watch(DWORD threadId) {
         EnumThreadWindows(threadId, &TakeBox, reinterpret_cast<LPARAM>(&box));
         if (box != nullptr) {
             boxes_.push_back({WindowText(box), WindowText(GetDlgItem(box, kTextId))});
+            if (look_) {
+                look_(box);
+            }
             PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED),
                          reinterpret_cast<LPARAM>(GetDlgItem(box, IDOK)));
             while (!isDone_ && IsWindow(box) != FALSE) {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -19,7 +20,8 @@ struct ShownBox {
 /// own.
 class BoxCloser {
   public:
-    BoxCloser();
+    /// `look` gets each box before it is closed, on the other thread.
+    explicit BoxCloser(std::function<void(HWND box)> look = nullptr);
     BoxCloser(const BoxCloser&) = delete;
     BoxCloser& operator=(const BoxCloser&) = delete;
     BoxCloser(BoxCloser&&) = delete;
@@ -32,6 +34,7 @@ class BoxCloser {
   private:
     void Watch(DWORD threadId);
 
+    std::function<void(HWND box)> look_;
     std::vector<ShownBox> boxes_;
     std::atomic<bool> isDone_{false};
     std::thread watcher_;

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <optional>
 #include <stdexcept>
 #include <thread>
@@ -367,6 +369,172 @@ TEST(RunModal, KeysNeverReachTheOwner) {
     for (const int message : {WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_COMMAND}) {
         EXPECT_FALSE(owner.HasSeen(static_cast<UINT>(message))) << "message " << message;
     }
+}
+
+TEST(RunModal, WithoutAnOwnerEveryWindowIsDisabledAndTheOneInUseIsActiveAgain) {
+    const TestWindow other;
+    const TestWindow used;
+    TestDialog dialog;
+    std::optional<MessageWatcher> watcher;
+    HWND activeAtDeath = nullptr;
+    dialog.whenIdle = [&] {
+        EXPECT_FALSE(IsWindowEnabled(used.Handle()));
+        EXPECT_FALSE(IsWindowEnabled(other.Handle()));
+        EXPECT_EQ(GetWindow(dialog.Window(), GW_OWNER), nullptr);
+        EXPECT_TRUE(IsWindowEnabled(dialog.Window()));
+        SetActiveWindow(dialog.Window());
+        watcher.emplace(dialog.Window(), [&](UINT message) {
+            activeAtDeath = message == WM_DESTROY ? GetActiveWindow() : activeAtDeath;
+        });
+        Press(dialog, IDOK);
+    };
+    dialog.RunModal();
+    EXPECT_TRUE(IsWindowEnabled(used.Handle()));
+    EXPECT_TRUE(IsWindowEnabled(other.Handle()));
+    EXPECT_EQ(activeAtDeath, used.Handle()) << "another program's window comes up";
+    EXPECT_EQ(GetActiveWindow(), used.Handle());
+}
+
+TEST(RunModal, WithAnOwnerTheOtherWindowsAreDisabledToo) {
+    const TestWindow other;
+    const TestWindow owner;
+    TestDialog dialog(IDD_HIDDEN_FORM, owner.Handle());
+    dialog.whenIdle = [&] {
+        EXPECT_FALSE(IsWindowEnabled(other.Handle()));
+        Press(dialog, IDOK);
+    };
+    dialog.RunModal();
+    EXPECT_TRUE(IsWindowEnabled(other.Handle()));
+}
+
+TEST(RunModal, WithoutAnOwnerItStandsOverTheWindowInUse) {
+    const TestWindow used;
+    MoveWindow(used.Handle(), 500, 300, 800, 600, TRUE);
+    SetActiveWindow(used.Handle());
+    TestDialog dialog;
+    RECT place = {};
+    RECT behind = {};
+    dialog.whenIdle = [&] {
+        GetWindowRect(dialog.Window(), &place);
+        GetWindowRect(used.Handle(), &behind);
+        Press(dialog, IDOK);
+    };
+    dialog.RunModal();
+    EXPECT_NEAR(place.left + place.right, behind.left + behind.right, 2);
+    EXPECT_NEAR(place.top + place.bottom, behind.top + behind.bottom, 2);
+}
+
+TEST(RunModal, TheFocusComesBackToTheControlThatHadIt) {
+    TestDialog outer(IDD_HIDDEN_FORM);
+    outer.whenIdle = [&] {
+        SetFocus(outer.Control(IDC_NUMBER_EDIT));
+        TestDialog inner;
+        inner.whenIdle = [&] { Press(inner, IDOK); };
+        inner.RunModal();
+        EXPECT_EQ(GetFocus(), outer.Control(IDC_NUMBER_EDIT));
+        Press(outer, IDOK);
+    };
+    EXPECT_EQ(outer.RunModal(), IDOK);
+}
+
+// Runs a dialog over another one and does something to that one.
+void ActBehindAModalDialog(TestDialog& behind, const std::function<void(TestDialog& modal)>& act) {
+    behind.whenIdle = [&] {
+        TestDialog modal;
+        modal.whenIdle = [&] { act(modal); };
+        EXPECT_EQ(modal.RunModal(), IDOK);
+        behind.EndModal(kOwnResult);
+    };
+    EXPECT_EQ(behind.RunModal(), kOwnResult);
+}
+
+TEST(RunModal, CommandsToTheDialogsBehindAreDropped) {
+    TestDialog behind;
+    std::vector<int> commands;
+    behind.onCommand = [&](int controlId, UINT code) {
+        // That an edit gets the focus is no command.
+        if (code < EN_SETFOCUS) {
+            commands.push_back(controlId);
+        }
+        return false;
+    };
+    behind.onSystemCommand = [&](WPARAM command) {
+        commands.push_back(static_cast<int>(command));
+        return true;
+    };
+    ActBehindAModalDialog(behind, [&](TestDialog& modal) {
+        commands.clear();
+        SendMessageW(behind.Window(), WM_COMMAND, IDOK, 0);
+        SendMessageW(behind.Control(IDC_CHOICE_CHECK), BM_CLICK, 0, 0);
+        SendMessageW(behind.Window(), WM_SYSCOMMAND, 16, 0);
+        SendMessageW(behind.Window(), WM_CLOSE, 0, 0);
+        PostMessageW(behind.Window(), WM_COMMAND, IDCANCEL, 0);
+        PostMessageW(behind.Window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+        PostMessageW(behind.Window(), WM_COMMAND, 32787, 0);
+        PostMessageW(modal.Window(), WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_TRUE(commands.empty()) << "command " << commands.front();
+}
+
+TEST(RunModal, CommandsAreTakenAgainAfterwards) {
+    TestDialog behind;
+    ActBehindAModalDialog(behind, [](TestDialog& modal) { Press(modal, IDOK); });
+    TestDialog again;
+    again.whenIdle = [&] { PostMessageW(again.Window(), WM_COMMAND, IDOK, 0); };
+    EXPECT_EQ(again.RunModal(), IDOK);
+}
+
+TEST(RunModal, ClicksAndKeysInTheListsOfTheDialogsBehindAreDroppedAndNewsIsNot) {
+    TestDialog behind;
+    std::vector<int> notifications;
+    std::vector<UINT> news;
+    ActBehindAModalDialog(behind, [&](TestDialog& modal) {
+        behind.onNotify = [&](NMHDR& header, LRESULT&) {
+            notifications.push_back(static_cast<int>(header.code));
+            return true;
+        };
+        behind.onCommand = [&](int, UINT code) {
+            news.push_back(code);
+            return false;
+        };
+        for (const UINT code : {static_cast<UINT>(NM_DBLCLK), static_cast<UINT>(LVN_KEYDOWN),
+                                static_cast<UINT>(NM_KILLFOCUS), static_cast<UINT>(LVN_ITEMCHANGED)}) {
+            NMHDR header = {behind.Control(IDC_ROW_LIST), IDC_ROW_LIST, code};
+            SendMessageW(behind.Window(), WM_NOTIFY, IDC_ROW_LIST, reinterpret_cast<LPARAM>(&header));
+        }
+        SetWindowTextW(behind.Control(IDC_TEXT_EDIT), L"new");
+        behind.onNotify = nullptr;
+        behind.onCommand = nullptr;
+        Press(modal, IDOK);
+    });
+    EXPECT_EQ(notifications,
+              (std::vector<int>{static_cast<int>(NM_KILLFOCUS), static_cast<int>(LVN_ITEMCHANGED)}));
+    EXPECT_EQ(news, (std::vector<UINT>{EN_UPDATE, EN_CHANGE}));
+}
+
+TEST(RunModal, InputPostedToTheWindowsBehindIsDropped) {
+    TestDialog behind;
+    bool isChecked = true;
+    bool isTyped = true;
+    ActBehindAModalDialog(behind, [&](TestDialog& modal) {
+        SetWindowTextW(behind.Control(IDC_TEXT_EDIT), L"");
+        PostMessageW(behind.Control(IDC_CHOICE_CHECK), BM_CLICK, 0, 0);
+        PostMessageW(behind.Control(IDC_CHOICE_CHECK), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        PostMessageW(behind.Control(IDC_CHOICE_CHECK), WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+        PostMessageW(behind.Control(IDC_TEXT_EDIT), WM_CHAR, 'x', 1);
+        modal.preTranslate = [&](const MSG& message) {
+            if (message.message == WM_APP) {
+                isChecked =
+                    SendMessageW(behind.Control(IDC_CHOICE_CHECK), BM_GETCHECK, 0, 0) != BST_UNCHECKED;
+                isTyped = GetWindowTextLengthW(behind.Control(IDC_TEXT_EDIT)) != 0;
+                modal.EndModal(IDOK);
+            }
+            return false;
+        };
+        PostMessageW(modal.Window(), WM_APP, 0, 0);
+    });
+    EXPECT_FALSE(isChecked);
+    EXPECT_FALSE(isTyped);
 }
 
 TEST(RunModal, DialogsNest) {
