@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/reporting/message_styles.h"
+#include "app/reporting/unsaved_changes.h"
 #include "editors/extension_dialog.h"
 #include "res/ids.h"
 #include "toolkit/list_box.h"
@@ -51,6 +52,7 @@ bool CConfigPage::OnInitDialog() {
     SetUpButtons();
     toolkit::ListBox(Control(IDC_CONFIG_ADDITIONAL_LIST)).Fill(form_.settings.additionalExtensions);
     PutData();
+    opened_ = SettingsAsShown();
     return true;
 }
 
@@ -151,6 +153,16 @@ void CConfigPage::OnOk() {
     if (form_.Confirm(reporter_, Window())) {
         EndModal(IDOK);
     }
+}
+
+AppSettings CConfigPage::SettingsAsShown() {
+    AppSettings shown = FieldsAsShown(form_.settings);
+    shown.additionalExtensions = toolkit::ListBox(Control(IDC_CONFIG_ADDITIONAL_LIST)).Entries();
+    return shown;
+}
+
+const wchar_t* CConfigPage::UnsavedInputReason() {
+    return ReasonAgainstEnd(SettingsAsShown() != opened_);
 }
 
 void CConfigPage::OnScaleChanged() {

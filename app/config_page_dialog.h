@@ -21,6 +21,7 @@ class CConfigPage final : public toolkit::Dialog {
     bool OnInitDialog() override;
     bool OnCommand(int controlId, UINT notificationCode) override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
@@ -32,9 +33,11 @@ class CConfigPage final : public toolkit::Dialog {
     void AddTypedExtension();
     void DeleteSelectedExtension();
     void Apply();
+    [[nodiscard]] AppSettings SettingsAsShown();
 
     ErrorReporter& reporter_;
     ConfigPageForm form_;
+    AppSettings opened_;
     toolkit::ToolTip toolTip_;
     toolkit::ButtonIcons buttonIcons_;
 };

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "app/reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/window_text.h"
 
@@ -12,6 +13,7 @@ CConflictDlg::CConflictDlg(HWND owner, const std::wstring& logPath, std::int32_t
     : Dialog(IDD_LOG_SETTINGS, owner),
       services_(services),
       form_(logPath, logFileSize),
+      opened_(form_),
       sizeLabel_(kLogSizeLabelText) {}
 
 bool CConflictDlg::OnInitDialog() {
@@ -19,6 +21,7 @@ bool CConflictDlg::OnInitDialog() {
     SetControlText(IDCANCEL, kLogSettingsExitText);
     SetControlText(IDC_LOG_FOLDER_BUTTON, kLogFolderButtonText);
     PutData();
+    opened_ = FieldsAsShown(form_);
     return true;
 }
 
@@ -67,6 +70,10 @@ void CConflictDlg::OnOk() {
     }
     PutData();
     EndModal(IDOK);
+}
+
+const wchar_t* CConflictDlg::UnsavedInputReason() {
+    return ReasonAgainstEnd(!FieldsAsShown(form_).HasSameInput(opened_));
 }
 
 void CConflictDlg::ExchangeFields(toolkit::DataExchange& exchange) {

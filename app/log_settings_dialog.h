@@ -23,6 +23,7 @@ class CConflictDlg final : public toolkit::Dialog {
     bool OnInitDialog() override;
     bool OnCommand(int controlId, UINT notificationCode) override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
 
   private:
@@ -31,6 +32,7 @@ class CConflictDlg final : public toolkit::Dialog {
 
     const Services& services_;
     LogSettingsForm form_;
+    LogSettingsForm opened_;
     std::wstring sizeLabel_;
 };
 

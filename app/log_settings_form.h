@@ -46,6 +46,11 @@ class LogSettingsForm {
     /// The log path: the one handed in until OK has been confirmed, then the edited one.
     [[nodiscard]] const std::wstring& LogPath() const { return logPath_; }
 
+    /// The fields hold the same.
+    [[nodiscard]] bool HasSameInput(const LogSettingsForm& other) const {
+        return editedPath == other.editedPath && logFileSize == other.logFileSize;
+    }
+
     std::wstring editedPath;   ///< The text of the path field.
     std::int32_t logFileSize;  ///< The number of the size field, in KB; the resulting size after OK.
 

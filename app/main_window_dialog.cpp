@@ -13,6 +13,7 @@
 #include "app/profile_commands.h"
 #include "app/reporting/app_title.h"
 #include "app/reporting/message_styles.h"
+#include "app/reporting/unsaved_changes.h"
 #include "app/rule_columns.h"
 #include "app/rules_file_commands.h"
 #include "config/load_configuration.h"
@@ -32,8 +33,6 @@ namespace {
 bool HasWrappedCaption(UINT_PTR controlId) {
     return controlId == IDC_SAVE_BUTTON || controlId == IDOK || controlId == IDCANCEL;
 }
-
-constexpr wchar_t kUnsavedChangesReason[] = L"Some changes has not been saved.";
 
 }  // namespace
 
@@ -363,18 +362,9 @@ HICON CCorvaneDlg::OnQueryDragIcon() {
     return largeIcon_.get();
 }
 
-bool CCorvaneDlg::OnQueryEndSession() {
+const wchar_t* CCorvaneDlg::UnsavedInputReason() {
     TakeTicksOfShownRules();
-    if (!state_.isDirty) {
-        return true;
-    }
-    // Windows names the reason to the user, who may end all the same or come back and save.
-    ShutdownBlockReasonCreate(Window(), kUnsavedChangesReason);
-    return false;
-}
-
-void CCorvaneDlg::OnEndSession(bool /*isEnding*/) {
-    ShutdownBlockReasonDestroy(Window());
+    return ReasonAgainstEnd(state_.isDirty);
 }
 
 void CCorvaneDlg::OnScaleChanged() {

@@ -35,8 +35,7 @@ class CCorvaneDlg final : public toolkit::Dialog {
     bool OnSystemCommand(WPARAM command) override;
     bool OnPaint() override;
     HICON OnQueryDragIcon() override;
-    bool OnQueryEndSession() override;
-    void OnEndSession(bool isEnding) override;
+    const wchar_t* UnsavedInputReason() override;
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;

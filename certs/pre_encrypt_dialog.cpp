@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/reporting/message_styles.h"
+#include "app/reporting/unsaved_changes.h"
 #include "app/reporting/warning_box.h"
 #include "certs/filter_dialog.h"
 #include "certs/group_file.h"
@@ -299,6 +300,10 @@ void CPreEncryptDlg::OnOk() {
         case SelectionOutcome::kFailed:
             break;
     }
+}
+
+const wchar_t* CPreEncryptDlg::UnsavedInputReason() {
+    return ReasonAgainstEnd(form_.IsChanged(FieldsAsShown(form_.listName)));
 }
 
 void CPreEncryptDlg::OnSize(WPARAM kind, int width, int height) {

@@ -28,6 +28,7 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     bool OnCommand(int controlId, UINT notificationCode) override;
     bool OnNotify(NMHDR& header, LRESULT& result) override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void OnSize(WPARAM kind, int width, int height) override;
     void OnMinimumMaximumInfo(MINMAXINFO& info) override;
     void OnScaleChanged() override;

@@ -44,6 +44,21 @@ RecipientSelectionForm::RecipientSelectionForm(const CertSearchSettings& setting
         chosen_.push_back({std::move(owner), false});
     }
     FillChosen();
+    openedChosen_ = ChosenAsShown();
+    openedListName_ = listName;
+}
+
+bool RecipientSelectionForm::IsChanged(const std::wstring& shownListName) const {
+    return shownListName != openedListName_ || ChosenAsShown() != openedChosen_;
+}
+
+TextList RecipientSelectionForm::ChosenAsShown() const {
+    TextList owners;
+    owners.reserve(chosenRows_.size());
+    for (const std::size_t row : chosenRows_) {
+        owners.push_back(chosen_[row].text);
+    }
+    return owners;
 }
 
 std::wstring RecipientSelectionForm::Title() const {

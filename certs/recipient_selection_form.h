@@ -115,6 +115,10 @@ class RecipientSelectionForm {
                                            toolkit::WindowHandle dialog);
     [[nodiscard]] const TextList& Result() const { return result_; }
 
+    /// Tells whether OK would keep other owners, another order of them or, by the name field as it stands,
+    /// another name than the caller has.
+    [[nodiscard]] bool IsChanged(const std::wstring& shownListName) const;
+
     std::wstring listName;       ///< The text of the list name field.
     std::wstring lastGroupPath;  ///< The group file last chosen here; empty for none.
     [[nodiscard]] const CertSearchSettings& Settings() const { return settings_; }
@@ -141,6 +145,7 @@ class RecipientSelectionForm {
         [[nodiscard]] SortDirection Next() const;
     };
 
+    [[nodiscard]] TextList ChosenAsShown() const;
     void FillFound();
     void FillChosen();
     void SortFound(SortDirection direction);
@@ -162,6 +167,8 @@ class RecipientSelectionForm {
     std::vector<ChosenOwner> chosen_;
     std::vector<std::size_t> chosenRows_;  ///< Indices of chosen_, as shown.
     ListSort chosenSort_;
+    TextList openedChosen_;
+    std::wstring openedListName_;
     TextList result_;
 };
 

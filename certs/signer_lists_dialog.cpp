@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include "app/reporting/unsaved_changes.h"
 #include "certs/await_dialog.h"
 #include "certs/recipient_selection.h"
 #include "certs/selection_dialog_run.h"
@@ -35,6 +36,7 @@ class SignerList final : public toolkit::Dialog {
     bool OnInitDialog() override;
     bool OnCommand(int controlId, UINT notificationCode) override;
     bool OnNotify(NMHDR& header, LRESULT& result) override;
+    const wchar_t* UnsavedInputReason() override;
     void OnSize(WPARAM kind, int width, int height) override;
     void OnMinimumMaximumInfo(MINMAXINFO& info) override;
     void OnScaleChanged() override;
@@ -57,6 +59,7 @@ class SignerList final : public toolkit::Dialog {
     toolkit::FileCalls& files_;
     AwaitWindow waitWindow_;
     SignerListsForm form_;
+    std::vector<SignerGroup> opened_{form_.Lists()};
     SignerListView list_{form_};
     toolkit::UniqueIcon largeIcon_;
     toolkit::UniqueIcon smallIcon_;
@@ -194,6 +197,10 @@ void SignerList::Describe(int row) const {
         services_.warnings.Show(Window(), form_.Describe(static_cast<std::size_t>(row)), kSignerListTitle,
                                 WarningMode::kInformation);
     }
+}
+
+const wchar_t* SignerList::UnsavedInputReason() {
+    return ReasonAgainstEnd(form_.Lists() != opened_);
 }
 
 void SignerList::OnSize(WPARAM kind, int width, int height) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/combo_box.h"
 
@@ -16,6 +17,7 @@ bool CAddCSProfDlg::OnInitDialog() {
     SetControlText(IDCANCEL, kCsProfileChoiceExitText);
     toolkit::ComboBox(Control(IDC_CS_PROFILE_CHOICE_COMBO)).Fill(form_.catalogue);
     PutData();
+    openedIndex_ = FieldsAsShown(form_.index);
     return true;
 }
 
@@ -26,6 +28,10 @@ void CAddCSProfDlg::OnOk() {
     } else {
         FocusControl(IDC_CS_PROFILE_CHOICE_COMBO);
     }
+}
+
+const wchar_t* CAddCSProfDlg::UnsavedInputReason() {
+    return ReasonAgainstEnd(FieldsAsShown(form_.index) != openedIndex_);
 }
 
 void CAddCSProfDlg::ExchangeFields(toolkit::DataExchange& exchange) {

@@ -18,10 +18,12 @@ class CAddCSProfDlg final : public toolkit::Dialog {
   protected:
     bool OnInitDialog() override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
 
   private:
     CsProfileChoiceForm form_;
+    int openedIndex_ = 0;
     ErrorReporter& reporter_;
 };
 

@@ -1,5 +1,6 @@
 #include "editors/extension_dialog.h"
 
+#include "app/reporting/unsaved_changes.h"
 #include "res/ids.h"
 
 namespace corvane {
@@ -19,6 +20,10 @@ void CAddExtDlg::OnOk() {
     if (form_.Confirm(systemText_)) {
         EndModal(IDOK);
     }
+}
+
+const wchar_t* CAddExtDlg::UnsavedInputReason() {
+    return ReasonAgainstEnd(!FieldsAsShown(form_.text).empty());
 }
 
 void CAddExtDlg::ExchangeFields(toolkit::DataExchange& exchange) {

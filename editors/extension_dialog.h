@@ -19,6 +19,7 @@ class CAddExtDlg final : public toolkit::Dialog {
   protected:
     bool OnInitDialog() override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
 
   private:

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/combo_box.h"
 
@@ -15,6 +16,7 @@ bool AddMask::OnInitDialog() {
     SetControlText(IDCANCEL, kMaskExitText);
     toolkit::ComboBox(Control(IDC_MASK_COMBO)).Fill(form_.suggestions);
     PutData();
+    openedText_ = FieldsAsShown(form_.text);
     return true;
 }
 
@@ -25,6 +27,10 @@ void AddMask::OnOk() {
     } else {
         FocusControl(IDC_MASK_COMBO);
     }
+}
+
+const wchar_t* AddMask::UnsavedInputReason() {
+    return ReasonAgainstEnd(FieldsAsShown(form_.text) != openedText_);
 }
 
 void AddMask::ExchangeFields(toolkit::DataExchange& exchange) {

@@ -19,10 +19,12 @@ class AddMask final : public toolkit::Dialog {
   protected:
     bool OnInitDialog() override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
 
   private:
     MaskForm form_;
+    std::wstring openedText_;
     ErrorReporter& reporter_;
 };
 

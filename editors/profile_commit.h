@@ -8,4 +8,8 @@ namespace corvane {
 /// others were kept when the user left them.
 void CommitProfile(ProfileForm& form);
 
+/// The profile without its rules as OK would give it now, with every CS profile as the editor can show it.
+/// Two of them differ where the user has changed something, not where only another CS profile was looked at.
+[[nodiscard]] Profile SettingsToKeep(ProfileForm form);
+
 }  // namespace corvane

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "app/reporting/message_styles.h"
+#include "app/reporting/unsaved_changes.h"
 #include "editors/cs_profile_choice_dialog.h"
 #include "editors/cs_profile_commands.h"
 #include "editors/profile_commit.h"
@@ -77,6 +78,7 @@ bool CAddProfile::OnInitDialog() {
     SetUpButtons();
     SendDlgItemMessageW(Window(), IDC_PROFILE_FREQUENCY_SPIN, UDM_SETRANGE32, 0, kLongestCrlUpdatePeriod);
     ShowForm();
+    opened_ = SettingsToKeep(FieldsAsShown(form_));
     return true;
 }
 
@@ -224,6 +226,10 @@ void CAddProfile::OnOk() {
     }
     CommitProfile(form_);
     EndModal(IDOK);
+}
+
+const wchar_t* CAddProfile::UnsavedInputReason() {
+    return ReasonAgainstEnd(SettingsToKeep(FieldsAsShown(form_)) != opened_);
 }
 
 void CAddProfile::OnScaleChanged() {

@@ -26,6 +26,7 @@ class CAddProfile final : public toolkit::Dialog {
     bool OnInitDialog() override;
     bool OnCommand(int controlId, UINT notificationCode) override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
@@ -45,6 +46,7 @@ class CAddProfile final : public toolkit::Dialog {
     const ConfigurationState& state_;
     const EditorServices& services_;
     ProfileForm form_;
+    Profile opened_;  ///< What could be kept at the beginning.
     toolkit::ToolTip toolTip_;
     toolkit::ButtonIcons buttonIcons_;
 };

@@ -8,6 +8,7 @@
 
 #include "app/reporting/error_box.h"
 #include "app/reporting/message_styles.h"
+#include "app/reporting/unsaved_changes.h"
 #include "certs/recipient_selection_dialog.h"
 #include "certs/signer_lists_dialog.h"
 #include "editors/rule_cert_command.h"
@@ -131,6 +132,7 @@ bool CAddRule::OnInitDialog() {
     ShowForm();
     toolTip_.Activate(true);
     maskList_.Show(form_.result.masks);
+    opened_ = CommitRule(FieldsAsShown(form_));
     return true;
 }
 
@@ -320,6 +322,10 @@ void CAddRule::OnOk() {
     }
     result_ = CommitRule(form_);
     EndModal(IDOK);
+}
+
+const wchar_t* CAddRule::UnsavedInputReason() {
+    return ReasonAgainstEnd(CommitRule(FieldsAsShown(form_)) != opened_);
 }
 
 void CAddRule::ShowErrorBox(const std::wstring& text, RuleIcon icon) {

@@ -28,6 +28,7 @@ class CAddRule final : public toolkit::Dialog {
     bool OnCommand(int controlId, UINT notificationCode) override;
     bool OnNotify(NMHDR& header, LRESULT& result) override;
     void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
@@ -58,6 +59,7 @@ class CAddRule final : public toolkit::Dialog {
     const EditorServices& services_;
     TextList maskSuggestions_;
     RuleForm form_;
+    Rule opened_;  ///< What OK would have given at the beginning.
     Rule result_;
     MaskListView maskList_;
     toolkit::ToolTip toolTip_;

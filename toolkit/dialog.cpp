@@ -196,6 +196,16 @@ bool Dialog::Begin(HWND window) {
     }
 }
 
+bool Dialog::MaySessionEnd() {
+    const wchar_t* const reason = UnsavedInputReason();
+    if (reason == nullptr) {
+        return true;
+    }
+    // Windows lists programs by their windows without owner, and shows the reason of those alone.
+    BlockShutdown(GetAncestor(window_, GA_ROOTOWNER), reason);
+    return false;
+}
+
 INT_PTR Dialog::HandleGuarded(UINT message, WPARAM wParam, LPARAM lParam) {
     try {
         return Handle(message, wParam, lParam);
@@ -259,9 +269,10 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_QUERYDRAGICON:
             return reinterpret_cast<INT_PTR>(OnQueryDragIcon());
         case WM_QUERYENDSESSION:
-            return Answer(OnQueryEndSession() ? TRUE : FALSE);
+            return Answer(MaySessionEnd() ? TRUE : FALSE);
         case WM_ENDSESSION:
-            OnEndSession(wParam != FALSE);
+            // Whether the session ends or the user has thought better of it.
+            UnblockShutdown(GetAncestor(window_, GA_ROOTOWNER));
             return TRUE;
         case WM_DPICHANGED:
             Rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
@@ -321,11 +332,17 @@ HICON Dialog::OnQueryDragIcon() {
     return nullptr;
 }
 
-bool Dialog::OnQueryEndSession() {
-    return true;
+const wchar_t* Dialog::UnsavedInputReason() {
+    return nullptr;
 }
 
-void Dialog::OnEndSession(bool /*isEnding*/) {}
+void Dialog::BlockShutdown(HWND window, const wchar_t* reason) {
+    ShutdownBlockReasonCreate(window, reason);
+}
+
+void Dialog::UnblockShutdown(HWND window) {
+    ShutdownBlockReasonDestroy(window);
+}
 
 void Dialog::OnScaleChanged() {}
 

@@ -4,6 +4,7 @@
 
 #include <exception>
 #include <string>
+#include <utility>
 
 #include "toolkit/data_exchange.h"
 #include "toolkit/template_scale.h"
@@ -70,10 +71,14 @@ class Dialog {
     virtual bool OnPaint();
     /// The icon to drag while minimised; null for the class's.
     virtual HICON OnQueryDragIcon();
-    /// Windows wants to end. False says no and must have told the user why.
-    virtual bool OnQueryEndSession();
-    /// Windows ends now, or has thought better of it after OnQueryEndSession.
-    virtual void OnEndSession(bool isEnding);
+    /// Windows wants to end. Returns the reason against it, which the user is told, or null when nothing
+    /// would be lost with this window. Each window is asked for itself, one that is disabled, too.
+    virtual const wchar_t* UnsavedInputReason();
+    /// Windows is to name `reason` to its user beside `window`, the one that stands for the program
+    /// (ShutdownBlockReasonCreate).
+    virtual void BlockShutdown(HWND window, const wchar_t* reason);
+    /// The reason holds no longer (ShutdownBlockReasonDestroy).
+    virtual void UnblockShutdown(HWND window);
     /// The dialog has come to a screen of another scale. Every control is where the template has it at that
     /// scale; what follows the size of the window, or else depends on pixels, is to be arranged again.
     virtual void OnScaleChanged();
@@ -95,6 +100,14 @@ class Dialog {
     /// Copies the fields into the controls. The commands that the controls send meanwhile reach no handler;
     /// what common controls ask through OnNotify is still answered.
     void PutData();
+    /// What TakeData would give to `fields`, one or all of those that ExchangeFields copies; they keep what
+    /// they hold.
+    template <typename Fields>
+    [[nodiscard]] Fields FieldsAsShown(Fields& fields) {
+        Fields kept = fields;
+        TakeData();
+        return std::exchange(fields, std::move(kept));
+    }
     [[nodiscard]] HWND Control(int controlId) const { return GetDlgItem(window_, controlId); }
     void SetControlText(int controlId, const wchar_t* text) const;
     void EnableControl(int controlId, bool isEnabled) const;
@@ -112,6 +125,7 @@ class Dialog {
     INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Answer(LRESULT result) const;
     bool Begin(HWND window);
+    bool MaySessionEnd();
     bool IsUsedUpBeforeDispatch(MSG& message);
     void ReportCurrentException();
     void Rescale(UINT dotsPerInch, const RECT& suggested);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/reporting/app_title.h"
+#include "app/reporting/unsaved_changes.h"
 #include "tests/support/reporter_fixture.h"
 
 namespace corvane::testing {
@@ -37,6 +38,11 @@ TEST(MayLeave, AnyAnswerButYesKeepsTheWindowOpen) {
         fixture.presenter.AnswerNext(answer);
         EXPECT_FALSE(MayLeave(true, fixture.reporter, nullptr)) << "answer " << answer;
     }
+}
+
+TEST(ReasonAgainstEnd, IsToldOnlyWhereSomethingWouldBeLost) {
+    EXPECT_STREQ(ReasonAgainstEnd(true), L"Some changes has not been saved.");
+    EXPECT_EQ(ReasonAgainstEnd(false), nullptr);
 }
 
 }  // namespace

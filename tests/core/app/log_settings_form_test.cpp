@@ -210,5 +210,16 @@ TEST(LogSettingsTexts, AreTheDialogs) {
     EXPECT_STREQ(kLogSizeLabelText, L"Log files size (KB.):");
 }
 
+TEST(LogSettingsInput, DiffersByPathAndBySize) {
+    const LogSettingsForm opened(L"D:\\log", 4000);
+    LogSettingsForm form = opened;
+    EXPECT_TRUE(form.HasSameInput(opened));
+    form.editedPath = L"D:\\other";
+    EXPECT_FALSE(form.HasSameInput(opened));
+    form = opened;
+    form.logFileSize = 4001;
+    EXPECT_FALSE(form.HasSameInput(opened));
+}
+
 }  // namespace
 }  // namespace corvane::testing

@@ -494,5 +494,38 @@ TEST_F(SelectionForm, TwentyThousandFoundAndFiveThousandChosenAreHandledWhole) {
     EXPECT_EQ(form.ChosenRowCount(), 14'999U);
 }
 
+TEST_F(SelectionForm, IsUnchangedWhateverIsOnlyLookedAt) {
+    RecipientSelectionForm form = SignerForm({L"CN=B", L"CN=A"}, {}, L"Board");
+    EXPECT_FALSE(form.IsChanged(L"Board"));
+    form.AddFound({L"CN=C", L"CN=D"});
+    form.CheckAllFound(true);
+    form.SetFilter(L"c");
+    form.CheckChosen(0, true);
+    EXPECT_FALSE(form.IsChanged(L"Board"));
+}
+
+TEST_F(SelectionForm, IsChangedByOwnersTheirOrderAndTheName) {
+    RecipientSelectionForm added = Form({L"CN=B"});
+    added.AddFound({L"CN=C"});
+    added.CheckAllFound(true);
+    EXPECT_EQ(added.AddChecked(), L"");
+    EXPECT_TRUE(added.IsChanged(L""));
+
+    RecipientSelectionForm removed = Form({L"CN=B"});
+    removed.CheckChosen(0, true);
+    removed.RemoveChecked();
+    EXPECT_TRUE(removed.IsChanged(L""));
+    removed.AddFound({L"CN=B"});
+    removed.CheckAllFound(true);
+    EXPECT_EQ(removed.AddChecked(), L"");
+    EXPECT_FALSE(removed.IsChanged(L"")) << "It is as it was.";
+
+    RecipientSelectionForm sorted = Form({L"CN=B", L"CN=A"});
+    sorted.ClickChosenHeader();
+    EXPECT_TRUE(sorted.IsChanged(L"")) << "The order shown is the order kept.";
+
+    EXPECT_TRUE(SignerForm({}, {}, L"Board").IsChanged(L"Boar"));
+}
+
 }  // namespace
 }  // namespace corvane::testing

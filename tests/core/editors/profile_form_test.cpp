@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "editors/cs_profile_list.h"
 #include "editors/profile_commit.h"
 #include "editors/profile_opening.h"
 #include "tests/core/editors/sample_profiles.h"
@@ -217,6 +218,52 @@ TEST_F(ProfileEditor, RulesAreLeftAlone) {
     ProfileForm form = Open(profile);
     CommitProfile(form);
     EXPECT_EQ(form.result, profile);
+}
+
+class ProfileSettingsToKeep : public ProfileEditor {
+  protected:
+    ProfileSettingsToKeep() {
+        Profile profile = ProfileWith(L"alpha", {L"CS one", L"CS two"});
+        // As a registry may hold it and the editor does not show it.
+        profile.timeStampServers[1] = L"";
+        profile.crlUpdatePeriods[1] = kLongestCrlUpdatePeriod + 1;
+        profile.rules.resize(1);
+        form_ = Open(profile);
+        opened_ = SettingsToKeep(form_);
+    }
+
+    [[nodiscard]] bool IsChanged() const { return SettingsToKeep(form_) != opened_; }
+
+    ProfileForm form_;
+    Profile opened_;
+};
+
+TEST_F(ProfileSettingsToKeep, AreTheSameWhereNothingWasChanged) {
+    EXPECT_FALSE(IsChanged());
+    EXPECT_THAT(opened_.rules, IsEmpty());
+}
+
+TEST_F(ProfileSettingsToKeep, AreTheSameWhereAnotherCsProfileWasLookedAt) {
+    for (const int index : {1, 0, 1}) {
+        KeepShownSettings(form_, form_.selectedCsProfile);
+        ShowCsProfile(form_, index, shown_);
+        EXPECT_FALSE(IsChanged()) << "CS profile " << index;
+    }
+}
+
+TEST_F(ProfileSettingsToKeep, DifferByWhateverWasChanged) {
+    const ProfileForm opened = form_;
+    const auto expectChanged = [&](const char* what, auto&& change) {
+        form_ = opened;
+        change(form_);
+        EXPECT_TRUE(IsChanged()) << what;
+    };
+    expectChanged("name", [](ProfileForm& form) { form.result.name += L"x"; });
+    expectChanged("timeout", [](ProfileForm& form) { ++form.result.handlerTimeout; });
+    expectChanged("report", [](ProfileForm& form) { form.result.verifyFile ^= 1; });
+    expectChanged("shown setting", [](ProfileForm& form) { form.shown.notLoadCrl ^= 1; });
+    expectChanged("shown server", [](ProfileForm& form) { form.shown.timeStampServer += L"x"; });
+    expectChanged("CS profiles", [](ProfileForm& form) { EraseCsProfile(form.result, 1); });
 }
 
 }  // namespace

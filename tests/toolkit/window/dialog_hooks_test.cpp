@@ -177,23 +177,58 @@ TEST_F(DialogHooks, TheIconToDragIsTheDialogsOrTheClasss) {
     EXPECT_NE(Send(WM_QUERYDRAGICON), reinterpret_cast<LRESULT>(icon.get()));
 }
 
+using Reasons = std::vector<std::pair<HWND, std::wstring>>;
+
 TEST_F(DialogHooks, TheEndOfTheSessionIsAnsweredYesOrNo) {
     EXPECT_EQ(Send(WM_QUERYENDSESSION), TRUE) << "who has nothing against it";
-    dialog_.onQueryEndSession = [] { return false; };
+    dialog_.unsavedInputReason = [] { return L"not saved"; };
     EXPECT_EQ(Send(WM_QUERYENDSESSION), FALSE);
-    dialog_.onQueryEndSession = [] { return true; };
+    dialog_.unsavedInputReason = []() -> const wchar_t* { return nullptr; };
     EXPECT_EQ(Send(WM_QUERYENDSESSION), TRUE);
-    dialog_.onQueryEndSession = []() -> bool { throw std::runtime_error("unsure"); };
+    dialog_.unsavedInputReason = []() -> const wchar_t* { throw std::runtime_error("unsure"); };
     EXPECT_EQ(Send(WM_QUERYENDSESSION), FALSE) << "who does not know must not lose data";
     EXPECT_EQ(dialog_.reported, std::vector<std::string>{"unsure"});
 }
 
-TEST_F(DialogHooks, TheEndOfTheSessionIsToldWithWhetherItComes) {
-    std::vector<bool> told;
-    dialog_.onEndSession = [&](bool isEnding) { told.push_back(isEnding); };
-    Send(WM_ENDSESSION, TRUE);
-    Send(WM_ENDSESSION, FALSE);
-    EXPECT_EQ(told, (std::vector<bool>{true, false}));
+TEST_F(DialogHooks, WindowsIsToldTheReasonAndThatItHoldsNoLonger) {
+    dialog_.unsavedInputReason = [] { return L"not saved"; };
+    Send(WM_QUERYENDSESSION);
+    EXPECT_EQ(dialog_.shutdownReasons, (Reasons{{dialog_.Window(), L"not saved"}}));
+    for (const WPARAM isEnding : {WPARAM{FALSE}, WPARAM{TRUE}}) {
+        dialog_.shutdownReasons.clear();
+        Send(WM_ENDSESSION, isEnding);
+        EXPECT_EQ(dialog_.shutdownReasons, (Reasons{{dialog_.Window(), L""}})) << "ending: " << isEnding;
+    }
+}
+
+TEST_F(DialogHooks, WhereNothingWouldBeLostWindowsIsToldNoReason) {
+    Send(WM_QUERYENDSESSION);
+    EXPECT_EQ(dialog_.shutdownReasons, Reasons());
+}
+
+TEST_F(DialogHooks, TheReasonStandsBesideTheWindowThatWindowsLists) {
+    TestDialog middle(IDD_HIDDEN_FORM, dialog_.Window());
+    ASSERT_TRUE(middle.CreateModeless());
+    TestDialog top(IDD_HIDDEN_FORM, middle.Window());
+    ASSERT_TRUE(top.CreateModeless());
+    top.unsavedInputReason = [] { return L"not saved"; };
+    SendMessageW(top.Window(), WM_QUERYENDSESSION, 0, 0);
+    SendMessageW(top.Window(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(top.shutdownReasons, (Reasons{{dialog_.Window(), L"not saved"}, {dialog_.Window(), L""}}));
+}
+
+TEST_F(DialogHooks, ADisabledDialogIsAskedForItsInputToo) {
+    dialog_.unsavedInputReason = [] { return L"not saved"; };
+    EnableWindow(dialog_.Window(), FALSE);
+    EXPECT_EQ(Send(WM_QUERYENDSESSION), FALSE);
+}
+
+TEST_F(DialogHooks, FieldsAreReadAsShownAndKeepWhatTheyHold) {
+    std::wstring text = L"held";
+    dialog_.exchangeFields = [&](DataExchange& exchange) { exchange.Text(IDC_TEXT_EDIT, text); };
+    SetWindowTextW(dialog_.Control(IDC_TEXT_EDIT), L"typed");
+    EXPECT_EQ(dialog_.FieldsAsShown(text), L"typed");
+    EXPECT_EQ(text, L"held");
 }
 
 TEST(DialogPaint, APaintingThatFailsIsReportedOnceAndNotAskedForAgain) {

@@ -78,14 +78,18 @@ HICON TestDialog::OnQueryDragIcon() {
     return onQueryDragIcon ? onQueryDragIcon() : Dialog::OnQueryDragIcon();
 }
 
-bool TestDialog::OnQueryEndSession() {
-    return onQueryEndSession ? onQueryEndSession() : Dialog::OnQueryEndSession();
+const wchar_t* TestDialog::UnsavedInputReason() {
+    return unsavedInputReason ? unsavedInputReason() : Dialog::UnsavedInputReason();
 }
 
-void TestDialog::OnEndSession(bool isEnding) {
-    if (onEndSession) {
-        onEndSession(isEnding);
-    }
+void TestDialog::BlockShutdown(HWND window, const wchar_t* reason) {
+    shutdownReasons.emplace_back(window, reason);
+    Dialog::BlockShutdown(window, reason);
+}
+
+void TestDialog::UnblockShutdown(HWND window) {
+    shutdownReasons.emplace_back(window, L"");
+    Dialog::UnblockShutdown(window);
 }
 
 void TestDialog::OnScaleChanged() {

@@ -5,6 +5,7 @@
 #include <exception>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/toolkit/window/ids.h"
@@ -27,6 +28,7 @@ class TestDialog : public Dialog {
     using Dialog::DotsPerInch;
     using Dialog::EnableControl;
     using Dialog::EndModal;
+    using Dialog::FieldsAsShown;
     using Dialog::HasEnded;
     using Dialog::PutData;
     using Dialog::SetControlText;
@@ -42,8 +44,10 @@ class TestDialog : public Dialog {
     std::function<bool(WPARAM command)> onSystemCommand;
     std::function<bool()> onPaint;
     std::function<HICON()> onQueryDragIcon;
-    std::function<bool()> onQueryEndSession;
-    std::function<void(bool isEnding)> onEndSession;
+    std::function<const wchar_t*()> unsavedInputReason;
+    /// What Windows was told about its end: the window and the reason, which is empty where it was taken
+    /// back.
+    std::vector<std::pair<HWND, std::wstring>> shutdownReasons;
     std::function<void()> onScaleChanged;
     std::function<bool(const MSG& message)> preTranslate;
     std::function<void(DataExchange& exchange)> exchangeFields;
@@ -63,8 +67,9 @@ class TestDialog : public Dialog {
     bool OnSystemCommand(WPARAM command) override;
     bool OnPaint() override;
     HICON OnQueryDragIcon() override;
-    bool OnQueryEndSession() override;
-    void OnEndSession(bool isEnding) override;
+    const wchar_t* UnsavedInputReason() override;
+    void BlockShutdown(HWND window, const wchar_t* reason) override;
+    void UnblockShutdown(HWND window) override;
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(DataExchange& exchange) override;
