@@ -7,11 +7,13 @@
 #include <array>
 #include <vector>
 
+#include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
 namespace toolkit {
 namespace {
 
+using testing::TestDialog;
 using testing::TestWindow;
 
 // What is left in the queue of the thread, of the given window.
@@ -70,8 +72,12 @@ TEST(WindowsInputGate, InputThatCameMeanwhileIsLostAndEverythingElseStays) {
 }
 
 TEST(WindowsInputGate, KeysOfTheRealKeyboardAreLostToo) {
-    const TestWindow window;
-    SetForegroundWindow(window.Handle());
+    TestDialog dialog(IDD_FORM);
+    ASSERT_TRUE(dialog.CreateModeless());
+    SetForegroundWindow(dialog.Window());
+    // A control keeps the focus while its dialog is disabled, and with it the keys.
+    const HWND edit = dialog.Control(IDC_TEXT_EDIT);
+    SetFocus(edit);
     const auto press = [] {
         std::array<INPUT, 2> strokes = {};
         for (INPUT& stroke : strokes) {
@@ -82,13 +88,13 @@ TEST(WindowsInputGate, KeysOfTheRealKeyboardAreLostToo) {
         SendInput(static_cast<UINT>(strokes.size()), strokes.data(), sizeof(INPUT));
     };
     press();
-    ASSERT_TRUE(Holds(LeftFor(window.Handle()), WM_KEYDOWN)) << "The key does not reach this window at all.";
+    ASSERT_TRUE(Holds(LeftFor(edit), WM_KEYDOWN)) << "The key does not reach this window at all.";
     WindowsInputGate gate;
     {
         const ShutInput shut(gate);
         press();
     }
-    EXPECT_FALSE(Holds(LeftFor(window.Handle()), WM_KEYDOWN));
+    EXPECT_FALSE(Holds(LeftFor(edit), WM_KEYDOWN));
 }
 
 TEST(WindowsInputGate, TheEndOfTheProgramIsNotInput) {

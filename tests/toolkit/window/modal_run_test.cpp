@@ -374,6 +374,8 @@ TEST(RunModal, KeysNeverReachTheOwner) {
 TEST(RunModal, WithoutAnOwnerEveryWindowIsDisabledAndTheOneInUseIsActiveAgain) {
     const TestWindow other;
     const TestWindow used;
+    // What the system would choose by itself is another one.
+    SetWindowPos(other.Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     TestDialog dialog;
     std::optional<MessageWatcher> watcher;
     HWND activeAtDeath = nullptr;
