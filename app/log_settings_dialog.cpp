@@ -38,7 +38,8 @@ bool CConflictDlg::OnCommand(int controlId, UINT notificationCode) {
 }
 
 void CConflictDlg::ChooseFolder() {
-    const std::optional<std::wstring> folder = services_.shell.PickFolder(Window());
+    const std::optional<std::wstring> folder =
+        PathOrReport(services_.shell.PickFolder(Window()), services_.reporter, Window());
     if (!folder) {
         return;
     }

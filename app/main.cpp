@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "app/corvane_app.h"
+#include "toolkit/library_search.h"
 
 namespace {
 
@@ -9,5 +10,6 @@ corvane::CCorvaneApp application;
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int /*show*/) {
+    toolkit::LeaveCurrentFolderOutOfLibrarySearch();
     return application.Run();
 }

@@ -36,7 +36,8 @@ void ExportProfileRules(const ConfigurationState& state, toolkit::WindowHandle o
         services.reporter.ShowMessage(owner, std::wstring(L"Profile contains no rules."), kRefusalStyle);
         return;
     }
-    const std::optional<std::wstring> path = toolkit::AskWhereToSave(owner, RulesFileOffer(profile->name));
+    const std::optional<std::wstring> path =
+        PathOrReport(toolkit::AskWhereToSave(owner, RulesFileOffer(profile->name)), services.reporter, owner);
     if (path) {
         const toolkit::WaitCursor waiting;
         // A failure has been reported, and nothing but the file depends on the outcome.
@@ -45,7 +46,8 @@ void ExportProfileRules(const ConfigurationState& state, toolkit::WindowHandle o
 }
 
 bool ImportProfileRules(ConfigurationState& state, toolkit::WindowHandle owner, const Services& services) {
-    const std::optional<std::wstring> path = toolkit::AskWhatToOpen(owner, RulesFileOffer(L""));
+    const std::optional<std::wstring> path =
+        PathOrReport(toolkit::AskWhatToOpen(owner, RulesFileOffer(L"")), services.reporter, owner);
     if (!path) {
         return false;
     }

@@ -247,8 +247,8 @@ void CPreEncryptDlg::SearchNetworkStore() {
 }
 
 void CPreEncryptDlg::OpenGroup() {
-    const std::optional<std::wstring> path =
-        toolkit::AskWhatToOpen(Window(), FileDialogOfferFor(OfferToOpenGroup(form_)));
+    const std::optional<std::wstring> path = PathOrReport(
+        toolkit::AskWhatToOpen(Window(), FileDialogOfferFor(OfferToOpenGroup(form_))), reporter_, Window());
     if (path) {
         ChangeFound([this, &path] { LoadGroupFile(form_, *path, files_, reporter_, Window()); });
     }
@@ -259,8 +259,8 @@ void CPreEncryptDlg::SaveGroup() {
         FocusControl(IDC_SELECTION_FOUND_LIST);
         return;
     }
-    const std::optional<std::wstring> path =
-        toolkit::AskWhereToSave(Window(), FileDialogOfferFor(OfferToSaveGroup(form_)));
+    const std::optional<std::wstring> path = PathOrReport(
+        toolkit::AskWhereToSave(Window(), FileDialogOfferFor(OfferToSaveGroup(form_))), reporter_, Window());
     if (path) {
         SaveGroupFile(form_, *path, files_, reporter_, Window());
     }

@@ -220,7 +220,7 @@ bool CAddRule::OnSelectionChanged(int controlId) {
 }
 
 void CAddRule::OnNumberChanged(int controlId) {
-    const auto* const found = std::find(kRowNumbers.begin(), kRowNumbers.end(), controlId);
+    const auto found = std::find(kRowNumbers.begin(), kRowNumbers.end(), controlId);
     const HWND edit = Control(controlId);
     if (found == kRowNumbers.end() || edit == nullptr) {
         return;
@@ -264,7 +264,8 @@ bool CAddRule::OnButton(int controlId) {
 }
 
 void CAddRule::PickFolder(std::wstring& field) {
-    std::optional<std::wstring> folder = services_.shell.PickFolder(Window());
+    std::optional<std::wstring> folder =
+        PathOrReport(services_.shell.PickFolder(Window()), services_.reporter, Window());
     if (folder) {
         TakeData();
         field = std::move(*folder);
@@ -303,7 +304,8 @@ void CAddRule::RunCertCommand() {
     }
 }
 
-void CAddRule::PickCertPath(const std::optional<std::wstring>& path) {
+void CAddRule::PickCertPath(const toolkit::PathChoice& choice) {
+    const std::optional<std::wstring> path = PathOrReport(choice, services_.reporter, Window());
     if (path) {
         TakeCertPath(form_, *path);
         PutData();

@@ -8,6 +8,7 @@
 #include "editors/rule_form.h"
 #include "toolkit/button_icons.h"
 #include "toolkit/dialog.h"
+#include "toolkit/path_choice.h"
 #include "toolkit/tool_tip.h"
 
 namespace corvane {
@@ -48,7 +49,7 @@ class CAddRule final : public toolkit::Dialog {
 
     void PickFolder(std::wstring& field);
     void RunCertCommand();
-    void PickCertPath(const std::optional<std::wstring>& path);
+    void PickCertPath(const toolkit::PathChoice& choice);
     void ShowErrorBox(const std::wstring& text, RuleIcon icon);
 
     [[nodiscard]] std::optional<std::wstring> AskForMask(const std::wstring& initialText);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "toolkit/long_path.h"
 #include "toolkit/quiet_drives.h"
 
 namespace toolkit {
@@ -12,8 +13,8 @@ namespace {
 
 std::uint32_t OpenFile(const std::wstring& path, DWORD access, DWORD disposition, FileCalls::Handle& file) {
     const QuietDrives quiet;
-    const HANDLE opened = CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, disposition,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE opened = CreateFileW(LongPathForm(path).c_str(), access, FILE_SHARE_READ, nullptr,
+                                      disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (opened == INVALID_HANDLE_VALUE) {
         return GetLastError();
     }
@@ -65,7 +66,8 @@ std::uint32_t WindowsFileCalls::Close(Handle file) {
 
 std::uint32_t WindowsFileCalls::CheckExists(const std::wstring& path) {
     const QuietDrives quiet;
-    return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES ? GetLastError() : ERROR_SUCCESS;
+    return GetFileAttributesW(LongPathForm(path).c_str()) == INVALID_FILE_ATTRIBUTES ? GetLastError()
+                                                                                     : ERROR_SUCCESS;
 }
 
 std::uint32_t WindowsFileCalls::AtOnce(std::size_t sizeBytes) const {

@@ -5,7 +5,8 @@
 namespace toolkit {
 
 /// The file calls of Windows (CreateFileW, GetFileSizeEx, ReadFile, WriteFile, CloseHandle,
-/// GetFileAttributesW). No call shows a box about a drive without a disk.
+/// GetFileAttributesW). No call shows a box about a drive without a disk, and a path may be as
+/// long as the file system takes it.
 class WindowsFileCalls : public FileCalls {
   public:
     /// The most bytes that one call of the system moves. ReadFile and WriteFile count in 32 bits and need

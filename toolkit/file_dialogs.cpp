@@ -1,10 +1,10 @@
 #include "toolkit/file_dialogs.h"
 
-#include <commdlg.h>
-
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/file_name_proposal.h"
+#include "toolkit/kept_current_folder.h"
 #include "toolkit/late_library.h"
 #include "toolkit/modal_state.h"
 
@@ -15,18 +15,13 @@ namespace {
 // The longest path that the system takes, in characters with the closing NUL.
 constexpr std::size_t kLongestPath = 32768;
 
-using FileDialogFunction = BOOL(WINAPI*)(OPENFILENAMEW*);
+constexpr wchar_t kLibraryFile[] = L"comdlg32.dll";
 
-std::optional<std::wstring> Ask(const char* functionName, HWND owner, const FileDialogOffer& offer,
-                                DWORD flags) {
-    static const LateLibrary kLibrary(L"comdlg32.dll");
-    const auto function = kLibrary.Find<FileDialogFunction>(functionName);
-    if (function == nullptr) {
-        return std::nullopt;
-    }
+// Shows the dialog once with a file name, which may be empty.
+PathChoice ShowWithName(const FileDialogFunctions& functions, HWND owner, const FileDialogOffer& offer,
+                        DWORD flags, std::wstring path) {
     std::wstring filter = offer.filter;
     std::replace(filter.begin(), filter.end(), L'|', L'\0');
-    std::wstring path = offer.path.empty() ? ProposedFileName(offer.fileName) : offer.path;
     path.resize(kLongestPath);
 
     OPENFILENAMEW request = {};
@@ -38,24 +33,47 @@ std::optional<std::wstring> Ask(const char* functionName, HWND owner, const File
     request.nMaxFile = static_cast<DWORD>(path.size());
     request.lpstrInitialDir = offer.folder.empty() ? nullptr : offer.folder.c_str();
     request.lpstrDefExt = offer.defaultExtension.c_str();
-    // The current folder is not this dialog's to change.
+    // The current folder is not this dialog's to change, and not all of them keep to the flag.
     request.Flags = flags | OFN_EXPLORER | OFN_ENABLESIZING | OFN_NOCHANGEDIR;
     const ModalState others(owner);
-    if (function(&request) == FALSE) {
-        return std::nullopt;
+    const KeptCurrentFolder currentFolder;
+    if (functions.ask(&request) != FALSE) {
+        path.resize(path.find(L'\0'));
+        return {std::move(path), {}};
     }
-    path.resize(path.find(L'\0'));
-    return path;
+    const DWORD error = functions.lastError();
+    return error == 0 ? PathChoice{} : PathChoice{{}, CommonDialogFailure(error)};
+}
+
+PathChoice Ask(const char* functionName, HWND owner, const FileDialogOffer& offer, DWORD flags) {
+    static const LateLibrary kLibrary(kLibraryFile);
+    const FileDialogFunctions functions = {
+        .ask = kLibrary.Find<decltype(&::GetOpenFileNameW)>(functionName),
+        .lastError = kLibrary.Find<decltype(&::CommDlgExtendedError)>("CommDlgExtendedError")};
+    if (functions.ask == nullptr || functions.lastError == nullptr) {
+        return {{}, DialogFailure{kShowFileDialogOperation, "comdlg32.dll", kLibrary.FailureCode()}};
+    }
+    return ShowFileDialog(functions, owner, offer, flags);
 }
 
 }  // namespace
 
-std::optional<std::wstring> AskWhereToSave(HWND owner, const FileDialogOffer& offer) {
+PathChoice AskWhereToSave(HWND owner, const FileDialogOffer& offer) {
     return Ask("GetSaveFileNameW", owner, offer, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST);
 }
 
-std::optional<std::wstring> AskWhatToOpen(HWND owner, const FileDialogOffer& offer) {
+PathChoice AskWhatToOpen(HWND owner, const FileDialogOffer& offer) {
     return Ask("GetOpenFileNameW", owner, offer, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST);
+}
+
+PathChoice ShowFileDialog(const FileDialogFunctions& functions, HWND owner, const FileDialogOffer& offer,
+                          DWORD flags) {
+    const std::wstring name = offer.path.empty() ? ProposedFileName(offer.fileName) : offer.path;
+    const PathChoice choice = ShowWithName(functions, owner, offer, flags, name);
+    if (!name.empty() && choice.failure == CommonDialogFailure(kCommonDialogInvalidFileName)) {
+        return ShowWithName(functions, owner, offer, flags, {});
+    }
+    return choice;
 }
 
 }  // namespace toolkit

@@ -2,8 +2,11 @@
 
 #include <windows.h>
 
-#include <optional>
+#include <commdlg.h>
+
 #include <string>
+
+#include "toolkit/path_choice.h"
 
 namespace toolkit {
 
@@ -18,10 +21,22 @@ struct FileDialogOffer {
 };
 
 /// Asks where to save a file: the read-only box is hidden, and an existing file is asked about before it is
-/// chosen (GetSaveFileNameW). None when the user cancels.
-[[nodiscard]] std::optional<std::wstring> AskWhereToSave(HWND owner, const FileDialogOffer& offer);
+/// chosen (GetSaveFileNameW). A failure is the caller's to report.
+[[nodiscard]] PathChoice AskWhereToSave(HWND owner, const FileDialogOffer& offer);
 
-/// Asks for a file that exists (GetOpenFileNameW). None when the user cancels.
-[[nodiscard]] std::optional<std::wstring> AskWhatToOpen(HWND owner, const FileDialogOffer& offer);
+/// Asks for a file that exists (GetOpenFileNameW). A failure is the caller's to report.
+[[nodiscard]] PathChoice AskWhatToOpen(HWND owner, const FileDialogOffer& offer);
+
+/// The two functions of the system that a file dialog is shown with.
+struct FileDialogFunctions {
+    decltype(&::GetOpenFileNameW) ask;
+    decltype(&::CommDlgExtendedError) lastError;  ///< 0 after a cancel.
+};
+
+/// Shows a file dialog with `functions` and the OFN_ flags that are added to those of every file dialog. An
+/// offered name that the system refuses is left out, so that the user still gets to choose. The process's
+/// current folder is afterwards what it was before.
+[[nodiscard]] PathChoice ShowFileDialog(const FileDialogFunctions& functions, HWND owner,
+                                        const FileDialogOffer& offer, DWORD flags);
 
 }  // namespace toolkit

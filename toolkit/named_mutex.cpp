@@ -5,7 +5,8 @@ namespace toolkit {
 bool NamedMutex::Exists(const std::wstring& name) {
     const HANDLE existing = OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str());
     if (existing == nullptr) {
-        return false;
+        // One that this program may not touch is there all the same, such as that of a copy with more rights.
+        return GetLastError() == ERROR_ACCESS_DENIED;
     }
     CloseHandle(existing);
     return true;

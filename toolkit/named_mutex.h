@@ -9,7 +9,8 @@ namespace toolkit {
 /// A named mutex of the system that is owned by the calling thread for as long as this object lives.
 class NamedMutex {
   public:
-    /// Tells whether a mutex of that name exists already (OpenMutexW with full access).
+    /// Tells whether a mutex of that name exists already (OpenMutexW with full access), be
+    /// it one that may not be opened.
     [[nodiscard]] static bool Exists(const std::wstring& name);
 
     /// Creates the mutex, owned from the start (CreateMutexW). Where that fails, IsHeld is false and

@@ -4,7 +4,10 @@
 #include <shobjidl.h>
 
 #include <memory>
+#include <string>
+#include <utility>
 
+#include "toolkit/kept_current_folder.h"
 #include "toolkit/late_library.h"
 #include "toolkit/modal_state.h"
 
@@ -39,58 +42,89 @@ constexpr GUID kFileOpenDialogClass = {
 constexpr GUID kFileOpenDialogInterface = {
     0xD57C7288, 0xD4AD, 0x4768, {0xBE, 0x02, 0x9D, 0x96, 0x95, 0x32, 0xD9, 0x60}};
 
-UniqueInterface<IFileOpenDialog> CreateFileOpenDialog() {
+PathChoice Failed(const char* step, HRESULT result) {
+    // What came from a call of the system is told with that call's own code.
+    const int code = HRESULT_FACILITY(result) == FACILITY_WIN32 ? HRESULT_CODE(result) : result;
+    return {{}, DialogFailure{kShowFolderPickerOperation, step, static_cast<std::uint32_t>(code)}};
+}
+
+HRESULT CreateFileOpenDialog(UniqueInterface<IFileOpenDialog>& dialog) {
     const auto create = ComLibrary().Find<decltype(&::CoCreateInstance)>("CoCreateInstance");
-    void* object = nullptr;
-    if (create == nullptr || FAILED(create(kFileOpenDialogClass, nullptr, CLSCTX_INPROC_SERVER,
-                                           kFileOpenDialogInterface, &object))) {
-        return nullptr;
+    if (create == nullptr) {
+        return HRESULT_FROM_WIN32(ComLibrary().FailureCode());
     }
-    return UniqueInterface<IFileOpenDialog>(static_cast<IFileOpenDialog*>(object));
+    void* object = nullptr;
+    const HRESULT result =
+        create(kFileOpenDialogClass, nullptr, CLSCTX_INPROC_SERVER, kFileOpenDialogInterface, &object);
+    dialog.reset(static_cast<IFileOpenDialog*>(object));
+    return result;
+}
+
+HRESULT AskForFolders(IFileOpenDialog& dialog) {
+    FILEOPENDIALOGOPTIONS options = 0;
+    const HRESULT result = dialog.GetOptions(&options);
+    return FAILED(result)
+               ? result
+               : dialog.SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM | FOS_NOCHANGEDIR);
+}
+
+HRESULT ShowDialog(IFileOpenDialog& dialog, HWND owner) {
+    const KeptCurrentFolder currentFolder;
+    return dialog.Show(owner);
+}
+
+HRESULT ChosenPath(IFileOpenDialog& dialog, std::wstring& path) {
+    IShellItem* found = nullptr;
+    HRESULT result = dialog.GetResult(&found);
+    if (FAILED(result)) {
+        return result;
+    }
+    const UniqueInterface<IShellItem> item(found);
+    PWSTR name = nullptr;
+    result = item->GetDisplayName(SIGDN_FILESYSPATH, &name);
+    if (SUCCEEDED(result)) {
+        const std::unique_ptr<wchar_t, TaskMemoryReleaser> owned(name);
+        path = name;
+    }
+    return result;
 }
 
 }  // namespace
 
+ShellManager::ShellManager() : apartment_(E_FAIL) {
+    const auto open = ComLibrary().Find<decltype(&::CoInitializeEx)>("CoInitializeEx");
+    if (open != nullptr) {
+        apartment_ = open(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+    }
+}
+
 ShellManager::~ShellManager() {
     const auto close =
-        hasApartment_ ? ComLibrary().Find<decltype(&::CoUninitialize)>("CoUninitialize") : nullptr;
+        SUCCEEDED(apartment_) ? ComLibrary().Find<decltype(&::CoUninitialize)>("CoUninitialize") : nullptr;
     if (close != nullptr) {
         close();
     }
 }
 
-bool ShellManager::OpenApartment() {
-    if (!hasApartment_) {
-        const auto open = ComLibrary().Find<decltype(&::CoInitializeEx)>("CoInitializeEx");
-        hasApartment_ =
-            open != nullptr && SUCCEEDED(open(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE));
+PathChoice ShellManager::PickFolder(HWND owner) {
+    // An apartment that could not be opened shows in what follows: without one nothing can be created.
+    UniqueInterface<IFileOpenDialog> dialog;
+    if (const HRESULT result = CreateFileOpenDialog(dialog); FAILED(result)) {
+        return Failed("CoCreateInstance", result);
     }
-    return hasApartment_;
-}
-
-std::optional<std::wstring> ShellManager::PickFolder(HWND owner) {
-    if (!OpenApartment()) {
-        return std::nullopt;
+    if (const HRESULT result = AskForFolders(*dialog); FAILED(result)) {
+        return Failed("IFileDialog::SetOptions", result);
     }
     const ModalState others(owner);
-    const UniqueInterface<IFileOpenDialog> dialog = CreateFileOpenDialog();
-    FILEOPENDIALOGOPTIONS options = 0;
-    if (dialog == nullptr || FAILED(dialog->GetOptions(&options)) ||
-        FAILED(dialog->SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM | FOS_NOCHANGEDIR)) ||
-        FAILED(dialog->Show(owner))) {
-        return std::nullopt;
+    if (const HRESULT result = ShowDialog(*dialog, owner); FAILED(result)) {
+        return result == HRESULT_FROM_WIN32(ERROR_CANCELLED) ? PathChoice{}
+                                                             : Failed("IModalWindow::Show", result);
     }
-    IShellItem* found = nullptr;
-    if (FAILED(dialog->GetResult(&found))) {
-        return std::nullopt;
+    std::wstring path;
+    if (const HRESULT result = ChosenPath(*dialog, path); FAILED(result)) {
+        return Failed("IFileDialog::GetResult", result);
     }
-    const UniqueInterface<IShellItem> item(found);
-    PWSTR path = nullptr;
-    if (FAILED(item->GetDisplayName(SIGDN_FILESYSPATH, &path))) {
-        return std::nullopt;
-    }
-    const std::unique_ptr<wchar_t, TaskMemoryReleaser> owned(path);
-    return std::wstring(path);
+    return {std::move(path), {}};
 }
 
 }  // namespace toolkit

@@ -118,4 +118,13 @@ void ErrorReporter::AppendProviderErrorStack(ProviderContext session, std::wstri
     }
 }
 
+std::optional<std::wstring> PathOrReport(const toolkit::PathChoice& choice, ErrorReporter& reporter,
+                                         toolkit::WindowHandle owner) {
+    if (choice.failure) {
+        reporter.ReportError(owner, ProviderContext{}, kShowReport, choice.failure->code,
+                             choice.failure->operationFormat, nullptr, choice.failure->detail.c_str());
+    }
+    return choice.path;
+}
+
 }  // namespace corvane

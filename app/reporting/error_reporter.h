@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "app/reporting/system_messages.h"
 #include "certs/provider/provider_library.h"
 #include "toolkit/message_presenter.h"
+#include "toolkit/path_choice.h"
 #include "toolkit/system_text.h"
 #include "toolkit/window_handle.h"
 
@@ -55,5 +57,10 @@ class ErrorReporter {
 
 /// The status text of a code: "XSIG error 0x%X" for the provider's own codes, "Error 0x%X" for all others.
 [[nodiscard]] std::wstring FormatStatus(std::uint32_t code);
+
+/// The path that the user chose. None after a cancel, and after a failure, which is then reported under
+/// `owner`.
+[[nodiscard]] std::optional<std::wstring> PathOrReport(const toolkit::PathChoice& choice,
+                                                       ErrorReporter& reporter, toolkit::WindowHandle owner);
 
 }  // namespace corvane

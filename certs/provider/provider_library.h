@@ -10,7 +10,8 @@ namespace corvane {
 /// Why the provider library could not be bound.
 struct ProviderBindFailure {
     std::uint32_t code = 0;  ///< The system's error code; 0 when nothing failed.
-    std::string missing;     ///< The library's or the function's name.
+    /// The library's or the function's name, or what the library needs and cannot find.
+    std::string missing;
 };
 
 /// The crypto provider library as far as it is at hand.

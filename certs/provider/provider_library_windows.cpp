@@ -1,28 +1,45 @@
 #include "certs/provider/provider_library_windows.h"
 
+#include <windows.h>
+
+#include <array>
 #include <bit>
-#include <utility>
+#include <string>
+
+#include "toolkit/handles.h"
+#include "toolkit/library_search.h"
+#include "toolkit/quiet_drives.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr char kLibraryName[] = "tarn1.dll";
+constexpr wchar_t kLibraryFile[] = L"tarn1.dll";
 
-// Keeps the system from showing boxes of its own about a library that it cannot load: the program tells
-// of it in its own words. The calling thread's mode is put back afterwards.
-class QuietLoading {
-  public:
-    QuietLoading() { SetThreadErrorMode(GetThreadErrorMode() | SEM_FAILCRITICALERRORS, &former_); }
-    QuietLoading(const QuietLoading&) = delete;
-    QuietLoading& operator=(const QuietLoading&) = delete;
-    QuietLoading(QuietLoading&&) = delete;
-    QuietLoading& operator=(QuietLoading&&) = delete;
-    ~QuietLoading() { SetThreadErrorMode(former_, nullptr); }
+// The folders in which the system finds a library by its name, separated by semicolons.
+std::wstring SearchedFolders() {
+    // The longest path and the longest variable that the system has, in characters.
+    constexpr DWORD kLongest = 0x8000;
+    std::wstring program(kLongest, L'\0');
+    program.resize(GetModuleFileNameW(nullptr, program.data(), kLongest));
+    program.erase(program.find_last_of(L'\\') + 1);
+    std::array<wchar_t, MAX_PATH> windows{};
+    GetWindowsDirectoryW(windows.data(), static_cast<UINT>(windows.size()));
+    std::wstring searchPath(kLongest, L'\0');
+    searchPath.resize(GetEnvironmentVariableW(L"PATH", searchPath.data(), kLongest));
+    return program + L';' + toolkit::SystemFolder().data() + L';' + windows.data() + L';' + searchPath;
+}
 
-  private:
-    DWORD former_ = 0;
-};
+// What is missing when the library cannot be loaded: the system gives the same code for one that is not there
+// and for one that lacks what it needs itself.
+const char* MissingWithCode(DWORD code) {
+    const bool isAboutImports = code == ERROR_MOD_NOT_FOUND || code == ERROR_PROC_NOT_FOUND;
+    if (!isAboutImports ||
+        SearchPathW(SearchedFolders().c_str(), kLibraryFile, nullptr, 0, nullptr, nullptr) == 0) {
+        return "tarn1.dll";
+    }
+    return code == ERROR_MOD_NOT_FOUND ? "a library that tarn1.dll needs" : "a function that tarn1.dll needs";
+}
 
 // Looks functions up until one is missing; the first missing one is remembered.
 class FunctionFinder {
@@ -55,15 +72,15 @@ const ProviderFunctions* SystemProviderLibrary::Functions() {
     if (functions_) {
         return &*functions_;
     }
-    const QuietLoading quiet;
-    decltype(module_) module(LoadLibraryExA(
-        kLibraryName, nullptr, LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32));
+    const toolkit::QuietDrives quiet;
+    toolkit::UniqueModule module(LoadLibraryExW(kLibraryFile, nullptr, 0));
     if (!module) {
-        lastFailure_ = {GetLastError(), kLibraryName};
+        const DWORD code = GetLastError();
+        lastFailure_ = {code, MissingWithCode(code)};
         return nullptr;
     }
     ProviderFunctions functions{};
-    FunctionFinder finder(module.get());
+    FunctionFinder finder(module.Get());
     finder.Find("XSIG_Initialize", functions.initialize);
     finder.Find("XSIG_Uninitialize", functions.uninitialize);
     finder.Find("XSIG_Ctrl", functions.control);
@@ -76,7 +93,7 @@ const ProviderFunctions* SystemProviderLibrary::Functions() {
     if (lastFailure_.code != 0) {
         return nullptr;
     }
-    module_ = std::move(module);
+    static_cast<void>(module.Release());
     functions_ = functions;
     return &*functions_;
 }

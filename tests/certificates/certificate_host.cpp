@@ -19,6 +19,7 @@
 #include "tests/certificates/host_setup.h"
 #include "toolkit/file_calls_windows.h"
 #include "toolkit/input_gate_windows.h"
+#include "toolkit/library_search.h"
 #include "toolkit/message_presenter_windows.h"
 #include "toolkit/system_text_windows.h"
 
@@ -173,6 +174,7 @@ std::filesystem::path OwnFolder() {
 }  // namespace corvane
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int /*show*/) {
+    toolkit::LeaveCurrentFolderOutOfLibrarySearch();
     INITCOMMONCONTROLSEX classes{};
     classes.dwSize = sizeof classes;
     classes.dwICC = ICC_WIN95_CLASSES;

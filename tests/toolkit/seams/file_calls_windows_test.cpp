@@ -194,6 +194,21 @@ TEST(WindowsFileCalls, FilesAndFoldersExist) {
     EXPECT_EQ(files.CheckExists(folder.Path().wstring()), 0U);
 }
 
+TEST(WindowsFileCalls, AFolderOfMoreCharactersThanTheSystemTakesByItselfIsAsGoodAsAnother) {
+    const TemporaryFolder folder;
+    std::wstring path = folder.Path().wstring();
+    while (path.size() <= MAX_PATH) {
+        path += L"\\" + std::wstring(50, L'x');
+        ASSERT_NE(CreateDirectoryW((L"\\\\?\\" + path).c_str(), nullptr), FALSE) << GetLastError();
+    }
+    WindowsFileCalls files;
+    EXPECT_EQ(files.CheckExists(path), 0U);
+    EXPECT_EQ(files.CheckExists(path + L"\\"), 0U);
+    EXPECT_EQ(files.CheckExists(path + L"y"), static_cast<std::uint32_t>(ERROR_FILE_NOT_FOUND));
+    PutFile(path + L"/a.prx", "bytes");
+    EXPECT_EQ(BytesOf(path + L"\\\\a.prx"), "bytes");
+}
+
 TEST(WindowsFileCalls, WhatDoesNotExistIsToldWithTheSystemsCode) {
     const TemporaryFolder folder;
     WindowsFileCalls files;

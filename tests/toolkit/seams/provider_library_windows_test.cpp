@@ -7,6 +7,8 @@
 #include "certs/provider/provider_library_windows.h"
 #include "tests/toolkit/seams/own_folder.h"
 #include "tests/toolkit/seams/temporary_folder.h"
+#include "toolkit/kept_current_folder.h"
+#include "toolkit/library_search.h"
 
 namespace corvane {
 namespace {
@@ -18,20 +20,30 @@ constexpr const char* kFunctionNames[] = {"XSIG_Initialize",   "XSIG_Uninitializ
                                           "XSIG_FindCert",     "XSIG_FreeFindResult", "XSIG_FreeMem",
                                           "XSIG_GetErrorText", "XSIG_GetErrorLineEx"};
 
-// A provider library in a folder under its real name, taken away again at the end.
+constexpr wchar_t kLibraryFile[] = L"tarn1.dll";
+
+bool IsLoaded() {
+    return GetModuleHandleW(kLibraryFile) != nullptr;
+}
+
+// A provider library in a folder under its real name; in the end unloaded, which the program never does, and
+// taken away.
 class PlacedLibrary {
   public:
-    PlacedLibrary(const std::filesystem::path& folder, const std::string& missingFunction)
-        : path_(folder / "tarn1.dll") {
-        std::filesystem::copy_file(
-            OwnFolder().parent_path() / "providers" / ("without_" + missingFunction + ".dll"), path_,
-            std::filesystem::copy_options::overwrite_existing);
+    /// `kind` is "without_nothing" for a whole one, or the name of another file among the made ones.
+    PlacedLibrary(const std::filesystem::path& folder, const std::string& kind)
+        : path_(folder / kLibraryFile) {
+        std::filesystem::copy_file(OwnFolder() / "providers" / (kind + ".dll"), path_);
     }
     PlacedLibrary(const PlacedLibrary&) = delete;
     PlacedLibrary& operator=(const PlacedLibrary&) = delete;
     PlacedLibrary(PlacedLibrary&&) = delete;
     PlacedLibrary& operator=(PlacedLibrary&&) = delete;
     ~PlacedLibrary() {
+        for (HMODULE module = GetModuleHandleW(kLibraryFile); module != nullptr;
+             module = GetModuleHandleW(kLibraryFile)) {
+            FreeLibrary(module);
+        }
         std::error_code ignored;
         std::filesystem::remove(path_, ignored);
     }
@@ -40,32 +52,26 @@ class PlacedLibrary {
     std::filesystem::path path_;
 };
 
-class CurrentFolder {
-  public:
-    explicit CurrentFolder(const std::filesystem::path& path) : former_(std::filesystem::current_path()) {
-        std::filesystem::current_path(path);
-    }
-    CurrentFolder(const CurrentFolder&) = delete;
-    CurrentFolder& operator=(const CurrentFolder&) = delete;
-    CurrentFolder(CurrentFolder&&) = delete;
-    CurrentFolder& operator=(CurrentFolder&&) = delete;
-    ~CurrentFolder() {
-        std::error_code ignored;
-        std::filesystem::current_path(former_, ignored);
-    }
-
-  private:
-    std::filesystem::path former_;
-};
-
-bool IsLoaded() {
-    return GetModuleHandleW(L"tarn1.dll") != nullptr;
-}
-
+// A folder of each test's own is on the search path, so that tests that run at once do not meet. The current
+// folder is out of the search, as the program takes it out.
 class SystemProviderLibraryTest : public ::testing::Test {
   protected:
-    // A run that was ended in the middle may have left its library, which every test here would find.
-    void SetUp() override { std::filesystem::remove(OwnFolder() / "tarn1.dll"); }
+    SystemProviderLibraryTest() : formerPath_(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0') {
+        formerPath_.resize(
+            GetEnvironmentVariableW(L"PATH", formerPath_.data(), static_cast<DWORD>(formerPath_.size())));
+        SetEnvironmentVariableW(L"PATH", (formerPath_ + L";" + folder_.Path().wstring()).c_str());
+        toolkit::LeaveCurrentFolderOutOfLibrarySearch();
+    }
+    void TearDown() override {
+        SetDllDirectoryW(nullptr);
+        SetEnvironmentVariableW(L"PATH", formerPath_.c_str());
+    }
+
+    [[nodiscard]] const std::filesystem::path& FolderOnThePath() const { return folder_.Path(); }
+
+  private:
+    TemporaryFolder folder_;
+    std::wstring formerPath_;
 };
 
 TEST_F(SystemProviderLibraryTest, AMissingLibraryIsAFailureThatNamesIt) {
@@ -76,7 +82,7 @@ TEST_F(SystemProviderLibraryTest, AMissingLibraryIsAFailureThatNamesIt) {
 }
 
 TEST_F(SystemProviderLibraryTest, NothingIsLoadedBeforeTheFirstUse) {
-    const PlacedLibrary placed(OwnFolder(), "nothing");
+    const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     SystemProviderLibrary library;
     EXPECT_FALSE(IsLoaded());
     EXPECT_NE(library.Functions(), nullptr);
@@ -84,7 +90,7 @@ TEST_F(SystemProviderLibraryTest, NothingIsLoadedBeforeTheFirstUse) {
 }
 
 TEST_F(SystemProviderLibraryTest, EachNameIsBoundToItsOwnPlace) {
-    const PlacedLibrary placed(OwnFolder(), "nothing");
+    const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     SystemProviderLibrary library;
     const ProviderFunctions* functions = library.Functions();
     ASSERT_NE(functions, nullptr) << library.LastFailure().missing;
@@ -102,7 +108,7 @@ TEST_F(SystemProviderLibraryTest, EachNameIsBoundToItsOwnPlace) {
 
 TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnyFunctionIsNotBoundAndNotKept) {
     for (const char* missing : kFunctionNames) {
-        const PlacedLibrary placed(OwnFolder(), missing);
+        const PlacedLibrary placed(FolderOnThePath(), std::string("without_") + missing);
         SystemProviderLibrary library;
         EXPECT_EQ(library.Functions(), nullptr) << missing;
         EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_PROC_NOT_FOUND)) << missing;
@@ -114,56 +120,54 @@ TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnyFunctionIsNotBoundAndNotKe
 TEST_F(SystemProviderLibraryTest, ALibraryThatIsInstalledMeanwhileIsFoundByTheNextCall) {
     SystemProviderLibrary library;
     const ProviderFunctions* before = library.Functions();
-    const PlacedLibrary placed(OwnFolder(), "nothing");
+    const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     EXPECT_EQ(before, nullptr);
     EXPECT_NE(library.Functions(), nullptr);
     EXPECT_EQ(library.LastFailure().code, 0U);
-    // Released here, because the file goes before the object that was made first.
-    library = SystemProviderLibrary();
 }
 
 TEST_F(SystemProviderLibraryTest, ABoundLibraryStaysBound) {
-    const PlacedLibrary placed(OwnFolder(), "nothing");
+    const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     SystemProviderLibrary library;
     const ProviderFunctions* first = library.Functions();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(library.Functions(), first);
 }
 
-TEST_F(SystemProviderLibraryTest, TheLibraryGoesWithItsOwner) {
-    const PlacedLibrary placed(OwnFolder(), "nothing");
+// Contexts may still be open in it.
+TEST_F(SystemProviderLibraryTest, ABoundLibraryStaysLoadedWhenItsOwnerIsGone) {
+    const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     {
         SystemProviderLibrary library;
         ASSERT_NE(library.Functions(), nullptr);
     }
-    EXPECT_FALSE(IsLoaded());
+    EXPECT_TRUE(IsLoaded());
 }
 
 TEST_F(SystemProviderLibraryTest, ALibraryInTheCurrentFolderIsNeverTaken) {
     const TemporaryFolder folder;
-    const PlacedLibrary placed(folder.Path(), "nothing");
-    const CurrentFolder current(folder.Path());
+    const PlacedLibrary placed(folder.Path(), "without_nothing");
+    const toolkit::KeptCurrentFolder ofTheTests;
+    std::filesystem::current_path(folder.Path());
     SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_MOD_NOT_FOUND));
+    EXPECT_EQ(library.LastFailure().missing, "tarn1.dll");
     EXPECT_FALSE(IsLoaded());
 }
 
-TEST_F(SystemProviderLibraryTest, ALibraryInAFolderOfThePathIsNeverTaken) {
-    const TemporaryFolder folder;
-    const PlacedLibrary placed(folder.Path(), "nothing");
-    std::wstring former(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
-    former.resize(GetEnvironmentVariableW(L"PATH", former.data(), static_cast<DWORD>(former.size())));
-    SetEnvironmentVariableW(L"PATH", (folder.Path().wstring() + L";" + former).c_str());
+TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnotherOneIsNotCalledMissing) {
+    const PlacedLibrary placed(FolderOnThePath(), "with_needs");
     SystemProviderLibrary library;
-    const ProviderFunctions* functions = library.Functions();
-    SetEnvironmentVariableW(L"PATH", former.c_str());
-    EXPECT_EQ(functions, nullptr);
+    EXPECT_EQ(library.Functions(), nullptr);
+    EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_MOD_NOT_FOUND));
+    EXPECT_EQ(library.LastFailure().missing, "a library that tarn1.dll needs");
+    EXPECT_FALSE(IsLoaded());
 }
 
 TEST_F(SystemProviderLibraryTest, AFileThatIsNoLibraryIsAFailureWithTheSystemsCode) {
-    const PlacedLibrary placed(OwnFolder(), "nothing");
-    std::filesystem::resize_file(OwnFolder() / "tarn1.dll", 100);
+    const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
+    std::filesystem::resize_file(FolderOnThePath() / kLibraryFile, 100);
     SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_NE(library.LastFailure().code, 0U);

@@ -37,6 +37,23 @@ TEST(NamedMutex, ExistsAsLongAsTheObjectLives) {
     EXPECT_FALSE(NamedMutex::Exists(name));
 }
 
+TEST(NamedMutex, ExistsWhereItMayNotBeOpened) {
+    // Nobody may do anything with it, as nobody may with that of a copy that runs with more rights.
+    SECURITY_DESCRIPTOR security{};
+    ACL nobody{};
+    ASSERT_NE(InitializeSecurityDescriptor(&security, SECURITY_DESCRIPTOR_REVISION), FALSE);
+    ASSERT_NE(InitializeAcl(&nobody, sizeof nobody, ACL_REVISION), FALSE);
+    ASSERT_NE(SetSecurityDescriptorDacl(&security, TRUE, &nobody, FALSE), FALSE);
+    SECURITY_ATTRIBUTES attributes{sizeof attributes, &security, FALSE};
+    const std::wstring name = OwnName(L"denied");
+    const UniqueKernelHandle denied(CreateMutexW(&attributes, FALSE, name.c_str()));
+    ASSERT_TRUE(denied);
+    const UniqueKernelHandle mine(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()));
+    ASSERT_FALSE(mine);
+    ASSERT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
+    EXPECT_TRUE(NamedMutex::Exists(name));
+}
+
 TEST(NamedMutex, IsOwnedFromTheStartAndReleasedInTheEnd) {
     const std::wstring name = OwnName(L"owned");
     std::optional<NamedMutex> mutex(name);

@@ -24,11 +24,13 @@ TEST(LateLibrary, FindsAFunctionOfALibraryOfTheSystem) {
     const LateLibrary library(L"version.dll");
     EXPECT_NE(library.Find<TickFunction>("GetFileVersionInfoSizeW"), nullptr);
     EXPECT_EQ(library.Find<TickFunction>("NoSuchFunction"), nullptr);
+    EXPECT_EQ(library.FailureCode(), static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
 }
 
 TEST(LateLibrary, FindsNothingInALibraryThatIsMissing) {
     const LateLibrary library(L"no_such_library.dll");
     EXPECT_EQ(library.Find<TickFunction>("GetTickCount"), nullptr);
+    EXPECT_EQ(library.FailureCode(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
 }
 
 TEST(LateLibrary, StaysLoaded) {

@@ -1,0 +1,25 @@
+#include "toolkit/path_choice.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace toolkit {
+namespace {
+
+TEST(CommonDialogFailure, TheSystemsCodeSaysTheSameAsNearAsItCan) {
+    const std::pair<std::uint32_t, std::uint32_t> expected[] = {{0x0009, 8},    {0x000A, 8},   {0x3001, 8},
+                                                                {0x3002, 123},  {0x3003, 111}, {0xFFFF, 1359},
+                                                                {0x0002, 1359}, {0x0001, 1359}};
+    for (const auto& [commonDialogError, code] : expected) {
+        EXPECT_EQ(CommonDialogFailure(commonDialogError).code, code) << std::hex << commonDialogError;
+    }
+}
+
+TEST(CommonDialogFailure, TheDetailHasTheNumberOfTheCommonDialog) {
+    EXPECT_EQ(CommonDialogFailure(0x300A),
+              (DialogFailure{kShowFileDialogOperation, "common dialog error 0x300A", 1359}));
+}
+
+}  // namespace
+}  // namespace toolkit
