@@ -62,11 +62,13 @@ install_missing() {
         die "The packages could not be installed: ${missing[*]}"
 }
 
-# build PRESET [TARGET...]: configures and builds. What fails does not keep the rest from being built.
+# build PRESET [TARGET...]: configures, with configureOptions, and builds. What fails does not keep the rest from
+# being built.
+configureOptions=()
 build() {
     local preset=$1
     shift
     say "Building $preset"
-    cmake --preset "$preset" --log-level=WARNING &&
+    cmake --preset "$preset" "${configureOptions[@]}" --log-level=WARNING &&
         cmake --build --preset "$preset" ${1:+--target "$@"} -- -k 0
 }

@@ -44,6 +44,16 @@ TEST_F(ClosingTest, DoesNotFollowACancelledChoiceOfRecipients) {
     EXPECT_EQ(Out(), "contexts=1 results=0 texts=0 wrong=0");
 }
 
+// Contexts that were let go are open in it as long as it is loaded.
+TEST_F(ClosingTest, LeavesTheLibraryLoadedUntilTheProgramIsGone) {
+    StartHost();
+    OpenAndCancel();
+    Main().Post(WM_CLOSE);
+    EXPECT_EQ(Program().WaitForEnd(), 0U);
+    EXPECT_EQ(Calls("Initialize").size(), 1U);
+    EXPECT_TRUE(Calls("Unload").empty());
+}
+
 TEST_F(ClosingTest, FailsAndIsReportedAfterAConfirmedChoice) {
     setup.recipients = {L"CN=Anna,C=GB"};
     script.Status("Uninitialize", 1, 0xE0700050);

@@ -1,4 +1,8 @@
+#include <filesystem>
+
 #include "tests/certificates/session_test.h"
+#include "tests/windows/sample_configuration.h"
+#include "toolkit/kept_current_folder.h"
 
 namespace corvane {
 namespace {
@@ -167,10 +171,50 @@ TEST_F(OpeningTest, ReportsAMissingFunctionByItsName) {
         Main(), ReportText(L"Loading crypto provider library (XSIG_GetErrorLineEx)", ERROR_PROC_NOT_FOUND),
         kBoxReport, IDOK);
     EXPECT_EQ(Result(), HostCancelled(1));
-    EXPECT_TRUE(Calls().empty()) << "a library that is not whole was called";
+    EXPECT_EQ(Calls(), std::vector<std::string>{"Unload -> 0"}) << "not called, and let go";
     // It is not held on to: it can be replaced while the program runs.
     InstallLibrary(Library::kScriptable);
     EXPECT_EQ(Leave(OpenDialog(), IDCANCEL), HostCancelled(2));
+}
+
+/// The library, in a folder of its own beside that of the program.
+class ElsewhereTest : public OpeningTest {
+  protected:
+    ElsewhereTest() : folder_(std::filesystem::path(Folder()) / L"elsewhere") {
+        std::filesystem::create_directory(folder_);
+        InstallLibrary(Library::kScriptable);
+        for (const wchar_t* const file : {L"tarn1.dll", L"tarn1_script.txt"}) {
+            std::filesystem::rename(std::filesystem::path(Folder()) / file, folder_ / file);
+        }
+    }
+    [[nodiscard]] const std::filesystem::path& Elsewhere() const { return folder_; }
+
+  private:
+    std::filesystem::path folder_;
+};
+
+TEST_F(ElsewhereTest, IsFoundOnTheSearchPath) {
+    std::wstring former(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
+    former.resize(GetEnvironmentVariableW(L"PATH", former.data(), static_cast<DWORD>(former.size())));
+    SetEnvironmentVariableW(L"PATH", (former + L";" + Elsewhere().wstring()).c_str());
+    StartHost(Library::kNone);
+    SetEnvironmentVariableW(L"PATH", former.c_str());
+    EXPECT_EQ(Leave(OpenDialog(), IDCANCEL), HostCancelled(1));
+}
+
+TEST_F(ElsewhereTest, IsNeverTakenByTheEditorFromTheCurrentFolder) {
+    WriteCatalogue({L"CS one"});
+    WriteProfile(L"alpha", {L"CS one"});
+    {
+        const toolkit::KeptCurrentFolder ofTheTests;
+        std::filesystem::current_path(Elsewhere());
+        StartEditor(Library::kNone);
+    }
+    Main().Control(IDC_ADD_RULE_BUTTON).PostClick();
+    const Window editor = WaitForDialogOf(Main());
+    editor.Control(IDC_RULE_CERT_BUTTON).PostClick();
+    ExpectMessageBox(editor, ReportText(L"Loading crypto provider library (tarn1.dll)", ERROR_MOD_NOT_FOUND),
+                     kBoxReport, IDOK);
 }
 
 TEST_F(OpeningTest, ReportsToTheSignerListsDialog) {

@@ -124,5 +124,69 @@ TEST_F(RuleEditorPickers, SignerListsAreEditedWithoutTheProvidersLibraryUntilOne
     EXPECT_EQ(Rules().Cell(0, kExtraColumn), L"1");
 }
 
+/// A Windows without the library of the file dialogs and of the picker, for the editor alone. Only Wine can
+/// be told to leave one out.
+class MissingDialogs : public RuleEditorPickers {
+  protected:
+    MissingDialogs() {
+        RegSetKeyValueW(HKEY_CURRENT_USER, kOverrides, L"comdlg32", REG_SZ, L"", sizeof(wchar_t));
+    }
+    void TearDown() override {
+        RegDeleteTreeW(HKEY_CURRENT_USER, kProgram);
+        RuleEditorPickers::TearDown();
+    }
+
+    void ExpectReport(const Window& owner, const std::wstring& what, unsigned code) const {
+        const driver::MessageBoxWindow report = Editor().WaitForMessageBox(owner);
+        EXPECT_EQ(report.View(), driver::MessageBoxOfStyle(ReportText(L"Showing " + what, code),
+                                                           L"QENT AC Velmaris - configuration", kReport));
+        report.Answer(IDOK);
+        owner.WaitUntilEnabled();
+    }
+
+    static constexpr wchar_t kFolderPicker[] = L"folder picker (CoCreateInstance)";
+    /// What Wine says of a class whose library cannot be loaded.
+    static constexpr unsigned kPickersCode = ERROR_ACCESS_DENIED;
+    static constexpr wchar_t kFileDialog[] = L"file dialog (comdlg32.dll)";
+
+  private:
+    static constexpr wchar_t kProgram[] = L"Software\\Wine\\AppDefaults\\corvane.exe";
+    static constexpr wchar_t kOverrides[] = L"Software\\Wine\\AppDefaults\\corvane.exe\\DllOverrides";
+};
+
+TEST_F(MissingDialogs, AreReportedByTheRuleEditorAndChangeNothing) {
+    const Window dialog = StartAndOpen(FullRule(L"MOVE"));
+    for (const int button :
+         {IDC_RULE_INPUT_BUTTON, IDC_RULE_OUTPUT_BUTTON, IDC_RULE_ERROR_BUTTON, IDC_RULE_CERT_BUTTON}) {
+        const Texts before = ShownFields(dialog);
+        dialog.Control(button).PostClick();
+        ExpectReport(dialog, kFolderPicker, kPickersCode);
+        WaitForEditor(dialog);
+        EXPECT_EQ(ShownFields(dialog), before);
+    }
+    SelectOperation(dialog, L"EXEC");
+    dialog.Control(IDC_RULE_CERT_BUTTON).PostClick();
+    ExpectReport(dialog, kFileDialog, ERROR_MOD_NOT_FOUND);
+    Close(dialog, IDCANCEL);
+    ExpectNothingToSave();
+}
+
+TEST_F(MissingDialogs, AreReportedByTheMainWindowAndTheLogSettings) {
+    StartWithRules({FullRule(L"MOVE")});
+    for (const int button : {IDC_EXPORT_RULES_BUTTON, IDC_IMPORT_RULES_BUTTON}) {
+        Control(button).PostClick();
+        ExpectReport(Main(), kFileDialog, ERROR_MOD_NOT_FOUND);
+        WaitForMain();
+    }
+    Control(IDC_LOG_PATH_BUTTON).PostClick();
+    const Window settings = Editor().WaitForDialog(Main());
+    settings.Control(IDC_LOG_FOLDER_BUTTON).PostClick();
+    ExpectReport(settings, kFolderPicker, kPickersCode);
+    settings.Control(IDCANCEL).PostClick();
+    settings.WaitUntilGone();
+    WaitForMain();
+    ExpectNothingToSave();
+}
+
 }  // namespace
 }  // namespace corvane

@@ -168,6 +168,23 @@ TEST_F(SecondStart, ShowsOneMessageBoxAndLeavesTheFirstCopyAlone) {
     ExpectNothingToSave();
 }
 
+TEST_F(SecondStart, SeesAFirstCopyThatRunsWithMoreRights) {
+    // Nobody may open the mutex of such a copy.
+    SECURITY_DESCRIPTOR security{};
+    ACL nobody{};
+    InitializeSecurityDescriptor(&security, SECURITY_DESCRIPTOR_REVISION);
+    InitializeAcl(&nobody, sizeof nobody, ACL_REVISION);
+    SetSecurityDescriptorDacl(&security, TRUE, &nobody, FALSE);
+    SECURITY_ATTRIBUTES attributes{sizeof attributes, &security, FALSE};
+    const driver::UniqueHandle mutex(CreateMutexW(&attributes, TRUE, L"QENT AC Velmaris - configuration"));
+    driver::Program second(EditorPath());
+    const driver::MessageBoxWindow box = second.WaitForMessageBox(driver::Window());
+    EXPECT_EQ(box.View(), driver::MessageBoxOfStyle(L"QENT AC Velmaris - configuration allready started",
+                                                    L"QENT AC Velmaris - configuration", kRefusal));
+    box.Answer(IDOK);
+    EXPECT_EQ(second.WaitForEnd(), 0U);
+}
+
 TEST_F(SecondStart, WorksAfterTheFirstCopyWasClosedByEitherButton) {
     StartWithSample();
     ExpectNothingToSave();

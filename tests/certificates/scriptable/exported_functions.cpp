@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "standin/exported_functions.h"
+#include "tests/certificates/scriptable/call_log.h"
 #include "tests/certificates/scriptable/scriptable_library.h"
 
 namespace scriptable {
@@ -81,4 +82,12 @@ std::uint32_t XSIG_GetErrorLineEx(corvane::ProviderContext context, corvane::Xsi
                                   corvane::XsigBlob* file, std::uint32_t* line, corvane::XsigBlob* data) {
     return Serve(
         [&](ScriptableLibrary& library) { return library.GetErrorLine(context, text, file, line, data); });
+}
+
+/// Being unloaded while the program goes on stands in the log as a call; ending with the program does not.
+BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD reason, void* isProgramEnding) {
+    if (reason == DLL_PROCESS_DETACH && isProgramEnding == nullptr) {
+        scriptable::CallLog(scriptable::OwnFolder() / "tarn1_log.txt").Write("Unload -> 0 | unloaded");
+    }
+    return TRUE;
 }

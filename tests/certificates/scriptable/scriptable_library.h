@@ -19,6 +19,8 @@ namespace scriptable {
 ///     FindCert context=1 flags=E04 mode=0 pattern="CN=QQQ,C=RU" fields=4 rest=zero -> 0 | contexts=1
 ///     results=1 texts=0 wrong=0
 ///
+/// "Unload" stands there when the library is unloaded before the program ends.
+///
 /// Contexts are named by their number, from 1. "wrong" counts the calls with a context that is not open, or
 /// memory that is not out.
 class ScriptableLibrary {
