@@ -67,7 +67,8 @@ TEST(LongPathForm, APathThatIsNotAbsoluteStays) {
 
 TEST(LongPathForm, APathWithAPrefixStays) {
     const std::wstring tail = Grown(L"", kFirstLong, L'/');
-    for (const wchar_t* const start : {L"\\\\?\\C:", L"\\\\?\\UNC\\server\\share", L"\\\\.\\C:", L"\\\\\\a"}) {
+    for (const wchar_t* const start :
+         {L"\\\\?\\C:", L"\\\\?\\UNC\\server\\share", L"\\\\.\\C:", L"\\\\\\a"}) {
         EXPECT_EQ(LongPathForm(start + tail), start + tail);
     }
 }

@@ -1,5 +1,5 @@
 #include "tests/toolkit/seams/needed_function.h"
 
-extern "C" __declspec(dllexport) int NeededFunction() {
+extern "C" int NeededFunction() {
     return 1;
 }
