@@ -1,6 +1,10 @@
 #include "tests/driver/program.h"
 
 #include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
 
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
@@ -21,73 +25,98 @@ std::wstring WindowsPath(std::wstring path) {
     return path;
 }
 
-/// Under Wine one start in some thousands ends as an internal error, before anything of the program has run;
-/// the next one goes well.
-bool StartProcess(const std::wstring& file, PROCESS_INFORMATION& process) {
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        std::wstring commandLine = L"\"" + file + L"\"";
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
-        if (CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                           &start, &process)) {
-            return true;
-        }
-        if (GetLastError() != ERROR_INTERNAL_ERROR) {
-            return false;
+/// What a user who wants to be rid of a window does about it: a question about unsaved changes is answered
+/// with Yes, any other box is refused, and everything else has a close box.
+void Dismiss(const Window& window, bool isLeaving) {
+    if (MessageBoxWindow::Is(window)) {
+        const std::array<int, 4> answers =
+            isLeaving ? std::array{IDYES, IDOK, IDCANCEL, IDNO} : std::array{IDCANCEL, IDNO, IDOK, IDYES};
+        for (const int answer : answers) {
+            if (window.HasControl(answer)) {
+                PostMessageW(GetDlgItem(window.Handle(), answer), BM_CLICK, 0, 0);
+                return;
+            }
         }
     }
-    return false;
+    PostMessageW(window.Handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
 }  // namespace
 
-Program::Program(const std::wstring& path) {
-    const std::wstring file = WindowsPath(path);
-    PROCESS_INFORMATION process{};
-    if (!StartProcess(file, process)) {
-        throw Failure(L"The program could not be started (system code " + std::to_wstring(GetLastError()) +
-                      L"): " + file);
-    }
-    CloseHandle(process.hThread);
-    process_.reset(process.hProcess);
-    processId_ = process.dwProcessId;
-}
+Program::Program(const std::wstring& path) : process_(WindowsPath(path)) {}
 
 Program::~Program() {
+    Leave();
     if (IsRunning()) {
-        TerminateProcess(process_.get(), 1);
-        WaitForSingleObject(process_.get(), kLimitMilliseconds);
+        ADD_FAILURE() << "the program could not be left; its windows are:" << Utf8(OpenWindows());
+        process_.End();
+    } else if (process_.ExitCode() != expectedExitCode_) {
+        ADD_FAILURE() << Utf8(HowItEnded());
+    }
+    for (const std::wstring& crash : process_.Crashes()) {
+        ADD_FAILURE() << "the program crashed: " << Utf8(crash);
     }
 }
 
-bool Program::IsRunning() const {
-    return WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT;
+void Program::Leave() const {
+    // How long a window may take to close before the one below it is tried: the wait window cannot be closed.
+    constexpr ULONGLONG kPatienceMilliseconds = 1000;
+    bool isLeaving = false;
+    std::vector<Window> tried;
+    ULONGLONG lastTry = 0;
+    static_cast<void>(WaitUntil([&] {
+        const ULONGLONG now = GetTickCount64();
+        const std::vector<Window> windows = EnabledWindows();
+        if (now - lastTry > kPatienceMilliseconds && tried.size() >= windows.size()) {
+            tried.clear();
+        }
+        for (const Window& window : windows) {
+            if (std::find(tried.begin(), tried.end(), window) == tried.end()) {
+                isLeaving = isLeaving || (window.Owner() == Window() && !MessageBoxWindow::Is(window));
+                Dismiss(window, isLeaving);
+                tried.push_back(window);
+                lastTry = now;
+                break;
+            }
+            if (now - lastTry <= kPatienceMilliseconds) {
+                break;
+            }
+        }
+        return !IsRunning();
+    }));
+}
+
+std::vector<Window> Program::EnabledWindows() const {
+    std::vector<Window> windows = TopLevelWindows();
+    std::erase_if(windows, [](const Window& window) { return !window.IsEnabled(); });
+    return windows;
 }
 
 std::wstring Program::HowItEnded() const {
-    DWORD code = 0;
-    GetExitCodeProcess(process_.get(), &code);
-    return L"the program has ended with code " + std::to_wstring(code) + L".";
+    return L"the program has ended with code " + std::to_wstring(process_.ExitCode()) + L".";
+}
+
+std::wstring Program::OpenWindows() const {
+    std::wstring names;
+    for (const Window& window : TopLevelWindows()) {
+        names += L" " + window.Name();
+    }
+    return names;
 }
 
 DWORD Program::WaitForEnd() const {
-    if (WaitForSingleObject(process_.get(), kLimitMilliseconds) != WAIT_OBJECT_0) {
-        std::wstring open;
-        for (const Window& window : TopLevelWindows()) {
-            open += L" " + window.Name();
-        }
-        throw Failure(L"The program was expected to end, and still runs; its windows are:" + open + L".");
+    if (!process_.HasEndedWithin(kLimitMilliseconds)) {
+        throw Failure(L"The program was expected to end, and still runs; its windows are:" + OpenWindows() +
+                      L".");
     }
-    DWORD code = 0;
-    GetExitCodeProcess(process_.get(), &code);
-    return code;
+    return process_.ExitCode();
 }
 
 std::vector<Window> Program::TopLevelWindows() const {
     struct Search {
         DWORD processId;
         std::vector<Window> found;
-    } search{processId_, {}};
+    } search{process_.Id(), {}};
     EnumWindows(
         [](HWND candidate, LPARAM parameter) -> BOOL {
             auto& wanted = *reinterpret_cast<Search*>(parameter);

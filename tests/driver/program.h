@@ -1,21 +1,17 @@
 #pragma once
 
-#include <memory>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "tests/driver/message_box.h"
+#include "tests/driver/watched_process.h"
 #include "tests/driver/window.h"
 
 namespace driver {
 
-struct HandleCloser {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using UniqueHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleCloser>;
-
-/// A running program. It is ended with this object if it still runs then.
+/// A running program. Where it still runs when this object goes, it is left as its user would leave it. A
+/// program that cannot be left, that crashes or that ends with another exit code than the expected one fails
+/// the test that started it.
 class Program {
   public:
     /// Starts the program file `path` (a path of the building machine will do). Throws Failure.
@@ -24,7 +20,9 @@ class Program {
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    [[nodiscard]] bool IsRunning() const;
+    /// 0 unless told.
+    void ExpectExitCode(DWORD code) { expectedExitCode_ = code; }
+    [[nodiscard]] bool IsRunning() const { return process_.IsRunning(); }
     /// Waits for the end and gives the exit code.
     DWORD WaitForEnd() const;
 
@@ -43,10 +41,15 @@ class Program {
   private:
     /// For failure messages: that the program has ended, and with which code.
     [[nodiscard]] std::wstring HowItEnded() const;
+    /// For failure messages: the names of the windows that are open.
+    [[nodiscard]] std::wstring OpenWindows() const;
     [[nodiscard]] Window FindWindowOf(const Window& owner) const;
+    [[nodiscard]] std::vector<Window> EnabledWindows() const;
+    /// Closes one window after the other, from the top, and answers what the program asks on the way.
+    void Leave() const;
 
-    UniqueHandle process_;
-    DWORD processId_ = 0;
+    WatchedProcess process_;
+    DWORD expectedExitCode_ = 0;
 };
 
 }  // namespace driver

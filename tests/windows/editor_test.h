@@ -41,7 +41,7 @@ class EditorTest : public ::testing::Test {
     void Start();
     /// Writes the sample configuration, then starts.
     void StartWithSample();
-    /// Ends the program without a word, then starts it again on what it has stored.
+    /// Leaves the program where it still runs, throws away what it has not saved, and starts it again.
     void StartAgain();
 
     [[nodiscard]] const driver::Program& Editor() const { return *editor_; }

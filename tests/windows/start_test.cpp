@@ -231,6 +231,7 @@ TEST_F(FirstStart, WritesTheDefaultProfile) {
 TEST_F(FirstStart, WithoutAnyCsProfileEndsWithOneMessageBox) {
     WriteCatalogue({});
     driver::Program editor(EditorPath());
+    editor.ExpectExitCode(1);
     const driver::Window window = editor.WaitForWindow(driver::Window());
     ASSERT_TRUE(driver::MessageBoxWindow::Is(window)) << driver::Utf8(window.Name());
     const driver::MessageBoxWindow box(window);
