@@ -60,6 +60,9 @@ function(corvane_test)
       list(APPEND environment CORVANE_CODE_PAGE=${CMAKE_MATCH_1})
     endif()
     add_test(NAME ${entry} COMMAND ${TEST_NAME})
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+      set_tests_properties(${entry} PROPERTIES FIXTURES_REQUIRED world)
+    endif()
     set_tests_properties(${entry} PROPERTIES
       LABELS "${TEST_LABEL}"
       ENVIRONMENT "${environment}"
