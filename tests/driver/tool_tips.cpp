@@ -4,6 +4,7 @@
 
 #include "tests/driver/failure.h"
 #include "tests/driver/remote_block.h"
+#include "tests/driver/waiting.h"
 
 namespace driver {
 namespace {
@@ -34,6 +35,44 @@ HWND FindToolTip(const Window& dialog) {
     return search.found;
 }
 
+/// The tool whose tip a tooltip control shows.
+struct ShownTool {
+    Window control;
+    std::wstring text;
+};
+
+ShownTool CurrentTool(const Window& toolTip) {
+    RemoteBlock block(toolTip.Handle(), sizeof(TTTOOLINFOW) + kToolTipRoomChars * sizeof(wchar_t));
+    TTTOOLINFOW tool{};
+    tool.cbSize = sizeof tool;
+    tool.lpszText = static_cast<wchar_t*>(block.Address(sizeof tool));
+    block.Put(tool);
+    if (!toolTip.Send(TTM_GETCURRENTTOOLW, 0, block.Parameter())) {
+        return {};
+    }
+    const auto window = reinterpret_cast<HWND>(block.Get<TTTOOLINFOW>().uId);
+    return {Window(window), block.Text(sizeof tool, kToolTipRoomChars)};
+}
+
+/// Begins in the control or right below it, where the pointer does not hide it.
+bool IsRightAt(const Window& control, const Window& tip) {
+    RECT around = control.Bounds();
+    InflateRect(&around, GetSystemMetrics(SM_CXCURSOR), GetSystemMetrics(SM_CYCURSOR));
+    const RECT bounds = tip.Bounds();
+    return PtInRect(&around, {bounds.left, bounds.top}) != FALSE;
+}
+
+/// The pointer rests on a point of the screen while this object is there; then it goes where nothing is.
+class RestingMouse {
+  public:
+    explicit RestingMouse(POINT place) { SetCursorPos(place.x, place.y); }
+    ~RestingMouse() { SetCursorPos(0, 0); }
+    RestingMouse(const RestingMouse&) = delete;
+    RestingMouse& operator=(const RestingMouse&) = delete;
+    RestingMouse(RestingMouse&&) = delete;
+    RestingMouse& operator=(RestingMouse&&) = delete;
+};
+
 }  // namespace
 
 std::map<int, std::wstring> ToolTipTexts(const Window& dialog) {
@@ -60,6 +99,24 @@ std::map<int, std::wstring> ToolTipTexts(const Window& dialog) {
         texts[id] = block.Text(sizeof tool, kToolTipRoomChars);
     }
     return texts;
+}
+
+std::wstring ToolTipUnderTheMouse(const Window& dialog, const Window& control) {
+    const Window toolTip(FindToolTip(dialog));
+    const RECT bounds = control.Bounds();
+    const RestingMouse mouse({(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2});
+    ShownTool shown;
+    if (!WaitUntil([&] {
+            shown = toolTip.IsVisible() ? CurrentTool(toolTip) : ShownTool{};
+            return shown.control == control;
+        })) {
+        throw Failure(L"A tip was expected at " + control.Name() + L" when the mouse rests there" +
+                      (shown.text.empty() ? L", and none came." : L"; it is \"" + shown.text + L"\"."));
+    }
+    if (!IsRightAt(control, toolTip)) {
+        throw Failure(L"The tip of " + control.Name() + L" was expected at it, and is elsewhere.");
+    }
+    return shown.text;
 }
 
 }  // namespace driver
