@@ -1,6 +1,7 @@
 #include "tests/audit/dialog_audit.h"
 
 #include <commctrl.h>
+#include <oleacc.h>
 
 #include <algorithm>
 #include <iterator>
@@ -10,6 +11,7 @@
 
 #include "res/ids.h"
 #include "tests/audit/picture.h"
+#include "tests/driver/accessible.h"
 #include "tests/driver/icon.h"
 #include "tests/driver/list_view.h"
 #include "tests/driver/message_box.h"
@@ -166,6 +168,21 @@ void CheckColour(const std::wstring& place, POINT point, int expected, Faults& f
     }
 }
 
+/// As a screen reader says a text: without the mark of its access key.
+std::wstring Spoken(std::wstring text) {
+    std::erase(text, L'&');
+    return text;
+}
+
+/// The states that can be seen from outside in another way too.
+LONG VisibleState(const Window& control) {
+    LONG state = control.IsEnabled() ? 0 : STATE_SYSTEM_UNAVAILABLE;
+    if (KindOf(control) == Kind::kEdit && IsReadOnly(control)) {
+        state |= STATE_SYSTEM_READONLY;
+    }
+    return control.HasFocus() ? state | STATE_SYSTEM_FOCUSED : state;
+}
+
 /// A point of the upper left corner, where no control lies and the dialog shows its own background.
 POINT BackgroundPoint(const Window& dialog) {
     const RECT client = dialog.ClientBounds();
@@ -288,6 +305,35 @@ Faults NamelessControls(const Window& dialog) {
     return faults;
 }
 
+Faults MisreadControls(const Window& dialog) {
+    constexpr LONG kLookedAt = STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_READONLY | STATE_SYSTEM_FOCUSED;
+    Faults faults;
+    std::wstring label;
+    for (const Window& control : dialog.Children()) {
+        const Kind kind = KindOf(control);
+        if (kind == Kind::kLabel) {
+            label = control.Text();
+        }
+        const bool isField = kind == Kind::kEdit && !IsReadOnly(control);
+        const bool hasOwnName = kind == Kind::kPushButton || kind == Kind::kIconButton ||
+                                kind == Kind::kCheckBox || kind == Kind::kGroupBox || kind == Kind::kList;
+        if (!control.IsVisible() || (!isField && !hasOwnName)) {
+            continue;
+        }
+        const driver::AccessibleView heard = driver::AccessibleOf(control);
+        const std::wstring name = Spoken(isField ? label : control.Text());
+        if (heard.name != name) {
+            faults.push_back(control.Name() + L" is read out as \"" + heard.name + L"\" instead of \"" +
+                             name + L"\".");
+        }
+        if ((heard.state & kLookedAt) != VisibleState(control)) {
+            faults.push_back(control.Name() + L" is described by the states " + std::to_wstring(heard.state) +
+                             L" instead of " + std::to_wstring(VisibleState(control)) + L".");
+        }
+    }
+    return faults;
+}
+
 Faults UnreadableTabOrder(const Window& dialog) {
     Faults faults;
     std::optional<Window> before;
@@ -376,8 +422,8 @@ Faults AllFaults(const Window& dialog) {
         return CutOffTexts(dialog);
     }
     Faults all;
-    for (const auto& check : {CutOffTexts, MisplacedControls, NamelessControls, UnreadableTabOrder,
-                              DefaultButtonFaults, ForeignColours, WrongIconSizes}) {
+    for (const auto& check : {CutOffTexts, MisplacedControls, NamelessControls, MisreadControls,
+                              UnreadableTabOrder, DefaultButtonFaults, ForeignColours, WrongIconSizes}) {
         const Faults faults = check(dialog);
         all.insert(all.end(), faults.begin(), faults.end());
     }

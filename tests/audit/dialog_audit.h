@@ -18,6 +18,9 @@ using Faults = std::vector<std::wstring>;
 /// Controls that a screen reader could not name: a button or a list without a text of its own, a field to
 /// write in without a label right before it.
 [[nodiscard]] Faults NamelessControls(const driver::Window& dialog);
+/// Buttons, lists and fields to write in that the platform's accessibility interface names or describes in
+/// another way than the dialog shows them.
+[[nodiscard]] Faults MisreadControls(const driver::Window& dialog);
 /// Steps of the Tab key that go against the order of reading: rows from top to bottom, in a row from left to
 /// right, groups beside each other one after the other.
 [[nodiscard]] Faults UnreadableTabOrder(const driver::Window& dialog);
