@@ -21,10 +21,9 @@ void SignerListView::Attach(HWND control) {
 void SignerListView::LayOutColumns(UINT dotsPerInch) const {
     // The name takes a third. Room for the scroll bar is left from the beginning, so that nothing moves when
     // it comes.
-    RECT window = {};
-    GetWindowRect(list_.Window(), &window);
-    const int width = window.right - window.left - 2 * toolkit::SystemMetric(SM_CXBORDER, dotsPerInch) -
-                      toolkit::SystemMetric(SM_CXVSCROLL, dotsPerInch);
+    const bool hasScrollBar = (GetWindowLongPtrW(list_.Window(), GWL_STYLE) & WS_VSCROLL) != 0;
+    const int scrollBarWidth = toolkit::SystemMetric(SM_CXVSCROLL, dotsPerInch);
+    const int width = list_.ClientWidth() - (hasScrollBar ? 0 : scrollBarWidth);
     list_.SetColumnWidth(kNameColumn, width / 3);
     list_.SetColumnWidth(kSignersColumn, width - width / 3);
 }

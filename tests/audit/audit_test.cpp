@@ -41,12 +41,24 @@ TEST_F(Audit, MainWindowWithoutAnOpenProfile) {
 
 TEST_F(Audit, MainWindowAtItsSmallestSize) {
     StartWithSample();
-    const POINT smallest = Main().SmallestTrackingSize();
-    SetWindowPos(Main().Handle(), nullptr, 0, 0, smallest.x, smallest.y,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(Main().Handle(), nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     Settle();
-    // The movements of the controls are laid down, and so is this size; only the picture is kept.
+    // The movements of the controls are laid down, and so is this size; the sizes of lists and fields that
+    // come of it are the user's choice.
     audit::KeepPicture(Main(), "main_window_smallest");
+    const RECT bounds = Main().Bounds();
+    const RECT button = Control(IDOK).Bounds();
+    EXPECT_EQ(bounds.right - bounds.left,
+              11 * (button.right - button.left) + 2 * GetSystemMetrics(SM_CXVSCROLL));
+    EXPECT_EQ(bounds.bottom - bounds.top,
+              2 * (GetSystemMetrics(SM_CYVSCROLL) + 5 * (button.bottom - button.top)));
+    const RECT client = Main().ClientBounds();
+    for (const int id : {IDC_SAVE_BUTTON, IDOK, IDCANCEL}) {
+        const RECT place = Control(id).Bounds();
+        RECT shown{};
+        IntersectRect(&shown, &client, &place);
+        EXPECT_TRUE(EqualRect(&shown, &place)) << "button " << id << " reaches out of the window";
+    }
 }
 
 TEST_F(Audit, AboutBox) {

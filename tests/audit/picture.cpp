@@ -153,6 +153,14 @@ bool IsPictureScale() {
     return dpi == 96 || dpi == 144 || dpi == 192;
 }
 
+std::ptrdiff_t CountPoints(const RECT& place, COLORREF colour) {
+    const std::vector<DWORD> pixels = ScreenCopy(place).Pixels();
+    constexpr DWORD kColours = 0xFFFFFF;
+    const DWORD wanted = RGB(GetBValue(colour), GetGValue(colour), GetRValue(colour));
+    return std::count_if(pixels.begin(), pixels.end(),
+                         [&](DWORD pixel) { return (pixel & kColours) == wanted; });
+}
+
 void KeepPicture(const driver::Window& window, const std::string& name) {
     RedrawWindow(window.Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);

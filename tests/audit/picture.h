@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "tests/driver/window.h"
@@ -20,6 +21,9 @@ void KeepPictureAsPainted(const driver::Window& window, const std::string& name)
 
 /// Whether pictures are kept of the scale that the screen has: those of a few show what there is to see.
 [[nodiscard]] bool IsPictureScale();
+
+/// How many points of a rectangle of the screen have this colour.
+[[nodiscard]] std::ptrdiff_t CountPoints(const RECT& place, COLORREF colour);
 
 /// Dots per inch of the screen.
 [[nodiscard]] int ScreenDpi();

@@ -2,11 +2,15 @@
 #include "tests/audit/picture.h"
 #include "tests/certificates/held_call.h"
 #include "tests/certificates/session_test.h"
+#include "tests/driver/waiting.h"
 
 namespace corvane {
 namespace {
 
 using driver::Window;
+
+/// Far fewer than those of a short text in the smallest letters, and more than a frame could lend.
+constexpr std::ptrdiff_t kPointsOfAText = 100;
 
 class SignerListsAudit : public SessionTest {
   protected:
@@ -96,7 +100,14 @@ TEST_F(SignerListsAudit, WaitWindowWhileTheLibraryIsAtWork) {
     const HeldCall held(script, "Initialize", 1);
     StartHost();
     PressOpen();
-    audit::KeepPictureAsPainted(WaitForWaitWindow(Program()), "wait_window_at_work");
+    const Window window = WaitForWaitWindow(Program());
+    const RECT text = window.Control(IDC_WAIT_TEXT).Bounds();
+    // The display shows what the program has painted in its own time; the program itself is held.
+    EXPECT_TRUE(driver::WaitUntil([&] {
+        return audit::CountPoints(text, GetSysColor(COLOR_WINDOWTEXT)) > kPointsOfAText;
+    })) << "the text is not on the screen";
+    EXPECT_GT(audit::CountPoints(text, GetSysColor(COLOR_BTNFACE)), kPointsOfAText);
+    audit::KeepPictureAsPainted(window, "wait_window_at_work");
 }
 
 TEST_F(SignerListsAudit, FailedOpening) {

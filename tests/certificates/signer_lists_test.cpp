@@ -333,9 +333,21 @@ TEST_F(SignerListsTest, GrowsButNeverBelowItsFirstSize) {
 
 TEST_F(SignerListsTest, FillsItsColumnsIntoTheList) {
     Open();
-    const int width = List().ColumnWidth(0) + List().ColumnWidth(1);
-    EXPECT_LE(width, List().ClientSize().cx);
-    EXPECT_GT(width, List().ClientSize().cx - 40);
+    // Room for the scroll bar is left from the beginning, so that nothing moves when it comes.
+    const int width = List().ClientSize().cx - GetSystemMetrics(SM_CXVSCROLL);
+    EXPECT_EQ(List().ColumnWidth(0), width / 3);
+    EXPECT_EQ(List().ColumnWidth(0) + List().ColumnWidth(1), width);
+}
+
+TEST_F(SignerListsTest, FillsItsColumnsIntoTheListBesideAScrollBar) {
+    setup.lists.clear();
+    for (int i = 0; i < 60; ++i) {
+        setup.lists.push_back({L"list " + std::to_wstring(i), {L"CN=Ann,C=GB"}});
+    }
+    Open();
+    EXPECT_NE(List().Style() & WS_VSCROLL, 0U);
+    EXPECT_EQ(List().Style() & WS_HSCROLL, 0U) << "a needless scroll bar below";
+    EXPECT_EQ(List().ColumnWidth(0) + List().ColumnWidth(1), List().ClientSize().cx);
 }
 
 TEST_F(SignerListsTest, ShowsAListOfThousandsOfSigners) {
