@@ -16,6 +16,7 @@
 #include "certs/owner_list_view.h"
 #include "certs/recipient_selection_form.h"
 #include "toolkit/format_text.h"
+#include "toolkit/input_gate_windows.h"
 #include "toolkit/message_presenter_windows.h"
 #include "toolkit/system_text_windows.h"
 
@@ -195,7 +196,8 @@ class SelectionBench {
     toolkit::WindowsSystemText text_;
     corvane::WindowsSystemMessages systemMessages_;
     corvane::ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
-    corvane::Cryptocontext context_{*provider_.Functions(), 0, reporter_, nullptr};
+    toolkit::WindowsInputGate input_;
+    corvane::Cryptocontext context_{*provider_.Functions(), 0, reporter_, nullptr, input_};
 };
 
 }  // namespace

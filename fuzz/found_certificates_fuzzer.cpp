@@ -13,6 +13,7 @@
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 #include "fuzz/silent_reporting.h"
+#include "tests/support/recording_input_gate.h"
 
 // An input lays down what the library answers to a search (entries without texts, empty texts, odd bytes, a
 // count without entries, entries without a count, a status that says that there is nothing) and to the
@@ -227,7 +228,8 @@ void CheckSearches(std::string_view bytes, const toolkit::SystemText& systemText
     fuzz::SilentPresenter presenter;
     const fuzz::NoMessages messages;
     ErrorReporter reporter(presenter, messages, provider, systemText);
-    const Cryptocontext context(*provider.Functions(), kContext, reporter, nullptr);
+    testing::RecordingInputGate gate;
+    const Cryptocontext context(*provider.Functions(), kContext, reporter, nullptr, gate);
     Input input(bytes);
     LayDown(input);
     const std::uint32_t status = Library().status;

@@ -72,17 +72,17 @@ class Session {
 
     std::optional<corvane::TextList> Run() {
         const CertServices services{sessions, reports.reporter, warnings, registry, clock, input, opening};
-        const std::optional<corvane::ChosenRecipients> chosen =
-            ChooseRecipients({nullptr, profile_, 0, waitWindow, services}, {},
-                             [this](RecipientSelectionForm& form, const Cryptocontext& context) {
-                                 wasDialogShown = true;
-                                 if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
-                                     return false;
-                                 }
-                                 form.CheckAllFound(true);
-                                 static_cast<void>(form.AddChecked());
-                                 return form.Confirm(context, reports.reporter, nullptr);
-                             });
+        const std::optional<corvane::ChosenRecipients> chosen = ChooseRecipients(
+            {nullptr, profile_, 0, waitWindow, services}, {},
+            [this](RecipientSelectionForm& form, const Cryptocontext& context) {
+                wasDialogShown = true;
+                if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
+                    return false;
+                }
+                form.CheckAllFound(true);
+                static_cast<void>(form.AddChecked());
+                return form.Confirm(context, reports.reporter, nullptr) == SelectionOutcome::kAccepted;
+            });
         return chosen ? std::optional(chosen->owners) : std::nullopt;
     }
 

@@ -34,7 +34,8 @@ TEST_F(CsProfileGuard, YesDropsTheRecipients) {
     PostCsProfile(dialog, 0);
     Answer(dialog, kRecipientsQuestion, IDYES);
     ExpectShown(dialog, L"CS one", L"0");
-    ExpectErrorBox(dialog, L"No certificate is selected for operation.", IDI_CERTIFICATES);
+    ExpectErrorBox(dialog, L"No certificate is selected for operation.", IDI_CERTIFICATES,
+                   IDC_RULE_CERT_BUTTON);
     Close(dialog, IDCANCEL);
 }
 

@@ -100,12 +100,12 @@ TEST_F(AnchoredLayoutTest, AtAnotherScaleTheTemplateOfThatScaleIsGrown) {
 
 TEST_F(AnchoredLayoutTest, AnotherScaleLeavesAMinimisedDialogForWhenItHasItsSizeBack) {
     ShowWindow(dialog_.Window(), SW_SHOWMINNOACTIVE);
-    MoveWindow(dialog_.Control(IDOK), 17, 105, 50, 25, FALSE);
-    layout_.Rescale(192);
-    ExpectPlace(IDOK, {17, 105, 67, 130});
+    MoveWindow(dialog_.Control(IDOK), 20, 200, 100, 50, FALSE);
+    layout_.Rescale({2 * width_, 2 * height_});
+    ExpectPlace(IDOK, {20, 200, 120, 250});
     ShowWindow(dialog_.Window(), SW_SHOWNOACTIVATE);
     layout_.Arrange(2 * width_ + 7, 2 * height_ + 5);
-    ExpectPlace(IDOK, {27, 205, 77, 230});
+    ExpectPlace(IDOK, {27, 205, 127, 255});
 }
 
 TEST_F(AnchoredLayoutTest, AMinimisedDialogHasNoSmallestSize) {
