@@ -41,6 +41,7 @@ TEST_F(Audit, MainWindowWithoutAnOpenProfile) {
 
 TEST_F(Audit, MainWindowAtItsSmallestSize) {
     StartWithSample();
+    const RECT atFirst = Main().Bounds();
     SetWindowPos(Main().Handle(), nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     Settle();
     // The movements of the controls are laid down, and so is this size; the sizes of lists and fields that
@@ -52,6 +53,11 @@ TEST_F(Audit, MainWindowAtItsSmallestSize) {
               11 * (button.right - button.left) + 2 * GetSystemMetrics(SM_CXVSCROLL));
     EXPECT_EQ(bounds.bottom - bounds.top,
               2 * (GetSystemMetrics(SM_CYVSCROLL) + 5 * (button.bottom - button.top)));
+    if (atFirst.right - atFirst.left >= GetSystemMetrics(SM_CXSCREEN)) {
+        // At this scale the window does not fit on the display. It is made narrower than its template then,
+        // and its buttons move with the changes from there on.
+        return;
+    }
     const RECT client = Main().ClientBounds();
     for (const int id : {IDC_SAVE_BUTTON, IDOK, IDCANCEL}) {
         const RECT place = Control(id).Bounds();

@@ -207,6 +207,11 @@ TEST(AllocationFaults, ALoadLeavesWholeProfilesAndClosedKeys) {
         [&clean](StoredCase& subject, bool isThrown) {
             subject.ExpectKeysClosed();
             EXPECT_FALSE(subject.state.isDirty);
+            if (!isThrown && subject.presenter.Boxes().empty()) {
+                // The standard library's stable sort does without its buffer where there is none.
+                EXPECT_EQ(subject.state, clean);
+                return;
+            }
             if (!isThrown) {
                 EXPECT_EQ(subject.presenter.OnlyText(), ReportText(kOutOfMemory, 8));
                 return;
