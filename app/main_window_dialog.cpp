@@ -129,6 +129,7 @@ void CCorvaneDlg::RememberLayout() {
         return follows ? toolkit::GrowthShare::kAll : toolkit::GrowthShare::kNone;
     };
     std::vector<toolkit::Anchor> anchors;
+    anchors.reserve(kControlChanges.size());
     for (const ControlChange& control : kControlChanges) {
         anchors.push_back({.controlId = control.id,
                            .moveX = share(control.moveX),

@@ -139,7 +139,7 @@ class Builder {
             text += static_cast<wchar_t>(byte);
         }
         if (form % 4 == 0) {
-            text.resize(form * 4, L'x');  // Also longer than what can be read.
+            text.resize(std::size_t{form} * 4, L'x');  // Also longer than what can be read.
         }
         if (form % 2 == 0) {
             registry_.PutText(key_, name, text);

@@ -113,7 +113,7 @@ class Input {
         return byte;
     }
     std::string Bytes(std::size_t length) {
-        const std::string bytes(rest_.substr(0, length));
+        std::string bytes(rest_.substr(0, length));
         rest_.remove_prefix(bytes.size());
         return bytes;
     }

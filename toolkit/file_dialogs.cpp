@@ -69,7 +69,7 @@ PathChoice AskWhatToOpen(HWND owner, const FileDialogOffer& offer) {
 PathChoice ShowFileDialog(const FileDialogFunctions& functions, HWND owner, const FileDialogOffer& offer,
                           DWORD flags) {
     const std::wstring name = offer.path.empty() ? ProposedFileName(offer.fileName) : offer.path;
-    const PathChoice choice = ShowWithName(functions, owner, offer, flags, name);
+    PathChoice choice = ShowWithName(functions, owner, offer, flags, name);
     if (!name.empty() && choice.failure == CommonDialogFailure(kCommonDialogInvalidFileName)) {
         return ShowWithName(functions, owner, offer, flags, {});
     }

@@ -28,7 +28,11 @@ class Values {
 
     [[nodiscard]] std::wstring Text(const std::wstring& name, const std::wstring& missing = {}) const {
         const std::optional<StoredData> data = registry_.Find(key_, name);
-        return data ? Characters(*data).c_str() : missing;
+        if (!data) {
+            return missing;
+        }
+        const std::wstring text = Characters(*data);
+        return text.substr(0, text.find(L'\0'));
     }
 
     [[nodiscard]] List Texts(const std::wstring& name) const {

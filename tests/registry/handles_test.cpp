@@ -116,7 +116,7 @@ TEST_F(Handles, AreTheSameBeforeAndAfterLoadingAndSaving) {
     RegCloseKey(key);
     LoadAndSave();
     EXPECT_EQ(OpenHandles(), handles);
-    EXPECT_TRUE(reports.presenter.Boxes().size() > 0) << "the failing run at the start";
+    EXPECT_FALSE(reports.presenter.Boxes().empty()) << "the failing run at the start";
 }
 
 TEST_F(Handles, AreTheSameAfterLoadsAndSavesThatFail) {

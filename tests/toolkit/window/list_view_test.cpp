@@ -391,7 +391,7 @@ TEST_F(ListViewTest, AListWithoutRowsOfItsOwnStaysWhereItIsUnlessItGetsShorter) 
     ASSERT_EQ(list.TopRow(), 17);
     list.SetRowCount(kManyRows);
     EXPECT_EQ(list.TopRow(), 17) << "the row with the focus is not scrolled to";
-    list.SetRowCount(kManyRows * 2);
+    list.SetRowCount(std::size_t{kManyRows} * 2);
     EXPECT_EQ(list.TopRow(), 17);
     list.SetRowCount(3);
     EXPECT_EQ(list.TopRow(), 0);
