@@ -96,13 +96,26 @@ void WatchedProcess::StartAndWatch(const std::wstring& file, HANDLE isStarted) {
     }
     // From here on the file's name may be gone.
     SetEvent(isStarted);
-    DEBUG_EVENT event{};
-    while (isRunning && WaitForDebugEvent(&event, INFINITE)) {
-        ContinueDebugEvent(event.dwProcessId, event.dwThreadId, Note(event));
-        if (event.dwDebugEventCode == EXIT_PROCESS_DEBUG_EVENT) {
-            return;
-        }
+    if (isRunning) {
+        Watch();
     }
+}
+
+void WatchedProcess::Watch() {
+    constexpr DWORD kPauseMilliseconds = 10;
+    DEBUG_EVENT event{};
+    do {
+        if (!WaitForDebugEvent(&event, INFINITE)) {
+            // Wine fails here now and then without a reason. The watched program would end with this thread.
+            std::fprintf(stderr, "Waiting for a debug event failed (system code %lu)\n", GetLastError());
+            if (HasEndedWithin(kPauseMilliseconds)) {
+                return;
+            }
+            event = {};
+            continue;
+        }
+        ContinueDebugEvent(event.dwProcessId, event.dwThreadId, Note(event));
+    } while (event.dwDebugEventCode != EXIT_PROCESS_DEBUG_EVENT);
 }
 
 DWORD WatchedProcess::Note(const DEBUG_EVENT& event) {

@@ -42,6 +42,8 @@ class WatchedProcess {
   private:
     /// Only the thread that starts a process hears of what happens in it.
     void StartAndWatch(const std::wstring& file, HANDLE isStarted);
+    /// Handles the events of the process until it has ended.
+    void Watch();
     /// Tells the system how to go on.
     [[nodiscard]] DWORD Note(const DEBUG_EVENT& event);
 
