@@ -4,6 +4,7 @@
 
 #include "app/reporting/message_styles.h"
 #include "toolkit/handles.h"
+#include "toolkit/library_search.h"
 
 namespace corvane {
 
@@ -37,9 +38,9 @@ std::optional<std::wstring> WindowsSystemMessages::FromInternetModule(std::uint3
     HMODULE module = GetModuleHandleW(L"wininet.dll");
     toolkit::UniqueModule mapped;
     if (module == nullptr) {
-        mapped.Reset(LoadLibraryExW(
-            L"wininet.dll", nullptr,
-            LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE | LOAD_LIBRARY_SEARCH_SYSTEM32));
+        const std::wstring file = std::wstring(toolkit::SystemFolder().data()) + L"\\wininet.dll";
+        mapped.Reset(
+            LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
         module = mapped.Get();
     }
     // Without a module the function would look into the table of the program itself.
