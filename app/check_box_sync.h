@@ -15,9 +15,10 @@ namespace corvane {
 /// profile; a rule without an operation is left alone.
 void SyncCheckBoxes(ConfigurationState& state, const std::function<int(std::size_t row)>& checkState);
 
-/// Takes what the user has ticked into the rules of `profile`, before a command works on them, and sets the
-/// dirty flag where that changes a rule. Only for a list that shows every rule of the profile at its row;
-/// `checkState` is as above. A rule whose box shows what it is stays as it is, to the last bit.
+/// Takes what the user has ticked into the rules of the profile at `profilePosition`, before a command works
+/// on them, and sets the dirty flag where that changes a rule. Only for a list that shows every rule of the
+/// profile at its row; `checkState` is as above. A rule whose box shows what it is stays as it is, to the
+/// last bit. A position that there is not throws std::out_of_range.
 void TakeTicks(ConfigurationState& state, std::size_t profilePosition,
                const std::function<int(std::size_t row)>& checkState);
 
