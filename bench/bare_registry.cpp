@@ -8,11 +8,9 @@
 #include <variant>
 #include <vector>
 
-#include "config/registry_layout.h"
+#include "store/registry/registry_layout.h"
 
 namespace {
-
-using corvane::StoredValue;
 
 constexpr REGSAM kAccess = 0x2001F;
 constexpr wchar_t kSampleProvider[] = L"SOFTWARE\\HOLVAN\\tarn\\Profiles\\bench";
@@ -43,20 +41,20 @@ class BareReader {
   public:
     void ReadAll() {
         {
-            const OpenKey provider(HKEY_CURRENT_USER, corvane::kProviderProfilesKey);
+            const OpenKey provider(HKEY_CURRENT_USER, corvane::store::kProviderProfilesKey);
             for (const std::wstring& name : Subkeys(provider.Get())) {
                 const OpenKey key(provider.Get(), name);
-                Read(key.Get(), corvane::ProviderProfileLayout());
+                Read(key.Get(), corvane::store::ProviderProfileLayout());
             }
         }
-        const OpenKey program(HKEY_CURRENT_USER, corvane::kProgramKey);
+        const OpenKey program(HKEY_CURRENT_USER, corvane::store::kProgramKey);
         const std::vector<std::wstring> profiles = Subkeys(program.Get());
-        Read(program.Get(), corvane::WindowLayout());
-        Read(program.Get(), corvane::SettingsLayout());
+        Read(program.Get(), corvane::store::WindowLayout());
+        Read(program.Get(), corvane::store::SettingsLayout());
         for (const std::wstring& name : profiles) {
             const OpenKey profile(program.Get(), name);
-            Read(profile.Get(), corvane::ProfileLayout());
-            const OpenKey rules(profile.Get(), corvane::kRulesSubkey);
+            Read(profile.Get(), corvane::store::ProfileLayout());
+            const OpenKey rules(profile.Get(), corvane::store::kRulesSubkey);
             for (const std::wstring& ruleName : Subkeys(rules.Get())) {
                 ReadRule(rules.Get(), ruleName);
             }
@@ -66,24 +64,25 @@ class BareReader {
   private:
     void ReadRule(HKEY rules, const std::wstring& name) {
         const OpenKey rule(rules, name);
-        Read(rule.Get(), corvane::RuleLayout());
+        Read(rule.Get(), corvane::store::RuleLayout());
         for (const std::wstring& groupName : Subkeys(rule.Get())) {
             const OpenKey group(rule.Get(), groupName);
-            Read(group.Get(), corvane::SignerGroupLayout());
+            Read(group.Get(), corvane::store::SignerGroupLayout());
         }
     }
 
     template <typename Record>
-    void Read(HKEY key, std::span<const StoredValue<Record>> layout) {
+    void Read(HKEY key, std::span<const corvane::store::StoredValue<Record>> layout) {
         DWORD count = 0;
-        for (const StoredValue<Record>& row : layout) {
-            if (std::holds_alternative<corvane::StoredElements<Record>>(row.kind)) {
+        for (const corvane::store::StoredValue<Record>& row : layout) {
+            if (std::holds_alternative<corvane::store::StoredElements<Record>>(row.kind)) {
                 for (DWORD index = 0; index < count; ++index) {
-                    Query(key, corvane::ElementName(row.name, index).c_str());
+                    Query(key, corvane::store::ElementName(row.name, index).c_str());
                 }
-            } else if (!std::holds_alternative<corvane::StoredOldElement<Record>>(row.kind) || count == 0) {
+            } else if (!std::holds_alternative<corvane::store::StoredOldElement<Record>>(row.kind) ||
+                       count == 0) {
                 Query(key, row.name);
-                if (std::holds_alternative<corvane::StoredCount<Record>>(row.kind)) {
+                if (std::holds_alternative<corvane::store::StoredCount<Record>>(row.kind)) {
                     count = buffer_[0];  // The sample has fewer than 256 of anything.
                 }
             }
@@ -120,7 +119,7 @@ void SetText(HKEY key, const wchar_t* name, const std::wstring& text, DWORD type
                    static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
 }
 
-std::wstring Joined(const corvane::TextList& list) {
+std::wstring Joined(const corvane::store::TextList& list) {
     std::wstring joined;
     for (const std::wstring& element : list) {
         joined += element;
@@ -129,7 +128,7 @@ std::wstring Joined(const corvane::TextList& list) {
     return joined;
 }
 
-std::wstring Joined(const corvane::NumberList& list) {
+std::wstring Joined(const corvane::store::NumberList& list) {
     std::wstring joined;
     for (const std::int32_t number : list) {
         joined += std::to_wstring(number);
@@ -145,34 +144,36 @@ struct ValueWriter {
     const wchar_t* name;
     const Record& record;
 
-    void operator()(const corvane::StoredNumber<Record>& number) const {
+    void operator()(const corvane::store::StoredNumber<Record>& number) const {
         SetNumber(key, name, record.*number.field);
     }
-    void operator()(const corvane::StoredText<Record>& text) const { SetText(key, name, record.*text.field); }
-    void operator()(const corvane::StoredTextList<Record>& list) const {
+    void operator()(const corvane::store::StoredText<Record>& text) const {
+        SetText(key, name, record.*text.field);
+    }
+    void operator()(const corvane::store::StoredTextList<Record>& list) const {
         SetText(key, name, Joined(record.*list.field), REG_MULTI_SZ);
     }
-    void operator()(const corvane::StoredTextArray<Record>& array) const {
+    void operator()(const corvane::store::StoredTextArray<Record>& array) const {
         SetText(key, name, Joined(record.*array.field), REG_MULTI_SZ);
     }
-    void operator()(const corvane::StoredNumberList<Record>& list) const {
+    void operator()(const corvane::store::StoredNumberList<Record>& list) const {
         SetText(key, name, Joined(record.*list.field), REG_MULTI_SZ);
     }
-    void operator()(const corvane::StoredCount<Record>& count) const {
+    void operator()(const corvane::store::StoredCount<Record>& count) const {
         SetNumber(key, name, static_cast<std::int32_t>((record.*count.field).size()));
     }
-    void operator()(const corvane::StoredElements<Record>& elements) const {
-        const corvane::TextList& list = record.*elements.field;
+    void operator()(const corvane::store::StoredElements<Record>& elements) const {
+        const corvane::store::TextList& list = record.*elements.field;
         for (std::size_t index = 0; index < list.size(); ++index) {
-            SetText(key, corvane::ElementName(name, index).c_str(), list[index]);
+            SetText(key, corvane::store::ElementName(name, index).c_str(), list[index]);
         }
     }
-    void operator()(const corvane::StoredOldElement<Record>& /*old*/) const {}
+    void operator()(const corvane::store::StoredOldElement<Record>& /*old*/) const {}
 };
 
 template <typename Record>
-void Write(HKEY key, std::span<const StoredValue<Record>> layout, const Record& record) {
-    for (const StoredValue<Record>& row : layout) {
+void Write(HKEY key, std::span<const corvane::store::StoredValue<Record>> layout, const Record& record) {
+    for (const corvane::store::StoredValue<Record>& row : layout) {
         std::visit(ValueWriter<Record>{key, row.name, record}, row.kind);
     }
 }
@@ -201,21 +202,21 @@ void ReadWithBareCalls() {
     BareReader().ReadAll();
 }
 
-void WriteWithBareCalls(const corvane::ConfigurationState& state) {
-    const OpenKey program(HKEY_CURRENT_USER, corvane::kProgramKey);
-    Write(program.Get(), corvane::WindowLayout(), state.settings.window);
-    Write(program.Get(), corvane::SettingsLayout(), state.settings);
-    for (const corvane::Profile& record : state.profiles) {
+void WriteWithBareCalls(const corvane::store::ConfigurationState& state) {
+    const OpenKey program(HKEY_CURRENT_USER, corvane::store::kProgramKey);
+    Write(program.Get(), corvane::store::WindowLayout(), state.settings.window);
+    Write(program.Get(), corvane::store::SettingsLayout(), state.settings);
+    for (const corvane::store::Profile& record : state.profiles) {
         const OpenKey profile(program.Get(), record.name, true);
-        Write(profile.Get(), corvane::ProfileLayout(), record);
-        DeleteTree(profile.Get(), corvane::kRulesSubkey);
-        const OpenKey rules(profile.Get(), corvane::kRulesSubkey, true);
+        Write(profile.Get(), corvane::store::ProfileLayout(), record);
+        DeleteTree(profile.Get(), corvane::store::kRulesSubkey);
+        const OpenKey rules(profile.Get(), corvane::store::kRulesSubkey, true);
         for (std::size_t position = 0; position < record.rules.size(); ++position) {
-            const OpenKey rule(rules.Get(), corvane::RuleKeyName(position), true);
-            Write(rule.Get(), corvane::RuleLayout(), record.rules[position]);
-            for (const corvane::SignerGroup& list : record.rules[position].signerGroups) {
+            const OpenKey rule(rules.Get(), corvane::store::RuleKeyName(position), true);
+            Write(rule.Get(), corvane::store::RuleLayout(), record.rules[position]);
+            for (const corvane::store::SignerGroup& list : record.rules[position].signerGroups) {
                 const OpenKey group(rule.Get(), list.name, true);
-                Write(group.Get(), corvane::SignerGroupLayout(), list);
+                Write(group.Get(), corvane::store::SignerGroupLayout(), list);
             }
         }
     }
@@ -224,7 +225,7 @@ void WriteWithBareCalls(const corvane::ConfigurationState& state) {
 void PrepareRegistry() {
     const OpenKey provider(HKEY_CURRENT_USER, kSampleProvider, true);
     SetText(provider.Get(), L"ProfileName", L"Signature 2012");
-    const OpenKey program(HKEY_CURRENT_USER, corvane::kProgramKey, true);
+    const OpenKey program(HKEY_CURRENT_USER, corvane::store::kProgramKey, true);
 }
 
 void CleanRegistry() {

@@ -13,26 +13,26 @@
 #include <string>
 #include <vector>
 
-#include "app/reporting/error_reporter.h"
-#include "app/reporting/system_messages_windows.h"
-#include "app/rule_list_view.h"
-#include "app/rule_row.h"
+#include "app/rule_list/rule_list_view.h"
+#include "app/rule_list/rule_row.h"
 #include "bench/bare_registry.h"
 #include "bench/list_window.h"
 #include "bench/program_measure.h"
 #include "bench/ratio.h"
 #include "bench/sample_configuration.h"
 #include "bench/selection_lists.h"
-#include "certs/provider/provider_library_windows.h"
-#include "config/load_configuration.h"
-#include "config/registry_calls_windows.h"
-#include "config/save_configuration.h"
-#include "toolkit/message_presenter_windows.h"
-#include "toolkit/system_text_windows.h"
+#include "provider/provider_library.h"
+#include "reporting/error_reporter.h"
+#include "reporting/system_messages.h"
+#include "store/registry/load_configuration.h"
+#include "store/registry/registry_calls.h"
+#include "store/registry/save_configuration.h"
+#include "toolkit/system/message_presenter.h"
+#include "toolkit/text/system_text.h"
 
 namespace {
 
-using corvane::ConfigurationState;
+using corvane::store::ConfigurationState;
 
 constexpr int kTurns = 7;
 constexpr std::size_t kListedRules = 10000;
@@ -44,24 +44,24 @@ class Store {
 
     void Load() {
         ConfigurationState state;
-        corvane::RegistryAccess registry(calls_, reporter_);
-        if (!corvane::LoadConfiguration(state, registry, reporter_, nullptr)) {
+        corvane::store::RegistryAccess registry(calls_, reporter_);
+        if (!corvane::store::LoadConfiguration(state, registry, reporter_, nullptr)) {
             throw std::runtime_error("the sample does not load");
         }
     }
 
     void Save(ConfigurationState& state) {
-        corvane::RegistryAccess registry(calls_, reporter_);
-        corvane::SaveConfiguration(state, {}, registry, reporter_, nullptr);
+        corvane::store::RegistryAccess registry(calls_, reporter_);
+        corvane::store::SaveConfiguration(state, {}, registry, reporter_, nullptr);
     }
 
   private:
-    toolkit::WindowsMessagePresenter messages_;
-    toolkit::WindowsSystemText text_;
-    corvane::WindowsSystemMessages systemMessages_;
-    corvane::SystemProviderLibrary provider_;
-    corvane::WindowsRegistryCalls calls_;
-    corvane::ErrorReporter reporter_;
+    corvane::toolkit::WindowsMessagePresenter messages_;
+    corvane::toolkit::WindowsSystemText text_;
+    corvane::reporting::WindowsSystemMessages systemMessages_;
+    corvane::provider::SystemProviderLibrary provider_;
+    corvane::store::WindowsRegistryCalls calls_;
+    corvane::reporting::ErrorReporter reporter_;
 };
 
 std::vector<RatioRow> MeasureRegistry() {
@@ -98,13 +98,13 @@ std::vector<RatioRow> MeasureRegistry() {
 }
 
 /// The plain way: row by row, cell by cell, with redrawing off.
-void InsertPlainly(const toolkit::ListView& list, const std::vector<corvane::Rule>& rules) {
-    const toolkit::ListView::RedrawLock locked(list);
+void InsertPlainly(const corvane::toolkit::ListView& list, const std::vector<corvane::store::Rule>& rules) {
+    const corvane::toolkit::ListView::RedrawLock locked(list);
     list.DeleteAllRows();
     for (std::size_t position = 0; position < rules.size(); ++position) {
-        list.AppendRow(corvane::RuleCellText(rules[position], position, 0));
-        for (std::size_t column = 1; column < corvane::kRuleColumnCount; ++column) {
-            std::wstring text = corvane::RuleCellText(rules[position], position, column);
+        list.AppendRow(corvane::app::RuleCellText(rules[position], position, 0));
+        for (std::size_t column = 1; column < corvane::app::kRuleColumnCount; ++column) {
+            std::wstring text = corvane::app::RuleCellText(rules[position], position, column);
             LVITEMW cell = {};
             cell.iSubItem = static_cast<int>(column);
             cell.pszText = text.data();
@@ -118,21 +118,21 @@ void InsertPlainly(const toolkit::ListView& list, const std::vector<corvane::Rul
 
 std::vector<RatioRow> MeasureLists() {
     ConfigurationState state = SampleConfiguration(1, kListedRules);
-    for (corvane::Rule& rule : state.profiles.front().rules) {
+    for (corvane::store::Rule& rule : state.profiles.front().rules) {
         rule.signerGroups.clear();
     }
-    const toolkit::WindowsSystemText text;
+    const corvane::toolkit::WindowsSystemText text;
     ListWindow window;
-    corvane::RuleListView ruleList(state);
+    corvane::app::RuleListView ruleList(state);
     ruleList.Attach(window.MakeList(), GetSystemMetrics(SM_CXVSCROLL));
     window.AnswerWith([&ruleList](NMHDR& header) {
         if (header.code == LVN_GETDISPINFOW && header.hwndFrom == ruleList.Control().Window()) {
             ruleList.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
         }
     });
-    corvane::RuleListView plainColumns(state);
+    corvane::app::RuleListView plainColumns(state);
     plainColumns.Attach(window.MakeList(), GetSystemMetrics(SM_CXVSCROLL));
-    const toolkit::ListView& plain = plainColumns.Control();
+    const corvane::toolkit::ListView& plain = plainColumns.Control();
 
     const auto fillPlainly = [&] {
         return MillisecondsOf([&] {
@@ -142,7 +142,7 @@ std::vector<RatioRow> MeasureLists() {
     };
     const auto fill = [&](const wchar_t* search) {
         return MillisecondsOf([&] {
-            ruleList.Fill(0, search, text, corvane::RuleListView::Keep::kScrollAndSelection);
+            ruleList.Fill(0, search, text, corvane::app::RuleListView::Keep::kScrollAndSelection);
             UpdateWindow(ruleList.Control().Window());
         });
     };

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "config/operation_codes.h"
+#include "store/records.h"
 
 namespace {
 
-corvane::Rule SampleRule(std::size_t number, const corvane::TextList& codes) {
+corvane::store::Rule SampleRule(std::size_t number, const corvane::store::TextList& codes) {
     const std::wstring text = std::to_wstring(number);
-    corvane::Rule rule;
+    corvane::store::Rule rule;
     rule.operation = codes[number % codes.size()];
     rule.csProfile = L"Signature 2012";
     rule.inputFolder = L"C:\\Exchange\\Incoming\\Branch " + text;
@@ -24,8 +24,8 @@ corvane::Rule SampleRule(std::size_t number, const corvane::TextList& codes) {
     return rule;
 }
 
-corvane::Profile SampleProfile(std::size_t number, std::size_t ruleCount) {
-    corvane::Profile profile;
+corvane::store::Profile SampleProfile(std::size_t number, std::size_t ruleCount) {
+    corvane::store::Profile profile;
     profile.name = L"Profile " + std::to_wstring(number);
     profile.csProfiles = {L"Signature 2012"};
     profile.timeStampServers = {L"0"};
@@ -38,7 +38,7 @@ corvane::Profile SampleProfile(std::size_t number, std::size_t ruleCount) {
     profile.autoUseTimeStamp = {0};
     profile.notLoadCrl = {0};
     profile.crlUpdatePeriods = {1};
-    const corvane::TextList codes = corvane::SplitEntries(corvane::OperationCode);
+    const corvane::store::TextList codes = corvane::store::SplitEntries(corvane::store::OperationCode);
     for (std::size_t rule = 0; rule < ruleCount; ++rule) {
         profile.rules.push_back(SampleRule(rule, codes));
     }
@@ -47,8 +47,9 @@ corvane::Profile SampleProfile(std::size_t number, std::size_t ruleCount) {
 
 }  // namespace
 
-corvane::ConfigurationState SampleConfiguration(std::size_t profileCount, std::size_t rulesPerProfile) {
-    corvane::ConfigurationState state;
+corvane::store::ConfigurationState SampleConfiguration(std::size_t profileCount,
+                                                       std::size_t rulesPerProfile) {
+    corvane::store::ConfigurationState state;
     for (std::size_t number = 0; number < profileCount; ++number) {
         state.profiles.push_back(SampleProfile(number, rulesPerProfile));
         state.profileNames.push_back(state.profiles.back().name);

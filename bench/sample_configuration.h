@@ -2,9 +2,9 @@
 
 #include <cstddef>
 
-#include "config/records.h"
+#include "store/records.h"
 
 /// A configuration of the usual kind: profiles with one CS profile, rules with one mask, two recipients and
 /// every twentieth with a signer list.
-[[nodiscard]] corvane::ConfigurationState SampleConfiguration(std::size_t profileCount,
-                                                              std::size_t rulesPerProfile);
+[[nodiscard]] corvane::store::ConfigurationState SampleConfiguration(std::size_t profileCount,
+                                                                     std::size_t rulesPerProfile);

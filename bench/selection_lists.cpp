@@ -10,21 +10,21 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/reporting/error_reporter.h"
-#include "app/reporting/system_messages_windows.h"
 #include "bench/list_window.h"
-#include "certs/owner_list_view.h"
-#include "certs/recipient_selection_form.h"
-#include "toolkit/format_text.h"
-#include "toolkit/input_gate_windows.h"
-#include "toolkit/message_presenter_windows.h"
-#include "toolkit/system_text_windows.h"
+#include "certificates/selection/owner_list_view.h"
+#include "certificates/selection/selection_form.h"
+#include "reporting/error_reporter.h"
+#include "reporting/system_messages.h"
+#include "toolkit/dialog/modal_state.h"
+#include "toolkit/system/message_presenter.h"
+#include "toolkit/text/format_text.h"
+#include "toolkit/text/system_text.h"
 
 namespace {
 
-using corvane::OwnerListView;
-using corvane::RecipientSelectionForm;
-using corvane::TextList;
+using corvane::certificates::OwnerListView;
+using corvane::certificates::RecipientSelectionForm;
+using corvane::store::TextList;
 
 constexpr int kListTurns = 7;
 constexpr int kFoundOwners = 20000;
@@ -34,45 +34,46 @@ constexpr std::size_t kOrganizationField = 5;
 std::wstring OwnerName(int number) {
     // Spread out, so that a sort has work to do. Every other one is of the first bank.
     const int spread = static_cast<int>((static_cast<long long>(number) * 7919) % 100003);
-    return toolkit::FormatText(
+    return corvane::toolkit::FormatText(
         L"CN=Owner %d,OU=Settlement,O=%s,C=GB",
         {std::to_wstring(spread), (number % 2 == 0 ? L"Northgate Clearing " : L"Southgate Clearing ") +
                                       std::to_wstring(spread % 997)});
 }
 
 /// A provider that finds as many certificates as are wanted and hands out memory of its own.
-class ManyCertificates final : public corvane::ProviderLibrary {
+class ManyCertificates final : public corvane::provider::ProviderLibrary {
   public:
     ManyCertificates() {
-        const toolkit::WindowsSystemText text;
+        const corvane::toolkit::WindowsSystemText text;
         for (int i = 0; i < kFoundOwners; ++i) {
             owners_.push_back(text.Narrow(OwnerName(i)));
         }
         for (std::string& owner : owners_) {
-            corvane::CertEntry entry = {};
+            corvane::provider::CertEntry entry = {};
             entry.owner = owner.data();
             entry.usage = 0xFF;
             certEntries.push_back(entry);
         }
-        functions_.findCert = [](corvane::ProviderContext, corvane::CertQuery*,
-                                 corvane::CertFindResult* result) {
+        functions_.findCert = [](corvane::provider::ProviderContext, corvane::provider::CertQuery*,
+                                 corvane::provider::CertFindResult* result) {
             result->count = static_cast<std::uint32_t>(certEntries.size());
             result->entries = certEntries.data();
             return std::uint32_t{0};
         };
-        functions_.freeFindResult = [](corvane::ProviderContext, corvane::CertFindResult*) {
-            return std::uint32_t{0};
-        };
+        functions_.freeFindResult = [](corvane::provider::ProviderContext,
+                                       corvane::provider::CertFindResult*) { return std::uint32_t{0}; };
     }
 
-    [[nodiscard]] const corvane::ProviderFunctions* Functions() override { return &functions_; }
-    [[nodiscard]] const corvane::ProviderBindFailure& LastFailure() const override { return failure_; }
+    [[nodiscard]] const corvane::provider::ProviderFunctions* Functions() override { return &functions_; }
+    [[nodiscard]] const corvane::provider::ProviderBindFailure& LastFailure() const override {
+        return failure_;
+    }
 
   private:
-    inline static std::vector<corvane::CertEntry> certEntries;
+    inline static std::vector<corvane::provider::CertEntry> certEntries;
     std::vector<std::string> owners_;
-    corvane::ProviderFunctions functions_ = {};
-    corvane::ProviderBindFailure failure_;
+    corvane::provider::ProviderFunctions functions_ = {};
+    corvane::provider::ProviderBindFailure failure_;
 };
 
 /// The form with its two lists, as the dialog has them.
@@ -108,21 +109,21 @@ class SelectionLists {
     }
 
   private:
-    static corvane::SelectionStart Start() {
-        corvane::SelectionStart start;
+    static corvane::certificates::SelectionStart Start() {
+        corvane::certificates::SelectionStart start;
         for (int i = 0; i < kChosenOwners; ++i) {
             start.chosen.push_back(OwnerName(kFoundOwners + i));
         }
         return start;
     }
-    static void Show(OwnerListView& list, corvane::SortMark mark) {
+    static void Show(OwnerListView& list, corvane::certificates::SortMark mark) {
         list.Show(list.CurrentPlace(), mark);
         UpdateWindow(list.Control().Window());
     }
 
-    corvane::CertSearchSettings settings_ =
-        corvane::SearchSettingsOf({}, corvane::CertificateUse::kRecipients);
-    toolkit::WindowsSystemText text_;
+    corvane::certificates::CertSearchSettings settings_ =
+        corvane::certificates::SearchSettingsOf({}, corvane::certificates::CertificateUse::kRecipients);
+    corvane::toolkit::WindowsSystemText text_;
     RecipientSelectionForm form_;
     OwnerListView found_{{[this] { return form_.FoundRowCount(); },
                           [this](std::size_t row) { return form_.FoundRow(row); },
@@ -157,7 +158,7 @@ class SelectionBench {
 
     /// The plain way, in a list as fresh: row by row, with redrawing off.
     double InsertPlainly(const TextList& owners) {
-        toolkit::ListView list;
+        corvane::toolkit::ListView list;
         list.Attach(window_.MakeList());
         list.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
         list.InsertColumn(0, L"Subjects");
@@ -178,9 +179,9 @@ class SelectionBench {
     [[nodiscard]] const TextList& AllFound() const { return allFound_; }
 
   private:
-    static void Fill(const toolkit::ListView& list, const TextList& owners) {
+    static void Fill(const corvane::toolkit::ListView& list, const TextList& owners) {
         {
-            const toolkit::ListView::RedrawLock locked(list);
+            const corvane::toolkit::ListView::RedrawLock locked(list);
             for (const std::wstring& owner : owners) {
                 list.AppendRow(owner);
             }
@@ -192,12 +193,12 @@ class SelectionBench {
     std::unique_ptr<SelectionLists> lists_;
     TextList allFound_;
     ManyCertificates provider_;
-    toolkit::WindowsMessagePresenter messages_;
-    toolkit::WindowsSystemText text_;
-    corvane::WindowsSystemMessages systemMessages_;
-    corvane::ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
-    toolkit::WindowsInputGate input_;
-    corvane::Cryptocontext context_{*provider_.Functions(), 0, reporter_, nullptr, input_};
+    corvane::toolkit::WindowsMessagePresenter messages_;
+    corvane::toolkit::WindowsSystemText text_;
+    corvane::reporting::WindowsSystemMessages systemMessages_;
+    corvane::reporting::ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
+    corvane::toolkit::WindowsInputGate input_;
+    corvane::certificates::Cryptocontext context_{*provider_.Functions(), 0, reporter_, nullptr, input_};
 };
 
 }  // namespace

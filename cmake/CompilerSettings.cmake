@@ -2,7 +2,8 @@
 option(CORVANE_WARNINGS_AS_ERRORS "Let a warning fail the build, as ./test does; another compiler may have others" OFF)
 
 add_library(corvane_settings INTERFACE)
-target_include_directories(corvane_settings INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
+target_include_directories(corvane_settings INTERFACE
+  ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
 
 if(MSVC)
   target_compile_options(corvane_settings INTERFACE /W4 $<$<BOOL:${CORVANE_WARNINGS_AS_ERRORS}>:/WX> /permissive- /utf-8 /Zc:__cplusplus)
@@ -38,5 +39,8 @@ endif()
 
 if(CORVANE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fsanitize=fuzzer-no-link>)
+  endif()
   add_link_options(-fsanitize=address,undefined)
 endif()

@@ -1,16 +1,12 @@
-# The program is built floor by floor. A floor is a static library that links only the floors below it,
-# and its includes are checked against the same list before anything of it is compiled, so that an arrow
-# that runs upward does not build.
+# The program is built floor by floor. A floor is a folder of src/ and a static library that links only the
+# floors below it, and its includes are checked against the same list before anything of it is compiled, so
+# that an arrow that runs upward does not build.
 #
-#   corvane_floor(NAME config
+#   corvane_floor(NAME store
 #                 BELOW reporting provider toolkit     # the floors it may use
 #                 DECIDES a.cpp b.cpp                  # plain C++, also built natively
 #                 SHOWS c.cpp                          # needs Windows
 #                 SYSTEM_LIBRARIES advapi32)
-set(CORVANE_FLOOR_FOLDERS
-  toolkit=toolkit provider=certs/provider reporting=app/reporting config=config certs=certs
-  editors=editors application=app standin_rules=standin res=res)
-
 function(corvane_floor)
   cmake_parse_arguments(FLOOR "" "NAME" "BELOW;DECIDES;SHOWS;SYSTEM_LIBRARIES" ${ARGN})
   set(sources ${FLOOR_DECIDES})
@@ -37,15 +33,14 @@ function(corvane_floor)
     target_link_libraries(${FLOOR_NAME} ${scope} ${FLOOR_SYSTEM_LIBRARIES})
   endif()
 
-  add_custom_target(${FLOOR_NAME}_arrows
+  get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  add_custom_target(${FLOOR_NAME}_includes
     COMMAND ${CMAKE_COMMAND}
       -D "FOLDER=${CMAKE_CURRENT_SOURCE_DIR}"
-      -D "NAME=${FLOOR_NAME}"
-      -D "BELOW=${FLOOR_BELOW}"
-      -D "FOLDERS=${CORVANE_FLOOR_FOLDERS}"
+      -D "ALLOWED=${folder};${FLOOR_BELOW};res"
       -D "DECIDES=${FLOOR_DECIDES}"
-      -P ${CMAKE_SOURCE_DIR}/cmake/check_arrows.cmake
+      -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake
     COMMENT "Includes of ${FLOOR_NAME}"
     VERBATIM)
-  add_dependencies(${FLOOR_NAME} ${FLOOR_NAME}_arrows)
+  add_dependencies(${FLOOR_NAME} ${FLOOR_NAME}_includes)
 endfunction()

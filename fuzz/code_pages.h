@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/system_text.h"
+#include "toolkit/text/system_text.h"
 
 // Code pages that cost a fuzzer next to nothing and lose nothing on the way there and back, so that whatever
 // is lost was lost by the code under test.

@@ -7,24 +7,24 @@
 #include <string_view>
 #include <vector>
 
-#include "certs/provider/provider_library.h"
-#include "config/load_configuration.h"
-#include "config/registry_access.h"
-#include "config/save_configuration.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 #include "fuzz/silent_reporting.h"
+#include "provider/provider_library.h"
+#include "store/registry/load_configuration.h"
+#include "store/registry/registry_access.h"
+#include "store/registry/save_configuration.h"
 #include "tests/support/memory_registry.h"
 
 // An input builds a whole registry: keys of any names, and values of any type, size and bytes under the names
 // that the program reads. Whatever it is, a load ends, closes its keys, and what it has loaded is saved and
 // loaded again as it is.
 
-namespace corvane {
+namespace corvane::fuzz {
 namespace {
 
 using fuzz::Require;
-using testing::MemoryRegistry;
+using test::MemoryRegistry;
 
 const std::wstring kCatalogue = L"SOFTWARE\\HOLVAN\\tarn\\Profiles";
 const std::wstring kProgram = L"SOFTWARE\\HOLVAN\\tarntray";
@@ -68,13 +68,13 @@ constexpr const wchar_t* kValueNames[] = {L"ProfileName",
                                           L"S1",
                                           L"Another"};
 
-class NoLibrary : public ProviderLibrary {
+class NoLibrary : public provider::ProviderLibrary {
   public:
-    [[nodiscard]] const ProviderFunctions* Functions() override { return nullptr; }
-    [[nodiscard]] const ProviderBindFailure& LastFailure() const override { return failure_; }
+    [[nodiscard]] const provider::ProviderFunctions* Functions() override { return nullptr; }
+    [[nodiscard]] const provider::ProviderBindFailure& LastFailure() const override { return failure_; }
 
   private:
-    ProviderBindFailure failure_;
+    provider::ProviderBindFailure failure_;
 };
 
 // Builds a registry from an input.
@@ -100,7 +100,7 @@ class Builder {
             case 2: {
                 const std::wstring name = ValueName();
                 const unsigned type = Byte() % 12;
-                registry_.Put(key_, name, testing::Bytes(type, RawBytes()));
+                registry_.Put(key_, name, test::Bytes(type, RawBytes()));
                 break;
             }
             case 3: {
@@ -214,17 +214,17 @@ class Program {
     explicit Program(MemoryRegistry& registry) : registry_(registry) {}
 
     bool Load() {
-        RegistryAccess access(registry_, reporter_);
-        return LoadConfiguration(state, access, reporter_, nullptr);
+        store::RegistryAccess access(registry_, reporter_);
+        return store::LoadConfiguration(state, access, reporter_, nullptr);
     }
     void Save() {
-        RegistryAccess access(registry_, reporter_);
+        store::RegistryAccess access(registry_, reporter_);
         state.isDirty = true;
-        SaveConfiguration(state, state.settings.window, access, reporter_, nullptr);
+        store::SaveConfiguration(state, state.settings.window, access, reporter_, nullptr);
     }
     [[nodiscard]] std::size_t ReportCount() const { return presenter_.count; }
 
-    ConfigurationState state;
+    store::ConfigurationState state;
 
   private:
     MemoryRegistry& registry_;
@@ -232,14 +232,14 @@ class Program {
     fuzz::NoMessages messages_;
     NoLibrary provider_;
     fuzz::SingleByteText text_;
-    ErrorReporter reporter_{presenter_, messages_, provider_, text_};
+    reporting::ErrorReporter reporter_{presenter_, messages_, provider_, text_};
 };
 
 // What of a configuration the layout can hold: rules with an operation, and no rule without a mask.
-ConfigurationState Storable(ConfigurationState state) {
-    for (Profile& profile : state.profiles) {
-        std::erase_if(profile.rules, [](const Rule& rule) { return rule.operation.empty(); });
-        for (Rule& rule : profile.rules) {
+store::ConfigurationState Storable(store::ConfigurationState state) {
+    for (store::Profile& profile : state.profiles) {
+        std::erase_if(profile.rules, [](const store::Rule& rule) { return rule.operation.empty(); });
+        for (store::Rule& rule : profile.rules) {
             rule.legacyMask.clear();
             if (rule.masks.empty()) {
                 rule.masks.emplace_back();
@@ -293,9 +293,9 @@ void CheckLoad(std::string_view bytes) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t sizeBytes) {
-    corvane::CheckLoad(std::string_view(reinterpret_cast<const char*>(data), sizeBytes));
+    corvane::fuzz::CheckLoad(std::string_view(reinterpret_cast<const char*>(data), sizeBytes));
     return 0;
 }

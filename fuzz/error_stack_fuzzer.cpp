@@ -7,23 +7,23 @@
 #include <string_view>
 #include <vector>
 
-#include "app/reporting/error_reporter.h"
-#include "app/reporting/provider_error_stack.h"
-#include "certs/provider_call_message.h"
+#include "certificates/session/provider_call_message.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 #include "fuzz/silent_reporting.h"
+#include "reporting/error_reporter.h"
+#include "reporting/provider_error_stack.h"
 
 // An input lays down an error stack: each of its entries has three texts of any bytes, with zeros inside,
 // with a length and no memory, or none at all. Whatever it is, both layouts show it, nothing outside of the
 // texts is read, and every text goes back to the library exactly once.
 
-namespace corvane {
+namespace corvane::fuzz {
 namespace {
 
 using fuzz::Require;
 
-constexpr ProviderContext kContext = 0x7000000000000001;
+constexpr provider::ProviderContext kContext = 0x7000000000000001;
 
 // One text of the stack. Its memory is as long as the text, so that reading past it is seen.
 struct StackText {
@@ -43,8 +43,8 @@ struct StackLibrary {
     std::vector<StackEntry> entries;
     std::size_t next = 0;
     bool bringsTextsAtTheEnd = false;
-    ProviderContext context = 0;
-    ProviderContext releaseContext = 0;
+    provider::ProviderContext context = 0;
+    provider::ProviderContext releaseContext = 0;
     std::set<const void*> out;
 };
 
@@ -53,8 +53,8 @@ StackLibrary& Library() {
     return library;
 }
 
-XsigBlob HandOut(const StackText& text) {
-    XsigBlob blob;
+provider::XsigBlob HandOut(const StackText& text) {
+    provider::XsigBlob blob;
     blob.length = static_cast<std::uint32_t>(text.bytes.size());
     if (text.hasMemory) {
         auto memory = std::make_unique<char[]>(text.bytes.size());
@@ -65,8 +65,8 @@ XsigBlob HandOut(const StackText& text) {
     return blob;
 }
 
-std::uint32_t GetErrorLine(ProviderContext context, XsigBlob* text, XsigBlob* file, std::uint32_t* line,
-                           XsigBlob* data) {
+std::uint32_t GetErrorLine(provider::ProviderContext context, provider::XsigBlob* text,
+                           provider::XsigBlob* file, std::uint32_t* line, provider::XsigBlob* data) {
     StackLibrary& library = Library();
     Require(context == library.context, "the stack that was asked for is read");
     if (library.next == library.entries.size()) {
@@ -83,25 +83,25 @@ std::uint32_t GetErrorLine(ProviderContext context, XsigBlob* text, XsigBlob* fi
     return 0;
 }
 
-std::uint32_t FreeMem(ProviderContext context, void* memory) {
+std::uint32_t FreeMem(provider::ProviderContext context, void* memory) {
     Require(context == Library().releaseContext, "texts go back under the context that is laid down");
     Require(Library().out.erase(memory) == 1, "what goes back was handed out and is out");
     const std::unique_ptr<char[]> released(static_cast<char*>(memory));
     return 0;
 }
 
-class FuzzedLibrary : public ProviderLibrary {
+class FuzzedLibrary : public provider::ProviderLibrary {
   public:
-    [[nodiscard]] const ProviderFunctions* Functions() override {
+    [[nodiscard]] const provider::ProviderFunctions* Functions() override {
         functions_.getErrorLine = &GetErrorLine;
         functions_.freeMem = &FreeMem;
         return &functions_;
     }
-    [[nodiscard]] const ProviderBindFailure& LastFailure() const override { return failure_; }
+    [[nodiscard]] const provider::ProviderBindFailure& LastFailure() const override { return failure_; }
 
   private:
-    ProviderFunctions functions_{};
-    ProviderBindFailure failure_;
+    provider::ProviderFunctions functions_{};
+    provider::ProviderBindFailure failure_;
 };
 
 // Takes an input apart.
@@ -153,7 +153,7 @@ std::wstring Seen(const StackText& text, const toolkit::SystemText& systemText) 
 std::wstring ExpectedStack(const toolkit::SystemText& systemText) {
     std::wstring expected;
     const std::vector<StackEntry>& entries = Library().entries;
-    for (std::size_t i = 0; i < std::min(entries.size(), kMostProviderErrors); ++i) {
+    for (std::size_t i = 0; i < std::min(entries.size(), reporting::kMostProviderErrors); ++i) {
         expected += L"XSIG stek, error number " + std::to_wstring(i + 1) + L"\r\nError: " +
                     Seen(entries[i].text, systemText) + L"\r\nFile: " + Seen(entries[i].file, systemText) +
                     L"\r\nData: " + Seen(entries[i].data, systemText) + L"\r\n";
@@ -164,7 +164,7 @@ std::wstring ExpectedStack(const toolkit::SystemText& systemText) {
 std::wstring ExpectedDescription(const toolkit::SystemText& systemText) {
     std::wstring expected = L"description\r\n";
     const std::vector<StackEntry>& entries = Library().entries;
-    for (std::size_t i = 0; i < std::min(entries.size(), kMostProviderErrors); ++i) {
+    for (std::size_t i = 0; i < std::min(entries.size(), reporting::kMostProviderErrors); ++i) {
         expected += Seen(entries[i].text, systemText) + L",\r\nfile: " + Seen(entries[i].file, systemText) +
                     L", line " + std::to_wstring(static_cast<std::int32_t>(entries[i].line)) + L", data: " +
                     Seen(entries[i].data, systemText) + L".\r\n";
@@ -176,11 +176,11 @@ void CheckStack(std::string_view bytes, const toolkit::SystemText& systemText) {
     FuzzedLibrary provider;
     fuzz::SilentPresenter presenter;
     const fuzz::NoMessages messages;
-    ErrorReporter reporter(presenter, messages, provider, systemText);
+    reporting::ErrorReporter reporter(presenter, messages, provider, systemText);
 
     LayDown(bytes);
     Library().context = kContext;
-    const std::wstring stack = FormatErrorStack(*provider.Functions(), kContext, systemText);
+    const std::wstring stack = certificates::FormatErrorStack(*provider.Functions(), kContext, systemText);
     Require(stack == ExpectedStack(systemText), "a warning shows the stack entry by entry");
     Require(Library().out.empty(), "every text of a warning has gone back");
 
@@ -194,11 +194,11 @@ void CheckStack(std::string_view bytes, const toolkit::SystemText& systemText) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t sizeBytes) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), sizeBytes);
-    corvane::CheckStack(bytes, corvane::fuzz::SingleByteText());
-    corvane::CheckStack(bytes, corvane::fuzz::DoubleByteText());
+    corvane::fuzz::CheckStack(bytes, corvane::fuzz::SingleByteText());
+    corvane::fuzz::CheckStack(bytes, corvane::fuzz::DoubleByteText());
     return 0;
 }

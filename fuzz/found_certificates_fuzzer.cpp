@@ -7,12 +7,12 @@
 #include <string_view>
 #include <vector>
 
-#include "app/reporting/error_reporter.h"
-#include "certs/certificate_search.h"
-#include "certs/cryptocontext.h"
+#include "certificates/search/certificate_search.h"
+#include "certificates/session/cryptocontext.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 #include "fuzz/silent_reporting.h"
+#include "reporting/error_reporter.h"
 #include "tests/support/recording_input_gate.h"
 
 // An input lays down what the library answers to a search (entries without texts, empty texts, odd bytes, a
@@ -21,19 +21,19 @@
 // search gives what the entries say, nothing outside of them is read, and every result goes back exactly
 // once.
 
-namespace corvane {
+namespace corvane::fuzz {
 namespace {
 
 using fuzz::Require;
 
-constexpr ProviderContext kContext = 0x7000000000000001;
+constexpr provider::ProviderContext kContext = 0x7000000000000001;
 
 /// The library; its functions are plain functions, so what they use has no other place.
 struct CertLibrary {
     std::uint32_t status = 0;
     std::uint32_t count = 0;
     bool hasEntries = true;
-    std::vector<CertEntry> entries;
+    std::vector<provider::CertEntry> entries;
     std::deque<std::string> texts;
     std::deque<std::vector<std::uint8_t>> serials;
     std::size_t resultsOut = 0;
@@ -48,7 +48,8 @@ CertLibrary& Library() {
     return library;
 }
 
-std::uint32_t Find(ProviderContext context, CertQuery* query, CertFindResult* result) {
+std::uint32_t Find(provider::ProviderContext context, provider::CertQuery* query,
+                   provider::CertFindResult* result) {
     CertLibrary& library = Library();
     Require(context == kContext && query != nullptr, "a search is asked in its context");
     result->count = library.count;
@@ -57,7 +58,7 @@ std::uint32_t Find(ProviderContext context, CertQuery* query, CertFindResult* re
     return library.status;
 }
 
-std::uint32_t FreeResult(ProviderContext context, CertFindResult* result) {
+std::uint32_t FreeResult(provider::ProviderContext context, provider::CertFindResult* result) {
     CertLibrary& library = Library();
     Require(context == kContext && library.resultsOut == 1, "a result goes back once, in its context");
     Require(result->count == library.count, "a result goes back as it came");
@@ -76,26 +77,27 @@ std::uint32_t GetErrorText(std::uint32_t /*status*/, char* buffer, std::uint32_t
     return library.textAnswer;
 }
 
-std::uint32_t NoErrorLine(ProviderContext /*context*/, XsigBlob* /*text*/, XsigBlob* /*file*/,
-                          std::uint32_t* /*line*/, XsigBlob* /*data*/) {
+std::uint32_t NoErrorLine(provider::ProviderContext /*context*/, provider::XsigBlob* /*text*/,
+                          provider::XsigBlob* /*file*/, std::uint32_t* /*line*/,
+                          provider::XsigBlob* /*data*/) {
     return 1;
 }
 
-class FuzzedLibrary : public ProviderLibrary {
+class FuzzedLibrary : public provider::ProviderLibrary {
   public:
     FuzzedLibrary() {
         functions_.findCert = &Find;
         functions_.freeFindResult = &FreeResult;
         functions_.getErrorText = &GetErrorText;
         functions_.getErrorLine = &NoErrorLine;
-        functions_.uninitialize = [](ProviderContext) { return std::uint32_t{0}; };
+        functions_.uninitialize = [](provider::ProviderContext) { return std::uint32_t{0}; };
     }
-    [[nodiscard]] const ProviderFunctions* Functions() override { return &functions_; }
-    [[nodiscard]] const ProviderBindFailure& LastFailure() const override { return failure_; }
+    [[nodiscard]] const provider::ProviderFunctions* Functions() override { return &functions_; }
+    [[nodiscard]] const provider::ProviderBindFailure& LastFailure() const override { return failure_; }
 
   private:
-    ProviderFunctions functions_{};
-    ProviderBindFailure failure_;
+    provider::ProviderFunctions functions_{};
+    provider::ProviderBindFailure failure_;
 };
 
 // Takes an input apart.
@@ -135,7 +137,8 @@ const char* TakeText(Input& input) {
 }
 
 void LayDown(Input& input) {
-    constexpr std::array<std::uint32_t, 6> kStatuses = {0, 0, 1, kStatusNothingFound, 0xE0000005, 0xFFFFFFFF};
+    constexpr std::array<std::uint32_t, 6> kStatuses = {
+        0, 0, 1, provider::kStatusNothingFound, 0xE0000005, 0xFFFFFFFF};
     CertLibrary& library = Library();
     library = {};
     library.status = kStatuses[input.Byte() % kStatuses.size()];
@@ -149,7 +152,7 @@ void LayDown(Input& input) {
         library.errorText += piece;
     }
     while (!input.IsAtEnd()) {
-        CertEntry& entry = library.entries.emplace_back();
+        provider::CertEntry& entry = library.entries.emplace_back();
         entry.owner = TakeText(input);
         entry.usage = input.Byte();
         entry.issuer = TakeText(input);
@@ -176,16 +179,16 @@ std::wstring Seen(const char* text, const toolkit::SystemText& systemText) {
 
 // What a search gives, told a second time.
 struct Expected {
-    TextList owners;  // Each once.
-    TextList issuers;
-    TextList serials;
+    store::TextList owners;  // Each once.
+    store::TextList issuers;
+    store::TextList serials;
 };
 
 Expected Expect(bool isForSigners, const std::wstring& wanted, const toolkit::SystemText& systemText) {
     const CertLibrary& library = Library();
     Expected expected;
     for (std::size_t i = 0; library.status == 0 && library.hasEntries && i < library.count; ++i) {
-        const CertEntry& entry = library.entries[i];
+        const provider::CertEntry& entry = library.entries[i];
         if (!isForSigners && (entry.usage & 0x1CU) == 0) {
             continue;
         }
@@ -227,9 +230,9 @@ void CheckSearches(std::string_view bytes, const toolkit::SystemText& systemText
     FuzzedLibrary provider;
     fuzz::SilentPresenter presenter;
     const fuzz::NoMessages messages;
-    ErrorReporter reporter(presenter, messages, provider, systemText);
-    testing::RecordingInputGate gate;
-    const Cryptocontext context(*provider.Functions(), kContext, reporter, nullptr, gate);
+    reporting::ErrorReporter reporter(presenter, messages, provider, systemText);
+    test::RecordingInputGate gate;
+    const certificates::Cryptocontext context(*provider.Functions(), kContext, reporter, nullptr, gate);
     Input input(bytes);
     LayDown(input);
     const std::uint32_t status = Library().status;
@@ -239,39 +242,39 @@ void CheckSearches(std::string_view bytes, const toolkit::SystemText& systemText
     Require(description == ExpectedDescription(systemText), "a status is described by its text");
 
     for (const bool isForSigners : {false, true}) {
-        CertSearchSettings settings;
+        certificates::CertSearchSettings settings;
         settings.signerMode = isForSigners ? 1 : 0;
         std::wstring wanted =
             Library().entries.empty() ? std::wstring(L"CN=A") : Seen(Library().entries[0].owner, systemText);
         const Expected expected = Expect(isForSigners, wanted, systemText);
 
-        TextList owners = {L"gone"};
-        Require(FindAllLocal(nullptr, settings, context, reporter, owners) == (status == 0) &&
+        store::TextList owners = {L"gone"};
+        Require(certificates::FindAllLocal(nullptr, settings, context, reporter, owners) == (status == 0) &&
                     owners == expected.owners,
                 "the local store gives every owner once");
         owners = {L"gone"};
-        Require(FindByPattern(nullptr, settings, context, L"*", reporter, owners) ==
-                        (status == 0 || status == kStatusNothingFound) &&
+        Require(certificates::FindByPattern(nullptr, settings, context, L"*", reporter, owners) ==
+                        (status == 0 || status == provider::kStatusNothingFound) &&
                     owners == expected.owners,
                 "a pattern gives every owner once");
-        TextList issuers = {L"gone"};
-        TextList serials = {L"gone"};
-        Require(
-            FindByOwner(nullptr, settings, context, wanted, reporter, issuers, serials) == (status == 0) &&
-                issuers == expected.issuers && serials == expected.serials,
-            "an owner gives the issuer and the number of each certificate");
+        store::TextList issuers = {L"gone"};
+        store::TextList serials = {L"gone"};
+        Require(certificates::FindByOwner(nullptr, settings, context, wanted, reporter, issuers, serials) ==
+                        (status == 0) &&
+                    issuers == expected.issuers && serials == expected.serials,
+                "an owner gives the issuer and the number of each certificate");
         Require(Library().resultsOut == 0, "every result has gone back");
     }
-    const std::size_t reports = status == 0 ? 0 : status == kStatusNothingFound ? 4 : 6;
+    const std::size_t reports = status == 0 ? 0 : status == provider::kStatusNothingFound ? 4 : 6;
     Require(presenter.count == reports, "every search that fails is reported once");
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t sizeBytes) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), sizeBytes);
-    corvane::CheckSearches(bytes, corvane::fuzz::SingleByteText());
-    corvane::CheckSearches(bytes, corvane::fuzz::DoubleByteText());
+    corvane::fuzz::CheckSearches(bytes, corvane::fuzz::SingleByteText());
+    corvane::fuzz::CheckSearches(bytes, corvane::fuzz::DoubleByteText());
     return 0;
 }

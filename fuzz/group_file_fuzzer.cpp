@@ -3,21 +3,21 @@
 #include <string>
 #include <string_view>
 
-#include "certs/group_file_text.h"
+#include "certificates/group_file/group_file.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 
 // Any bytes may stand in a group file. The owners are those that the format says, and owners that were read
 // are written so that they are read again.
 
-namespace corvane {
+namespace corvane::fuzz {
 namespace {
 
 using fuzz::Require;
 
 // The lines that count, told a second time and byte by byte, so that one can check the other.
-TextList ExpectedOwners(std::string_view bytes, const toolkit::SystemText& systemText) {
-    TextList owners;
+store::TextList ExpectedOwners(std::string_view bytes, const toolkit::SystemText& systemText) {
+    store::TextList owners;
     std::string line;
     for (const char byte : bytes) {
         if (byte == '\0') {
@@ -37,18 +37,19 @@ TextList ExpectedOwners(std::string_view bytes, const toolkit::SystemText& syste
 }
 
 void CheckBytes(std::string_view bytes, const toolkit::SystemText& systemText) {
-    const TextList owners = ParseGroupFile(bytes, systemText);
+    const store::TextList owners = certificates::ParseGroupFile(bytes, systemText);
     Require(owners == ExpectedOwners(bytes, systemText), "the lines that count are taken, and no others");
-    Require(ParseGroupFile(FormatGroupFile(owners, systemText), systemText) == owners,
-            "owners that were written are read back");
+    Require(
+        certificates::ParseGroupFile(certificates::FormatGroupFile(owners, systemText), systemText) == owners,
+        "owners that were written are read back");
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t sizeBytes) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), sizeBytes);
-    corvane::CheckBytes(bytes, corvane::fuzz::SingleByteText());
-    corvane::CheckBytes(bytes, corvane::fuzz::DoubleByteText());
+    corvane::fuzz::CheckBytes(bytes, corvane::fuzz::SingleByteText());
+    corvane::fuzz::CheckBytes(bytes, corvane::fuzz::DoubleByteText());
     return 0;
 }

@@ -7,9 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "certs/owner_lines.h"
-#include "certs/owner_order.h"
-#include "certs/subject_fields.h"
+#include "certificates/search/owner_texts.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 
@@ -17,7 +15,7 @@
 // an owner is cut where its attributes begin, its sort key is what stands behind the attribute, and sorting
 // only changes the order.
 
-namespace corvane {
+namespace corvane::fuzz {
 namespace {
 
 using fuzz::Require;
@@ -51,32 +49,35 @@ std::optional<std::wstring> ExpectedKey(const std::wstring& owner, const std::ws
 }
 
 void CheckOwner(std::wstring_view owner, const std::wstring& fieldKey) {
-    Require(OwnerLines(owner) == ExpectedLines(owner), "an owner is cut where its attributes begin");
-    const std::optional<std::wstring_view> key = OwnerSortKey(owner, fieldKey);
+    Require(certificates::OwnerLines(owner) == ExpectedLines(owner),
+            "an owner is cut where its attributes begin");
+    const std::optional<std::wstring_view> key = certificates::OwnerSortKey(owner, fieldKey);
     Require((key ? std::optional<std::wstring>(*key) : std::nullopt) ==
                 ExpectedKey(std::wstring(owner), fieldKey),
             "the sort key is what stands behind the attribute");
 
-    const std::wstring_view trimmed = TrimBlanks(owner);
+    const std::wstring_view trimmed = certificates::TrimBlanks(owner);
     Require(!trimmed.starts_with(L' ') && !trimmed.ends_with(L' '), "no blank is left at the ends");
     Require(owner.find(trimmed) != std::wstring_view::npos, "nothing but blanks at the ends is lost");
 
-    const std::wstring keyOfLine = SubjectFieldKey(owner, fuzz::SingleByteText());
+    const std::wstring keyOfLine = certificates::SubjectFieldKey(owner, fuzz::SingleByteText());
     Require(keyOfLine.empty() ||
                 (owner.ends_with(L"(" + keyOfLine + L")") && keyOfLine.find(L'(') == std::wstring::npos),
             "a line's key is what its last brackets hold");
 }
 
-void CheckOrder(const OwnerViews& owners, const std::wstring& fieldKey, SortDirection direction) {
+void CheckOrder(const OwnerViews& owners, const std::wstring& fieldKey,
+                certificates::SortDirection direction) {
     std::vector<std::size_t> rows(owners.size());
     std::iota(rows.begin(), rows.end(), std::size_t{0});
-    SortOwnerRows(rows, owners, fieldKey, direction);
+    certificates::SortOwnerRows(rows, owners, fieldKey, direction);
     for (std::size_t i = 1; i < rows.size(); ++i) {
-        const auto before = OwnerSortKey(owners[rows[i - 1]], fieldKey);
-        const auto after = OwnerSortKey(owners[rows[i]], fieldKey);
+        const auto before = certificates::OwnerSortKey(owners[rows[i - 1]], fieldKey);
+        const auto after = certificates::OwnerSortKey(owners[rows[i]], fieldKey);
         const std::wstring_view left = before.value_or(owners[rows[i - 1]]);
         const std::wstring_view right = after.value_or(owners[rows[i]]);
-        const bool isInOrder = direction == SortDirection::kAscending ? left < right : right < left;
+        const bool isInOrder =
+            direction == certificates::SortDirection::kAscending ? left < right : right < left;
         Require(before.has_value() >= after.has_value(), "owners without the attribute come last");
         Require(
             before.has_value() != after.has_value() || isInOrder || (left == right && rows[i - 1] < rows[i]),
@@ -89,16 +90,18 @@ void CheckOrder(const OwnerViews& owners, const std::wstring& fieldKey, SortDire
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t sizeBytes) {
     using namespace corvane;
+    using namespace corvane::fuzz;
     if (sizeBytes == 0) {
         return 0;
     }
-    static const TextList kFields = SubjectFields();
+    static const store::TextList kFields = certificates::SubjectFields();
     const fuzz::DoubleByteText systemText;
-    const std::wstring fieldKey = SubjectFieldKey(kFields[data[0] % kFields.size()], systemText);
+    const std::wstring fieldKey =
+        certificates::SubjectFieldKey(kFields[data[0] % kFields.size()], systemText);
     const std::wstring text =
         systemText.Widen(std::string_view(reinterpret_cast<const char*>(data + 1), sizeBytes - 1));
     OwnerViews owners;
@@ -110,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::wstring_view owner : owners) {
         CheckOwner(owner, fieldKey);
     }
-    CheckOrder(owners, fieldKey, SortDirection::kAscending);
-    CheckOrder(owners, fieldKey, SortDirection::kDescending);
+    CheckOrder(owners, fieldKey, certificates::SortDirection::kAscending);
+    CheckOrder(owners, fieldKey, certificates::SortDirection::kDescending);
     return 0;
 }

@@ -6,14 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include "certs/refresh_times.h"
+#include "certificates/store_checks/crl_update.h"
 #include "fuzz/code_pages.h"
 #include "fuzz/require.h"
 
 // An input is the time, the period, the name of a CS profile and the entries of "LastCrlUpdate", one for each
 // line. Whatever they say, an answer comes as laid down, and a time that was recorded is found again.
 
-namespace corvane {
+namespace corvane::fuzz {
 namespace {
 
 using fuzz::Require;
@@ -22,12 +22,12 @@ struct Question {
     std::int64_t nowSeconds = 0;
     std::int32_t periodHours = 0;
     std::wstring name;
-    TextList entries;
+    store::TextList entries;
 };
 
 // The fields between ";;", told a second time.
-TextList FieldsOf(std::wstring entry) {
-    TextList fields;
+store::TextList FieldsOf(std::wstring entry) {
+    store::TextList fields;
     for (std::size_t end = entry.find(L";;"); end != std::wstring::npos; end = entry.find(L";;")) {
         fields.push_back(entry.substr(0, end));
         entry.erase(0, end + 2);
@@ -49,10 +49,10 @@ std::int32_t WrappedNumber(const std::wstring& text) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(isNegative ? 0 - number : number));
 }
 
-RefreshState ExpectedState(const Question& question) {
-    RefreshState state;
+certificates::RefreshState ExpectedState(const Question& question) {
+    certificates::RefreshState state;
     for (std::size_t i = 0; i < question.entries.size(); ++i) {
-        const TextList fields = FieldsOf(question.entries[i]);
+        const store::TextList fields = FieldsOf(question.entries[i]);
         if (fields.size() < 2 || fields[0] != question.name) {
             continue;
         }
@@ -65,9 +65,9 @@ RefreshState ExpectedState(const Question& question) {
     return state;
 }
 
-void CheckRecording(const Question& question, const RefreshState& state) {
-    TextList recorded = question.entries;
-    RecordRefresh(recorded, state.entry, question.name, question.nowSeconds);
+void CheckRecording(const Question& question, const certificates::RefreshState& state) {
+    store::TextList recorded = question.entries;
+    certificates::RecordRefresh(recorded, state.entry, question.name, question.nowSeconds);
     const std::size_t position = state.entry.value_or(question.entries.size());
     Require(recorded.size() == std::max(question.entries.size(), position + 1),
             "a time takes the place of its entry, or one at the end");
@@ -76,8 +76,8 @@ void CheckRecording(const Question& question, const RefreshState& state) {
     for (std::size_t i = 0; i < question.entries.size(); ++i) {
         Require(i == position || recorded[i] == question.entries[i], "the other entries stay");
     }
-    const RefreshState after =
-        FindRefreshState(recorded, question.name, question.periodHours, question.nowSeconds);
+    const certificates::RefreshState after =
+        certificates::FindRefreshState(recorded, question.name, question.periodHours, question.nowSeconds);
     // A name that holds the separator, or ends in half of it, is not told from what follows.
     if (FieldsOf(question.name + L";;").front() == question.name) {
         Require(after.entry == position, "a time that was recorded is found again");
@@ -95,7 +95,7 @@ Question Read(const std::uint8_t* data, std::size_t sizeBytes) {
     constexpr std::size_t kHead = sizeof question.nowSeconds + sizeof question.periodHours;
     std::wstring rest = fuzz::SingleByteText().Widen(
         std::string_view(reinterpret_cast<const char*>(data + kHead), sizeBytes - kHead));
-    TextList lines;
+    store::TextList lines;
     for (std::size_t end = rest.find(L'\n'); end != std::wstring::npos; end = rest.find(L'\n')) {
         lines.push_back(rest.substr(0, end));
         rest.erase(0, end + 1);
@@ -107,17 +107,18 @@ Question Read(const std::uint8_t* data, std::size_t sizeBytes) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t sizeBytes) {
     using namespace corvane;
+    using namespace corvane::fuzz;
     if (sizeBytes < sizeof(std::int64_t) + sizeof(std::int32_t)) {
         return 0;
     }
     const Question question = Read(data, sizeBytes);
-    const RefreshState state =
-        FindRefreshState(question.entries, question.name, question.periodHours, question.nowSeconds);
-    const RefreshState expected = ExpectedState(question);
+    const certificates::RefreshState state = certificates::FindRefreshState(
+        question.entries, question.name, question.periodHours, question.nowSeconds);
+    const certificates::RefreshState expected = ExpectedState(question);
     Require(state.entry == expected.entry, "the last entry of the CS profile is found");
     Require(state.isDue == expected.isDue, "it is told whether the period is over");
     CheckRecording(question, state);

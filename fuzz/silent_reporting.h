@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "app/reporting/system_messages.h"
-#include "toolkit/message_presenter.h"
+#include "reporting/system_messages.h"
+#include "toolkit/system/message_presenter.h"
 
 // Reporting that nobody sees, for fuzzers of what reports on its way.
 
@@ -26,7 +26,7 @@ class SilentPresenter : public toolkit::MessagePresenter {
 };
 
 /// Has no text for any code.
-class NoMessages : public SystemMessages {
+class NoMessages : public reporting::SystemMessages {
   public:
     [[nodiscard]] std::optional<std::wstring> FromSystem(std::uint32_t /*code*/) const override { return {}; }
     [[nodiscard]] std::optional<std::wstring> FromInternetModule(std::uint32_t /*code*/) const override {

@@ -46,29 +46,31 @@ using corvane::standin::StandInProvider;
 }  // namespace
 
 std::uint32_t XSIG_Initialize(const char* csProfileName, std::uint32_t flags,
-                              corvane::ProviderContext* context) {
+                              corvane::provider::ProviderContext* context) {
     return Serve(
         [&](StandInProvider& provider) { return provider.Initialize(csProfileName, flags, context); });
 }
 
-std::uint32_t XSIG_Uninitialize(corvane::ProviderContext context) {
+std::uint32_t XSIG_Uninitialize(corvane::provider::ProviderContext context) {
     return Serve([&](StandInProvider& provider) { return provider.Uninitialize(context); });
 }
 
-std::uint32_t XSIG_Ctrl(corvane::ProviderContext context, std::uint32_t code, corvane::XsigBlob* buffer) {
+std::uint32_t XSIG_Ctrl(corvane::provider::ProviderContext context, std::uint32_t code,
+                        corvane::provider::XsigBlob* buffer) {
     return Serve([&](StandInProvider& provider) { return provider.Control(context, code, buffer); });
 }
 
-std::uint32_t XSIG_FindCert(corvane::ProviderContext context, corvane::CertQuery* query,
-                            corvane::CertFindResult* result) {
+std::uint32_t XSIG_FindCert(corvane::provider::ProviderContext context, corvane::provider::CertQuery* query,
+                            corvane::provider::CertFindResult* result) {
     return Serve([&](StandInProvider& provider) { return provider.FindCert(context, query, result); });
 }
 
-std::uint32_t XSIG_FreeFindResult(corvane::ProviderContext context, corvane::CertFindResult* result) {
+std::uint32_t XSIG_FreeFindResult(corvane::provider::ProviderContext context,
+                                  corvane::provider::CertFindResult* result) {
     return Serve([&](StandInProvider& provider) { return provider.FreeFindResult(context, result); });
 }
 
-std::uint32_t XSIG_FreeMem(corvane::ProviderContext context, void* memory) {
+std::uint32_t XSIG_FreeMem(corvane::provider::ProviderContext context, void* memory) {
     return Serve([&](StandInProvider& provider) { return provider.FreeMem(context, memory); });
 }
 
@@ -76,8 +78,9 @@ std::uint32_t XSIG_GetErrorText(std::uint32_t status, char* buffer, std::uint32_
     return StandInProvider::GetErrorText(status, buffer, capacity);
 }
 
-std::uint32_t XSIG_GetErrorLineEx(corvane::ProviderContext context, corvane::XsigBlob* text,
-                                  corvane::XsigBlob* file, std::uint32_t* line, corvane::XsigBlob* data) {
+std::uint32_t XSIG_GetErrorLineEx(corvane::provider::ProviderContext context,
+                                  corvane::provider::XsigBlob* text, corvane::provider::XsigBlob* file,
+                                  std::uint32_t* line, corvane::provider::XsigBlob* data) {
     return Serve(
         [&](StandInProvider& provider) { return provider.GetErrorLine(context, text, file, line, data); });
 }

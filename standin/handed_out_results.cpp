@@ -5,12 +5,12 @@
 namespace corvane::standin {
 
 void HandedOutResults::HandOut(const std::vector<const ServedCertificate*>& certificates,
-                               const SearchPlan& plan, CertFindResult& result) {
+                               const SearchPlan& plan, provider::CertFindResult& result) {
     auto handed = std::make_unique<Result>();
     handed->entries.resize(certificates.size());
     for (std::size_t index = 0; index < certificates.size(); ++index) {
         const ServedCertificate& certificate = *certificates[index];
-        CertEntry& entry = handed->entries[index];
+        provider::CertEntry& entry = handed->entries[index];
         if (plan.wantsOwner) {
             entry.owner = handed->texts.emplace_back(certificate.owner).c_str();
         }
@@ -30,7 +30,7 @@ void HandedOutResults::HandOut(const std::vector<const ServedCertificate*>& cert
     results_.emplace(result.entries, std::move(handed));
 }
 
-bool HandedOutResults::Release(CertFindResult& result) {
+bool HandedOutResults::Release(provider::CertFindResult& result) {
     if (result.entries == nullptr) {
         result.count = 0;
         return true;

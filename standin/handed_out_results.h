@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 #include "standin/search_plan.h"
 #include "standin/served_certificate.h"
 
@@ -19,22 +19,22 @@ class HandedOutResults {
   public:
     /// Fills `result` with the wanted fields of the certificates.
     void HandOut(const std::vector<const ServedCertificate*>& certificates, const SearchPlan& plan,
-                 CertFindResult& result);
+                 provider::CertFindResult& result);
 
     /// Releases a result and empties it. An empty result is released any number of times. False when the
     /// entries are none of ours, which changes nothing.
-    [[nodiscard]] bool Release(CertFindResult& result);
+    [[nodiscard]] bool Release(provider::CertFindResult& result);
 
     [[nodiscard]] std::size_t Count() const { return results_.size(); }
 
   private:
     struct Result {
-        std::vector<CertEntry> entries;
+        std::vector<provider::CertEntry> entries;
         std::deque<std::string> texts;
         std::deque<Bytes> serials;
     };
 
-    std::unordered_map<const CertEntry*, std::unique_ptr<Result>> results_;
+    std::unordered_map<const provider::CertEntry*, std::unique_ptr<Result>> results_;
 };
 
 }  // namespace corvane::standin

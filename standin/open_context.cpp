@@ -17,7 +17,7 @@ std::string_view KeyOf(const Bytes& encoded) {
 
 class OwnerTest {
   public:
-    OwnerTest(const CertQuery& query, const SearchPlan& plan, const StandInSystem& system)
+    OwnerTest(const provider::CertQuery& query, const SearchPlan& plan, const StandInSystem& system)
         : use_(plan.patternUse),
           text_(use_ == PatternUse::kNone ? std::wstring() : system.WidenUpper(query.ownerPattern)),
           pattern_(text_) {}
@@ -74,7 +74,8 @@ bool OpenContext::Load(CertificateStore store, const StandInSystem& system) {
     return true;
 }
 
-std::vector<const ServedCertificate*> OpenContext::Find(const CertQuery& query, const SearchPlan& plan,
+std::vector<const ServedCertificate*> OpenContext::Find(const provider::CertQuery& query,
+                                                        const SearchPlan& plan,
                                                         const StandInSystem& system) const {
     const OwnerTest test(query, plan, system);
     std::vector<const ServedCertificate*> found;

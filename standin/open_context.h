@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 #include "standin/error_stack.h"
 #include "standin/search_plan.h"
 #include "standin/served_certificate.h"
@@ -28,7 +28,8 @@ class OpenContext {
 
     /// The certificates that answer a query, in the order of the stores; their addresses stay until the
     /// context is closed.
-    [[nodiscard]] std::vector<const ServedCertificate*> Find(const CertQuery& query, const SearchPlan& plan,
+    [[nodiscard]] std::vector<const ServedCertificate*> Find(const provider::CertQuery& query,
+                                                             const SearchPlan& plan,
                                                              const StandInSystem& system) const;
 
   private:

@@ -10,7 +10,7 @@ constexpr std::uint32_t kFieldUsage = 0x80;
 constexpr std::uint32_t kFieldIssuer = 0x8000;
 constexpr std::uint32_t kFieldSerial = 0x20000;
 
-PatternUse UseOf(const CertQuery& query) {
+PatternUse UseOf(const provider::CertQuery& query) {
     if (query.ownerPattern == nullptr || *query.ownerPattern == '\0') {
         return PatternUse::kNone;
     }
@@ -19,7 +19,7 @@ PatternUse UseOf(const CertQuery& query) {
 
 }  // namespace
 
-SearchPlan PlanSearch(const CertQuery& query, std::uint32_t openFlags) {
+SearchPlan PlanSearch(const provider::CertQuery& query, std::uint32_t openFlags) {
     SearchPlan plan;
     plan.includesNetwork =
         (query.searchFlags & kSearchNetwork) != 0 && (openFlags & kOpenWithoutNetwork) == 0;

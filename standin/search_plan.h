@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 
 namespace corvane::standin {
 
@@ -31,6 +31,6 @@ inline constexpr std::uint32_t kOpenWithoutNetwork = 0x4;
 /// narrow nothing here, because it is the caller who tells recipients from signers by the usage byte. Match
 /// mode 4 makes the pattern a wildcard pattern. Of the wanted fields 0x4 is the owner, 0x80 the usage byte,
 /// 0x8000 the issuer and 0x20000 the serial number; what is not wanted is not filled in.
-[[nodiscard]] SearchPlan PlanSearch(const CertQuery& query, std::uint32_t openFlags);
+[[nodiscard]] SearchPlan PlanSearch(const provider::CertQuery& query, std::uint32_t openFlags);
 
 }  // namespace corvane::standin

@@ -17,13 +17,13 @@ constexpr std::uint32_t kLoadRevocationLists = 4;
 
 }  // namespace
 
-OpenContext* StandInProvider::Find(ProviderContext context) {
+OpenContext* StandInProvider::Find(provider::ProviderContext context) {
     const auto found = contexts_.find(context);
     return found == contexts_.end() ? nullptr : found->second.get();
 }
 
 std::uint32_t StandInProvider::Initialize(const char* csProfileName, std::uint32_t flags,
-                                          ProviderContext* context) {
+                                          provider::ProviderContext* context) {
     initializeErrors_.clear();
     if (context == nullptr) {
         return StatusBadArgument(3);
@@ -48,11 +48,12 @@ std::uint32_t StandInProvider::Initialize(const char* csProfileName, std::uint32
     return kStatusOk;
 }
 
-std::uint32_t StandInProvider::Uninitialize(ProviderContext context) {
+std::uint32_t StandInProvider::Uninitialize(provider::ProviderContext context) {
     return contexts_.erase(context) == 1 ? kStatusOk : kStatusUnknownContext;
 }
 
-std::uint32_t StandInProvider::Control(ProviderContext context, std::uint32_t code, XsigBlob* buffer) {
+std::uint32_t StandInProvider::Control(provider::ProviderContext context, std::uint32_t code,
+                                       provider::XsigBlob* buffer) {
     OpenContext* open = Find(context);
     if (open == nullptr) {
         return kStatusUnknownContext;
@@ -68,7 +69,7 @@ std::uint32_t StandInProvider::Control(ProviderContext context, std::uint32_t co
     return LoadRevocations(*open, *buffer);
 }
 
-std::uint32_t StandInProvider::LoadRevocations(OpenContext& open, XsigBlob& buffer) {
+std::uint32_t StandInProvider::LoadRevocations(OpenContext& open, provider::XsigBlob& buffer) {
     const std::optional<std::vector<RevocationFile>> files = system_.RevocationFiles();
     if (!files || files->empty()) {
         const std::string folder = system_.RevocationFolder();
@@ -89,8 +90,8 @@ std::uint32_t StandInProvider::LoadRevocations(OpenContext& open, XsigBlob& buff
     return status;
 }
 
-std::uint32_t StandInProvider::FindCert(ProviderContext context, const CertQuery* query,
-                                        CertFindResult* result) {
+std::uint32_t StandInProvider::FindCert(provider::ProviderContext context, const provider::CertQuery* query,
+                                        provider::CertFindResult* result) {
     if (result == nullptr) {
         return StatusBadArgument(3);
     }
@@ -115,13 +116,14 @@ std::uint32_t StandInProvider::FindCert(ProviderContext context, const CertQuery
         return revocations_.Contains(certificate->encodedIssuer, certificate->serial);
     });
     if (found.empty()) {
-        return kStatusNothingFound;
+        return provider::kStatusNothingFound;
     }
     results_.HandOut(found, plan, *result);
     return kStatusOk;
 }
 
-std::uint32_t StandInProvider::FreeFindResult(ProviderContext context, CertFindResult* result) {
+std::uint32_t StandInProvider::FreeFindResult(provider::ProviderContext context,
+                                              provider::CertFindResult* result) {
     if (result == nullptr) {
         return StatusBadArgument(2);
     }
@@ -141,8 +143,9 @@ std::uint32_t StandInProvider::GetErrorText(std::uint32_t status, char* buffer, 
     return text.empty() ? 0 : 1;
 }
 
-std::uint32_t StandInProvider::GetErrorLine(ProviderContext context, XsigBlob* text, XsigBlob* file,
-                                            std::uint32_t* line, XsigBlob* data) {
+std::uint32_t StandInProvider::GetErrorLine(provider::ProviderContext context, provider::XsigBlob* text,
+                                            provider::XsigBlob* file, std::uint32_t* line,
+                                            provider::XsigBlob* data) {
     if (text == nullptr || file == nullptr || line == nullptr || data == nullptr) {
         return StatusBadArgument(2);
     }
@@ -157,7 +160,7 @@ std::uint32_t StandInProvider::GetErrorLine(ProviderContext context, XsigBlob* t
     const ErrorEntry entry = std::move(errors.back());
     errors.pop_back();
     const auto handOut = [this](const std::string& value) {
-        return XsigBlob{static_cast<std::uint32_t>(value.size()), texts_.Copy(value)};
+        return provider::XsigBlob{static_cast<std::uint32_t>(value.size()), texts_.Copy(value)};
     };
     *text = handOut(entry.text);
     *file = handOut(entry.file);
@@ -166,7 +169,7 @@ std::uint32_t StandInProvider::GetErrorLine(ProviderContext context, XsigBlob* t
     return kStatusOk;
 }
 
-std::uint32_t StandInProvider::FreeMem(ProviderContext context, void* memory) {
+std::uint32_t StandInProvider::FreeMem(provider::ProviderContext context, void* memory) {
     if (context != 0 && Find(context) == nullptr) {
         return kStatusUnknownContext;
     }

@@ -4,7 +4,7 @@
 #include <map>
 #include <memory>
 
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 #include "standin/error_stack.h"
 #include "standin/handed_out_results.h"
 #include "standin/handed_out_texts.h"
@@ -23,36 +23,39 @@ class StandInProvider {
 
     /// Opens a context for a CS profile of the registry's catalogue and reads the local store.
     [[nodiscard]] std::uint32_t Initialize(const char* csProfileName, std::uint32_t flags,
-                                           ProviderContext* context);
-    [[nodiscard]] std::uint32_t Uninitialize(ProviderContext context);
+                                           provider::ProviderContext* context);
+    [[nodiscard]] std::uint32_t Uninitialize(provider::ProviderContext context);
 
     /// Code 4: loads the CRL files and writes a line about each into the buffer. Certificates that they
     /// revoke are served no more, neither in this context nor in later ones.
-    [[nodiscard]] std::uint32_t Control(ProviderContext context, std::uint32_t code, XsigBlob* buffer);
+    [[nodiscard]] std::uint32_t Control(provider::ProviderContext context, std::uint32_t code,
+                                        provider::XsigBlob* buffer);
 
     /// `result` is empty after any status but 0.
-    [[nodiscard]] std::uint32_t FindCert(ProviderContext context, const CertQuery* query,
-                                         CertFindResult* result);
-    [[nodiscard]] std::uint32_t FreeFindResult(ProviderContext context, CertFindResult* result);
+    [[nodiscard]] std::uint32_t FindCert(provider::ProviderContext context, const provider::CertQuery* query,
+                                         provider::CertFindResult* result);
+    [[nodiscard]] std::uint32_t FreeFindResult(provider::ProviderContext context,
+                                               provider::CertFindResult* result);
 
     /// Non-zero on success. A description that is too long for the buffer is cut.
     [[nodiscard]] static std::uint32_t GetErrorText(std::uint32_t status, char* buffer,
                                                     std::uint32_t capacity);
-    [[nodiscard]] std::uint32_t GetErrorLine(ProviderContext context, XsigBlob* text, XsigBlob* file,
-                                             std::uint32_t* line, XsigBlob* data);
-    [[nodiscard]] std::uint32_t FreeMem(ProviderContext context, void* memory);
+    [[nodiscard]] std::uint32_t GetErrorLine(provider::ProviderContext context, provider::XsigBlob* text,
+                                             provider::XsigBlob* file, std::uint32_t* line,
+                                             provider::XsigBlob* data);
+    [[nodiscard]] std::uint32_t FreeMem(provider::ProviderContext context, void* memory);
 
     /// How much callers hold that they have not released: texts and search results.
     [[nodiscard]] std::size_t HandedOutCount() const { return texts_.Count() + results_.Count(); }
 
   private:
-    [[nodiscard]] OpenContext* Find(ProviderContext context);
-    [[nodiscard]] std::uint32_t LoadRevocations(OpenContext& open, XsigBlob& buffer);
+    [[nodiscard]] OpenContext* Find(provider::ProviderContext context);
+    [[nodiscard]] std::uint32_t LoadRevocations(OpenContext& open, provider::XsigBlob& buffer);
 
     const StandInSystem& system_;
-    std::map<ProviderContext, std::unique_ptr<OpenContext>> contexts_;
+    std::map<provider::ProviderContext, std::unique_ptr<OpenContext>> contexts_;
     /// Handles need more than 32 bits, so that a caller that keeps only half of one is found out.
-    ProviderContext lastContext_ = 0x5A1000000000;
+    provider::ProviderContext lastContext_ = 0x5A1000000000;
     ErrorStack initializeErrors_;
     Revocations revocations_;
     HandedOutTexts texts_;

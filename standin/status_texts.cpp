@@ -24,7 +24,7 @@ std::string_view StatusText(std::uint32_t status) {
             return "The local certificate store cannot be read";
         case kStatusNetworkStoreSilent:
             return "The network certificate store does not answer";
-        case kStatusNothingFound:
+        case provider::kStatusNothingFound:
             return "Nothing was found";
         case kStatusDistributionPointSilent:
             return "The CRL distribution point does not answer";

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 
 namespace corvane::standin {
 

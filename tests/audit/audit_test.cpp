@@ -3,7 +3,7 @@
 #include "tests/driver/failure.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class Audit : public EditorTest {
@@ -134,4 +134,4 @@ TEST_F(Audit, ErrorBox) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

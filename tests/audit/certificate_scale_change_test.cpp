@@ -5,7 +5,7 @@
 #include "tests/certificates/selection_driver.h"
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 constexpr wchar_t kAnn[] = L"CN=Ann,C=GB";
@@ -58,4 +58,4 @@ TEST_F(WaitWindowScaleChange, WaitWindow) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

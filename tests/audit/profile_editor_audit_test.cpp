@@ -3,7 +3,7 @@
 #include "tests/driver/failure.h"
 #include "tests/windows/profile_editor_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -88,4 +88,4 @@ TEST_F(ProfileEditorAudit, ExtensionDialog) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

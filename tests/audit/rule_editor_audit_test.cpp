@@ -3,7 +3,7 @@
 #include "tests/driver/failure.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -131,4 +131,4 @@ TEST_F(RuleEditorAudit, MaskDialog) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include "tests/audit/scale_change_audit.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -104,4 +104,4 @@ TEST_F(ScaleChange, ADialogThatIsOpenedAfterwardsWorks) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 #include "tests/audit/picture.h"
 #include "tests/certificates/selection_driver.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class SelectionAudit : public SelectionTest {
@@ -91,4 +91,4 @@ TEST_F(SelectionAudit, Filter) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 #include "tests/certificates/session_test.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -158,4 +158,4 @@ TEST_F(SignerListsAudit, DistributionPointThatDoesNotAnswer) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

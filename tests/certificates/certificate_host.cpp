@@ -7,28 +7,28 @@
 #include <filesystem>
 #include <optional>
 
-#include "app/reporting/error_reporter.h"
-#include "app/reporting/system_messages_windows.h"
-#include "certs/await_dialog.h"
-#include "certs/provider/provider_library_windows.h"
-#include "certs/recipient_selection_dialog.h"
-#include "certs/signer_lists_dialog.h"
-#include "certs/system_clock.h"
-#include "certs/warning_box_presenter.h"
-#include "config/registry_calls_windows.h"
+#include "certificates/selection/selection_dialog.h"
+#include "certificates/session/clock.h"
+#include "certificates/session/wait_dialog.h"
+#include "certificates/session/warning_presenter.h"
+#include "certificates/signer_lists/signer_lists_dialog.h"
+#include "provider/provider_library.h"
+#include "reporting/error_reporter.h"
+#include "reporting/system_messages.h"
+#include "store/registry/registry_calls.h"
 #include "tests/certificates/host_setup.h"
-#include "toolkit/file_calls_windows.h"
-#include "toolkit/input_gate_windows.h"
-#include "toolkit/library_search.h"
-#include "toolkit/message_presenter_windows.h"
-#include "toolkit/system_text_windows.h"
+#include "toolkit/dialog/modal_state.h"
+#include "toolkit/files/file_calls.h"
+#include "toolkit/system/libraries.h"
+#include "toolkit/system/message_presenter.h"
+#include "toolkit/text/system_text.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 constexpr wchar_t kWindowClass[] = L"certificate_host";
 
-void AppendCsProfile(Profile& profile, const CsProfile& csProfile) {
+void AppendCsProfile(store::Profile& profile, const store::CsProfile& csProfile) {
     profile.csProfiles.push_back(csProfile.name);
     profile.timeStampServers.push_back(csProfile.timeStampServer);
     profile.notUseDirectory.push_back(csProfile.notUseDirectory);
@@ -45,7 +45,7 @@ void AppendCsProfile(Profile& profile, const CsProfile& csProfile) {
 class CertificateHost {
   public:
     explicit CertificateHost(HostSetup setup) : setup_(std::move(setup)) {
-        CsProfile other;
+        store::CsProfile other;
         other.name = L"not the chosen one";
         AppendCsProfile(profile_, other);
         AppendCsProfile(profile_, setup_.csProfile);
@@ -119,49 +119,49 @@ class CertificateHost {
         if (run_ % 2 == 0) {
             waitWindow_.Destroy();
         } else {
-            waitWindow_.Show(window_, kWaitText);
+            waitWindow_.Show(window_, certificates::kWaitText);
         }
         return HostCancelled(run_);
     }
 
     std::wstring OpenRecipients() {
-        const std::optional<ChosenRecipients> chosen =
-            EditRecipients(window_, profile_, kCsProfileIndex, setup_.recipients, services_, files_);
+        const std::optional<certificates::ChosenRecipients> chosen = certificates::EditRecipients(
+            window_, profile_, kCsProfileIndex, setup_.recipients, services_, files_);
         return chosen ? HostResult(run_, chosen->owners) : HostCancelled(run_);
     }
 
     std::wstring OpenSignerLists() {
-        const std::optional<std::vector<SignerGroup>> lists =
-            EditSignerLists(window_, profile_, kCsProfileIndex, setup_.lists, services_, files_);
+        const std::optional<std::vector<store::SignerGroup>> lists = certificates::EditSignerLists(
+            window_, profile_, kCsProfileIndex, setup_.lists, services_, files_);
         return lists ? HostResult(run_, *lists) : HostCancelled(run_);
     }
 
     static constexpr std::size_t kCsProfileIndex = 1;
 
     HostSetup setup_;
-    Profile profile_;
+    store::Profile profile_;
     HWND window_ = nullptr;
     int run_ = 0;
 
     toolkit::WindowsMessagePresenter messages_;
     toolkit::WindowsSystemText text_;
-    WindowsSystemMessages systemMessages_;
-    SystemProviderLibrary provider_;
-    ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
+    reporting::WindowsSystemMessages systemMessages_;
+    provider::SystemProviderLibrary provider_;
+    reporting::ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
     toolkit::WindowsFileCalls files_;
-    WindowsRegistryCalls registry_;
-    WarningBoxPresenter warnings_;
-    SystemClock clock_;
+    store::WindowsRegistryCalls registry_;
+    certificates::WarningBoxPresenter warnings_;
+    certificates::SystemClock clock_;
     toolkit::WindowsInputGate input_;
-    SessionOpening opening_;
-    AwaitWindow waitWindow_;
-    CertServices services_{.provider = provider_,
-                           .reporter = reporter_,
-                           .warnings = warnings_,
-                           .registry = registry_,
-                           .clock = clock_,
-                           .input = input_,
-                           .opening = opening_};
+    certificates::SessionOpening opening_;
+    certificates::AwaitWindow waitWindow_;
+    certificates::CertServices services_{.provider = provider_,
+                                         .reporter = reporter_,
+                                         .warnings = warnings_,
+                                         .registry = registry_,
+                                         .clock = clock_,
+                                         .input = input_,
+                                         .opening = opening_};
 };
 
 std::filesystem::path OwnFolder() {
@@ -171,15 +171,16 @@ std::filesystem::path OwnFolder() {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, PWSTR /*commandLine*/, int /*show*/) {
-    toolkit::LeaveCurrentFolderOutOfLibrarySearch();
+    corvane::toolkit::LeaveCurrentFolderOutOfLibrarySearch();
     INITCOMMONCONTROLSEX classes{};
     classes.dwSize = sizeof classes;
     classes.dwICC = ICC_WIN95_CLASSES;
     InitCommonControlsEx(&classes);
-    corvane::CertificateHost host(corvane::ReadHostSetup(corvane::OwnFolder() / corvane::kHostSetupFile));
+    corvane::test::CertificateHost host(
+        corvane::test::ReadHostSetup(corvane::test::OwnFolder() / corvane::test::kHostSetupFile));
     host.Create(instance);
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {

@@ -12,7 +12,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::Window;
 
@@ -252,4 +252,4 @@ std::wstring FromCodePage(const std::string& bytes) {
     return text;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -14,7 +14,7 @@
 #include "tests/driver/program.h"
 #include "tests/driver/registry.h"
 
-namespace corvane {
+namespace corvane::test {
 
 inline constexpr wchar_t kProgramTitle[] = L"QENT AC Velmaris - configuration";
 inline constexpr unsigned kBoxRefusal = 0x30;
@@ -122,4 +122,4 @@ class CertificateTest : public ::testing::Test {
 /// The same, back.
 [[nodiscard]] std::wstring FromCodePage(const std::string& bytes);
 
-}  // namespace corvane
+}  // namespace corvane::test

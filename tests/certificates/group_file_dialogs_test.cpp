@@ -7,7 +7,7 @@
 #include "tests/certificates/selection_driver.h"
 #include "tests/driver/file_dialog.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -226,4 +226,4 @@ TEST_F(SelectionGroupFile, APathBeyondTheCodePageIsTakenAsItIs) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 HeldCall::HeldCall(LibraryScriptWriter& script, const std::string& function, unsigned number,
                    Meanwhile meanwhile) {
@@ -43,4 +43,4 @@ driver::Window WaitForWaitWindow(const driver::Program& program) {
     return found;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/certificates/library_script_writer.h"
 #include "tests/driver/program.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// Holds one call of the scriptable library until the test has seen what it wants to see. It is let go with
 /// this object at the latest.
@@ -39,4 +39,4 @@ class HeldCall {
 /// Waits for the wait window of a program.
 [[nodiscard]] driver::Window WaitForWaitWindow(const driver::Program& program);
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,24 +7,24 @@
 #include <fstream>
 #include <utility>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 struct NamedFlag {
     const char* name;
-    std::int32_t CsProfile::*field;
+    std::int32_t store::CsProfile::*field;
 };
 
 constexpr std::array kFlags = {
-    NamedFlag{"auto_use_time_stamp", &CsProfile::autoUseTimeStamp},
-    NamedFlag{"auto_verify_time_stamp", &CsProfile::autoVerifyTimeStamp},
-    NamedFlag{"no_time_stamp_is_error", &CsProfile::noTimeStampIsError},
-    NamedFlag{"not_add_certificate", &CsProfile::notAddCertificate},
-    NamedFlag{"not_copy_to_local", &CsProfile::notCopyToLocal},
-    NamedFlag{"not_load_crl", &CsProfile::notLoadCrl},
-    NamedFlag{"crl_update_period", &CsProfile::crlUpdatePeriod},
-    NamedFlag{"not_use_directory", &CsProfile::notUseDirectory},
-    NamedFlag{"use_authority_access", &CsProfile::useAuthorityAccess},
+    NamedFlag{"auto_use_time_stamp", &store::CsProfile::autoUseTimeStamp},
+    NamedFlag{"auto_verify_time_stamp", &store::CsProfile::autoVerifyTimeStamp},
+    NamedFlag{"no_time_stamp_is_error", &store::CsProfile::noTimeStampIsError},
+    NamedFlag{"not_add_certificate", &store::CsProfile::notAddCertificate},
+    NamedFlag{"not_copy_to_local", &store::CsProfile::notCopyToLocal},
+    NamedFlag{"not_load_crl", &store::CsProfile::notLoadCrl},
+    NamedFlag{"crl_update_period", &store::CsProfile::crlUpdatePeriod},
+    NamedFlag{"not_use_directory", &store::CsProfile::notUseDirectory},
+    NamedFlag{"use_authority_access", &store::CsProfile::useAuthorityAccess},
 };
 
 std::string Utf8(const std::wstring& text) {
@@ -81,7 +81,7 @@ void WriteHostSetup(const HostSetup& setup, const std::filesystem::path& file) {
     for (const std::wstring& recipient : setup.recipients) {
         stream << "recipient=" << Utf8(recipient) << '\n';
     }
-    for (const SignerGroup& list : setup.lists) {
+    for (const store::SignerGroup& list : setup.lists) {
         stream << "list=" << Utf8(list.name) << '\n';
         for (const std::wstring& signer : list.signers) {
             stream << "signer=" << Utf8(signer) << '\n';
@@ -100,7 +100,7 @@ HostSetup ReadHostSetup(const std::filesystem::path& file) {
     return setup;
 }
 
-std::wstring HostResult(int run, const TextList& recipients) {
+std::wstring HostResult(int run, const store::TextList& recipients) {
     std::wstring result = FirstLine(run, L"ok");
     for (const std::wstring& recipient : recipients) {
         result += L"\r\n" + recipient;
@@ -108,9 +108,9 @@ std::wstring HostResult(int run, const TextList& recipients) {
     return result;
 }
 
-std::wstring HostResult(int run, const std::vector<SignerGroup>& lists) {
+std::wstring HostResult(int run, const std::vector<store::SignerGroup>& lists) {
     std::wstring result = FirstLine(run, L"ok");
-    for (const SignerGroup& list : lists) {
+    for (const store::SignerGroup& list : lists) {
         result += L"\r\nlist " + list.name;
         for (const std::wstring& signer : list.signers) {
             result += L"\r\n\t" + signer;
@@ -123,4 +123,4 @@ std::wstring HostCancelled(int run) {
     return FirstLine(run, L"cancelled");
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

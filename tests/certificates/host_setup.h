@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "config/records.h"
+#include "store/records.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// What certificate_host.exe shows when its button is pressed.
 struct HostSetup {
@@ -18,11 +18,11 @@ struct HostSetup {
 
     Dialog dialog = Dialog::kRecipients;
     /// The CS profile that the choice is made under; the profile has another one before it.
-    CsProfile csProfile;
+    store::CsProfile csProfile;
     /// What the recipients dialog starts with.
-    TextList recipients;
+    store::TextList recipients;
     /// What the signer lists dialog starts with.
-    std::vector<SignerGroup> lists;
+    std::vector<store::SignerGroup> lists;
 };
 
 /// The file beside certificate_host.exe that a setup is written to and read from, in UTF-8, a line for each
@@ -34,12 +34,12 @@ void WriteHostSetup(const HostSetup& setup, const std::filesystem::path& file);
 /// What the host shows in kHostResultEdit after the dialog has closed: a line "run <n>: ok" or "run <n>:
 /// cancelled" and, after OK, a line for each recipient, or for each list "list <name>" with its signers in
 /// the lines after it, each behind a tab. It is empty while the dialog runs.
-[[nodiscard]] std::wstring HostResult(int run, const TextList& recipients);
-[[nodiscard]] std::wstring HostResult(int run, const std::vector<SignerGroup>& lists);
+[[nodiscard]] std::wstring HostResult(int run, const store::TextList& recipients);
+[[nodiscard]] std::wstring HostResult(int run, const std::vector<store::SignerGroup>& lists);
 [[nodiscard]] std::wstring HostCancelled(int run);
 
 inline constexpr int kHostOpenButton = 10;
 inline constexpr int kHostResultEdit = 11;
 inline constexpr wchar_t kHostTitle[] = L"Certificate host";
 
-}  // namespace corvane
+}  // namespace corvane::test

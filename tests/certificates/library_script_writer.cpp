@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-namespace corvane {
+namespace corvane::test {
 
 using scriptable::Quoted;
 
@@ -84,4 +84,4 @@ void LibraryScriptWriter::NothingFor(const std::string& pattern) {
     Line({"nothing", Quoted("=" + pattern)});
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 
 #include "tests/certificates/scriptable/script_text.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// Writes the script of the scriptable library, line by line; scriptable/library_script.h tells what each
 /// does. Texts are bytes in the code page of the test, none is a null pointer.
@@ -49,4 +49,4 @@ class LibraryScriptWriter {
     std::string lines_;
 };
 
-}  // namespace corvane
+}  // namespace corvane::test

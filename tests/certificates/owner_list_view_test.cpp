@@ -1,4 +1,4 @@
-#include "certs/owner_list_view.h"
+#include "certificates/selection/owner_list_view.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -30,7 +30,7 @@ class OwnerListViewTest : public ::testing::Test {
         SetWindowSubclass(list_, &Control, 1, reinterpret_cast<DWORD_PTR>(this));
         view_.Attach(list_, L"Owners");
         Fill(kManyOwners);
-        view_.Show({}, SortMark::kNone);
+        view_.Show({}, certificates::SortMark::kNone);
     }
     void TearDown() override {
         RemoveWindowSubclass(list_, &Control, 1);
@@ -107,11 +107,11 @@ class OwnerListViewTest : public ::testing::Test {
     bool draws_ = true;
     int typedRow_ = -2;
     std::vector<LPARAM> stylesSet_;
-    OwnerListView view_{{
+    certificates::OwnerListView view_{{
         .count = [this] { return owners_.size(); },
         .row =
             [this](std::size_t row) {
-                return OwnerRow{owners_.at(row), checks_.at(row)};
+                return certificates::OwnerRow{owners_.at(row), checks_.at(row)};
             },
         .check = [this](std::size_t row, bool isChecked) { checks_.at(row) = isChecked; },
     }};
@@ -121,9 +121,9 @@ TEST_F(OwnerListViewTest, StaysWhereItIsScrolledToThroughARefill) {
     view_.Control().ScrollTo(17);
     ASSERT_EQ(TopRow(), 17);
     for (const std::size_t count : {kManyOwners, kManyOwners * 2, kManyOwners - 1}) {
-        const OwnerListView::Place place = view_.CurrentPlace();
+        const certificates::OwnerListView::Place place = view_.CurrentPlace();
         Fill(count);
-        view_.Show(place, SortMark::kNone);
+        view_.Show(place, certificates::SortMark::kNone);
         EXPECT_EQ(TopRow(), 17) << count;
     }
 }
@@ -131,10 +131,10 @@ TEST_F(OwnerListViewTest, StaysWhereItIsScrolledToThroughARefill) {
 TEST_F(OwnerListViewTest, KeepsSelectionAndFocusMarkOfARefill) {
     view_.Control().ScrollTo(17);
     view_.Control().SelectOnly(18);
-    const OwnerListView::Place place = view_.CurrentPlace();
+    const certificates::OwnerListView::Place place = view_.CurrentPlace();
     owners_.insert(owners_.begin(), L"A new one");
     checks_.push_back(false);
-    view_.Show(place, SortMark::kNone);
+    view_.Show(place, certificates::SortMark::kNone);
     EXPECT_THAT(view_.Control().SelectedRows(), ElementsAre(19U));
     EXPECT_EQ(view_.Control().FocusedRow(), 19);
     EXPECT_EQ(TopRow(), 17);
@@ -156,4 +156,4 @@ TEST_F(OwnerListViewTest, MakesItsCheckBoxesForTheNewScaleAndKeepsTheChecks) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include "tests/certificates/selection_driver.h"
 #include "tests/driver/win_events.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::ListView;
@@ -46,4 +46,4 @@ TEST_F(SelectionAnnouncements, TheSpaceBarAnnouncesEachSelectedRow) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include "tests/certificates/selection_driver.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -59,7 +59,7 @@ TEST_F(SelectionConfirming, AsksWithoutTheNetworkStoreWhereItIsNotUsed) {
 TEST_F(SelectionConfirming, AsksForSignersOfASignerList) {
     ScriptEveryone();
     OpenFirstList({{L"Board", {kAnn}}});
-    EXPECT_EQ(Confirm(), HostResult(1, std::vector<SignerGroup>{{L"Board", {kAnn}}}));
+    EXPECT_EQ(Confirm(), HostResult(1, std::vector<store::SignerGroup>{{L"Board", {kAnn}}}));
     EXPECT_EQ(Calls("FindCert").back(), SearchForOwner("104", "CN=Ann,C=GB"));
 }
 
@@ -88,7 +88,7 @@ TEST_F(SelectionConfirming, ACertificateThatCannotEncryptIsNoneForARecipient) {
     OpenRecipients({kBob});
     Control(IDOK).PostClick();
     ExpectMessageBox(Dialog(), kAskForBob, kBoxQuestion, IDYES);
-    EXPECT_EQ(ResultOfDialog(), HostResult(1, TextList{}));
+    EXPECT_EQ(ResultOfDialog(), HostResult(1, store::TextList{}));
 }
 
 TEST_F(SelectionConfirming, AFailedSearchIsReportedAndStops) {
@@ -106,7 +106,7 @@ TEST_F(SelectionConfirming, AFailedSearchIsReportedAndStops) {
 
 TEST_F(SelectionConfirming, NoRecipientsAreAccepted) {
     OpenRecipients();
-    EXPECT_EQ(Confirm(), HostResult(1, TextList{}));
+    EXPECT_EQ(Confirm(), HostResult(1, store::TextList{}));
 }
 
 TEST_F(SelectionConfirming, EnterConfirms) {
@@ -141,13 +141,15 @@ TEST_F(SelectionConfirming, ASignerListNeedsANameOfItsOwn) {
     ExpectBox(L"List name cannot contain the symbol '\\'", kBoxRefusal, IDOK);
     Control(IDC_SELECTION_LIST_NAME_EDIT).WaitForFocus();
     NameList(L"New staff");
-    EXPECT_EQ(Confirm(), HostResult(1, std::vector<SignerGroup>{{L"New staff", {kAnn}}, {L"Staff", {kBob}}}));
+    EXPECT_EQ(Confirm(),
+              HostResult(1, std::vector<store::SignerGroup>{{L"New staff", {kAnn}}, {L"Staff", {kBob}}}));
 }
 
 TEST_F(SelectionConfirming, AnEditedListMayKeepItsName) {
     ScriptEveryone();
     OpenFirstList({{L"Board", {kAnn}}, {L"Staff", {kBob}}});
-    EXPECT_EQ(Confirm(), HostResult(1, std::vector<SignerGroup>{{L"Board", {kAnn}}, {L"Staff", {kBob}}}));
+    EXPECT_EQ(Confirm(),
+              HostResult(1, std::vector<store::SignerGroup>{{L"Board", {kAnn}}, {L"Staff", {kBob}}}));
 }
 
 TEST_F(SelectionConfirming, ASignerListNeedsSigners) {
@@ -184,8 +186,8 @@ TEST_F(SelectionConfirming, SignersOfOtherListsAreExcludedAndReported) {
     SettleDialog();
     EXPECT_EQ(Chosen().Column(0), (Texts{kAnn, kCyd}));
     EXPECT_EQ(Confirm(),
-              HostResult(1, std::vector<SignerGroup>{{L"Board", {kAnn, kCyd}}, {L"Staff", {kBob}}}));
+              HostResult(1, std::vector<store::SignerGroup>{{L"Board", {kAnn, kCyd}}, {L"Staff", {kBob}}}));
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -12,7 +12,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// A test of the choice of recipients, or of the signers of a list, shown by the host as the rule editor
 /// shows it. No revocation lists are loaded before it, so the calls in the log are the dialog's own.
@@ -24,21 +24,22 @@ class SelectionTest : public CertificateTest {
     }
 
     /// Shows the dialog on `recipients`.
-    void OpenRecipients(const TextList& recipients = {}, Library library = Library::kScriptable) {
+    void OpenRecipients(const store::TextList& recipients = {}, Library library = Library::kScriptable) {
         setup.recipients = recipients;
         StartHost(library);
         dialog_ = OpenDialog();
     }
 
     /// Shows the dialog that adds a signer list to `lists`.
-    void OpenNewList(const std::vector<SignerGroup>& lists = {}, Library library = Library::kScriptable) {
+    void OpenNewList(const std::vector<store::SignerGroup>& lists = {},
+                     Library library = Library::kScriptable) {
         OpenLists(lists, library);
         lists_.Control(IDC_SIGNER_LISTS_ADD_BUTTON).PostClick();
         WaitForSelection();
     }
 
     /// Shows the dialog that edits the first of `lists`.
-    void OpenFirstList(const std::vector<SignerGroup>& lists, Library library = Library::kScriptable) {
+    void OpenFirstList(const std::vector<store::SignerGroup>& lists, Library library = Library::kScriptable) {
         OpenLists(lists, library);
         driver::ListView(lists_.Control(IDC_SIGNER_LISTS_LIST)).Select({0});
         lists_.Control(IDC_SIGNER_LISTS_EDIT_BUTTON).PostClick();
@@ -124,7 +125,7 @@ class SelectionTest : public CertificateTest {
     [[nodiscard]] driver::Window Parent() const { return lists_.Handle() != nullptr ? lists_ : Main(); }
 
   private:
-    void OpenLists(const std::vector<SignerGroup>& lists, Library library) {
+    void OpenLists(const std::vector<store::SignerGroup>& lists, Library library) {
         setup.dialog = HostSetup::Dialog::kSignerLists;
         setup.lists = lists;
         StartHost(library);
@@ -149,4 +150,4 @@ class SelectionTest : public CertificateTest {
     driver::Window dialog_;
 };
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include "tests/certificates/selection_driver.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -179,4 +179,4 @@ TEST_F(SelectionFilter, CancelSearchesNothing) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include "tests/certificates/selection_driver.h"
 #include "tests/driver/remote_block.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -16,7 +16,7 @@ constexpr wchar_t kNovak[] = L"CN=novak,O=Alpha,C=CZ";
 
 class SelectionLists : public SelectionTest {
   protected:
-    void OpenWithFourFound(const TextList& recipients = {}) {
+    void OpenWithFourFound(const store::TextList& recipients = {}) {
         for (const char* const owner :
              {"CN=IVANOV,O=Bravo,C=RU", "CN=Adams,O=Charlie,C=GB", "CN=Bell,C=US", "CN=novak,O=Alpha,C=CZ"}) {
             script.Certificate(LibraryScriptWriter::kEvery, owner);
@@ -399,4 +399,4 @@ TEST_F(SelectionLists, TheFocusGoesToTheLastRowThatStaysWhenItsOwnGoes) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

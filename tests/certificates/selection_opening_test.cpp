@@ -4,7 +4,7 @@
 #include "tests/driver/icon.h"
 #include "tests/driver/tool_tips.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -137,4 +137,4 @@ TEST_F(SelectionOpening, ExitCancels) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

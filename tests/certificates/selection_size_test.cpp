@@ -2,7 +2,7 @@
 
 #include "tests/certificates/selection_driver.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 LONG Width(const RECT& bounds) {
@@ -91,4 +91,4 @@ TEST_F(SelectionSize, AMaximisedWindowIsFilledToo) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

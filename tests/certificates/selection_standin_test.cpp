@@ -4,7 +4,7 @@
 
 #include "tests/certificates/selection_driver.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -90,4 +90,4 @@ TEST_F(SelectionAmongCertificates, AnOwnerWhoseCertificateHasExpiredIsAFailedSea
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,7 +1,7 @@
 #include "tests/certificates/selection_driver.h"
 #include "tests/driver/tool_tips.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class SelectionToolTips : public SelectionTest {};
@@ -13,4 +13,4 @@ TEST_F(SelectionToolTips, AppearWhereTheMouseRests) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

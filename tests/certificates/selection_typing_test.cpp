@@ -5,7 +5,7 @@
 #include "tests/certificates/selection_driver.h"
 #include "tests/driver/file_dialog.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class SelectionTyping : public SelectionTest {
@@ -75,4 +75,4 @@ TEST_F(SelectionTyping, TheDeleteKeyDeletesACharacterInBothFields) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,6 +1,6 @@
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -102,8 +102,8 @@ TEST_F(ClosingTest, FailsAndIsReportedToTheSignerListsDialog) {
 
 TEST_F(ClosingTest, OpensANewContextForEachDialog) {
     StartHost();
-    EXPECT_EQ(Leave(OpenDialog(), IDOK), HostResult(1, TextList{}));
-    EXPECT_EQ(Leave(OpenDialog(), IDOK), HostResult(2, TextList{}));
+    EXPECT_EQ(Leave(OpenDialog(), IDOK), HostResult(1, store::TextList{}));
+    EXPECT_EQ(Leave(OpenDialog(), IDOK), HostResult(2, store::TextList{}));
     EXPECT_EQ(MainCalls(Calls()),
               (std::vector<std::string>{
                   "Initialize name=\"Clearing\" flags=80000045 -> 0", "Uninitialize context=1 -> 0",
@@ -111,4 +111,4 @@ TEST_F(ClosingTest, OpensANewContextForEachDialog) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/certificates/held_call.h"
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -227,4 +227,4 @@ TEST_F(ModalityTest, ASecondCryptocontextIsNotBegunInsideTheFirst) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

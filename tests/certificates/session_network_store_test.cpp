@@ -1,6 +1,6 @@
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -136,4 +136,4 @@ TEST_F(NetworkStoreTest, IsCheckedForSignerListsToo) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,9 +2,9 @@
 
 #include "tests/certificates/session_test.h"
 #include "tests/windows/sample_configuration.h"
-#include "toolkit/kept_current_folder.h"
+#include "toolkit/files/path_pickers.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -225,8 +225,8 @@ TEST_F(OpeningTest, ReportsToTheSignerListsDialog) {
     ExpectMessageBox(lists, ReportText(L"Loading crypto provider library (tarn1.dll)", ERROR_MOD_NOT_FOUND),
                      kBoxReport, IDOK);
     lists.WaitUntilEnabled();
-    EXPECT_EQ(Leave(lists, IDOK), HostResult(1, std::vector<SignerGroup>{}));
+    EXPECT_EQ(Leave(lists, IDOK), HostResult(1, std::vector<store::SignerGroup>{}));
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

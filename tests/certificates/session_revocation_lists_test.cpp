@@ -2,7 +2,7 @@
 
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -241,4 +241,4 @@ TEST_F(RevocationListsTest, AreLoadedForSignerListsToo) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::ListView;
@@ -76,4 +76,4 @@ TEST_F(ShutdownTest, AsksForSignerListsThatWereChanged) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

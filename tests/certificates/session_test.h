@@ -9,7 +9,7 @@
 #include "tests/driver/waiting.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 
 inline constexpr wchar_t kRefreshTimesValue[] = L"LastCrlUpdate";
 inline constexpr wchar_t kRefreshTimesKey[] = L"tarntray";
@@ -69,4 +69,4 @@ inline std::vector<std::string> MainCalls(const std::vector<std::string>& calls)
     return main;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,10 +1,10 @@
 #include <algorithm>
 
-#include "certs/wait_window.h"
+#include "certificates/session/wait_window.h"
 #include "tests/certificates/held_call.h"
 #include "tests/certificates/session_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -31,7 +31,7 @@ TEST_F(WaitWindowTest, StandsWithItsTextWhileTheLibraryIsAtWork) {
     HeldCall held(script, "Initialize", 1);
     StartHost();
     const Window window = PressAndWait();
-    EXPECT_EQ(driver::Utf8(StoredText(window.Control(IDC_WAIT_TEXT))), driver::Utf8(kWaitText));
+    EXPECT_EQ(driver::Utf8(StoredText(window.Control(IDC_WAIT_TEXT))), driver::Utf8(certificates::kWaitText));
     EXPECT_EQ(driver::Utf8(StoredText(window)), driver::Utf8(kProgramTitle));
     EXPECT_EQ(window.Owner(), Main());
     EXPECT_FALSE(Main().IsEnabled()) << "the owner collects clicks that nobody sees";
@@ -137,4 +137,4 @@ TEST_F(WaitWindowTest, DoesNotComeWithoutALibrary) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -3,16 +3,16 @@
 #include "tests/certificates/session_test.h"
 #include "tests/driver/icon.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::ListView;
 using driver::Texts;
 using driver::Window;
 
-const SignerGroup kDirectors = {L"Directors", {L"CN=Anna,C=GB", L"CN=Boris,O=\"A, B\",C=RU"}};
-const SignerGroup kClerks = {L"Clerks", {L"CN=Clara,C=GB"}};
-const SignerGroup kAuditors = {L"Auditors", {L"CN=Dora,C=GB"}};
+const store::SignerGroup kDirectors = {L"Directors", {L"CN=Anna,C=GB", L"CN=Boris,O=\"A, B\",C=RU"}};
+const store::SignerGroup kClerks = {L"Clerks", {L"CN=Clara,C=GB"}};
+const store::SignerGroup kAuditors = {L"Auditors", {L"CN=Dora,C=GB"}};
 
 class SignerListsTest : public SessionTest {
   protected:
@@ -20,7 +20,7 @@ class SignerListsTest : public SessionTest {
         CheckNothing();
         setup.dialog = HostSetup::Dialog::kSignerLists;
         setup.lists = {kDirectors, kClerks, kAuditors};
-        for (const SignerGroup& list : setup.lists) {
+        for (const store::SignerGroup& list : setup.lists) {
             for (const std::wstring& signer : list.signers) {
                 script.CertificateFor(ToCodePage(signer), ToCodePage(signer), 0);
             }
@@ -142,7 +142,7 @@ TEST_F(SignerListsTest, AddsAList) {
     EXPECT_EQ(List().RowCount(), 4);
     EXPECT_EQ(List().Row(3), (Texts{L"New", L"CN=Emma,C=GB"}));
     EXPECT_EQ(List().SelectedRows(), std::vector<int>{1}) << "the selection was lost";
-    std::vector<SignerGroup> lists = setup.lists;
+    std::vector<store::SignerGroup> lists = setup.lists;
     lists.push_back({L"New", {L"CN=Emma,C=GB"}});
     EXPECT_EQ(Leave(Dialog(), IDOK), HostResult(1, lists));
     EXPECT_EQ(Calls().back(), "Uninitialize context=1 -> 0");
@@ -182,11 +182,12 @@ TEST_F(SignerListsTest, RenamesAndChangesAListInItsPlace) {
     ChooseEmma(selection);
     selection.Control(IDOK).PostClick();
     WaitForDialogBack();
-    const SignerGroup changed = {L"Clerks of today", {L"CN=Clara,C=GB", L"CN=Emma,C=GB"}};
+    const store::SignerGroup changed = {L"Clerks of today", {L"CN=Clara,C=GB", L"CN=Emma,C=GB"}};
     EXPECT_EQ(List().Row(1), (Texts{L"Clerks of today", L"CN=Clara,C=GB; CN=Emma,C=GB"}));
     EXPECT_EQ(List().RowCount(), 3);
     EXPECT_EQ(List().SelectedRows(), std::vector<int>{1}) << "the selection was lost";
-    EXPECT_EQ(Leave(Dialog(), IDOK), HostResult(1, std::vector<SignerGroup>{kDirectors, changed, kAuditors}));
+    EXPECT_EQ(Leave(Dialog(), IDOK),
+              HostResult(1, std::vector<store::SignerGroup>{kDirectors, changed, kAuditors}));
 }
 
 TEST_F(SignerListsTest, AcceptsAListThatKeepsItsName) {
@@ -245,7 +246,7 @@ TEST_F(SignerListsTest, DeletesTheSelectedListsAfterAsking) {
     EXPECT_EQ(List().Column(0), Texts{L"Clerks"});
     EXPECT_TRUE(List().SelectedRows().empty());
     EXPECT_FALSE(Button(IDC_SIGNER_LISTS_DELETE_BUTTON).IsEnabled());
-    EXPECT_EQ(Leave(Dialog(), IDOK), HostResult(1, std::vector<SignerGroup>{kClerks}));
+    EXPECT_EQ(Leave(Dialog(), IDOK), HostResult(1, std::vector<store::SignerGroup>{kClerks}));
 }
 
 TEST_F(SignerListsTest, DeletesByTheDeleteKey) {
@@ -351,7 +352,7 @@ TEST_F(SignerListsTest, FillsItsColumnsIntoTheListBesideAScrollBar) {
 }
 
 TEST_F(SignerListsTest, ShowsAListOfThousandsOfSigners) {
-    SignerGroup large = {L"large", {}};
+    store::SignerGroup large = {L"large", {}};
     for (int i = 0; i < 5000; ++i) {
         large.signers.push_back(L"CN=Signer " + std::to_wstring(i) + L",C=GB");
     }
@@ -362,4 +363,4 @@ TEST_F(SignerListsTest, ShowsAListOfThousandsOfSigners) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

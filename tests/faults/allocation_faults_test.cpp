@@ -9,20 +9,18 @@
 #include <utility>
 #include <vector>
 
-#include "app/config_page_form.h"
-#include "app/reporting/message_styles.h"
-#include "certs/recipient_selection.h"
-#include "certs/signer_lists_form.h"
-#include "config/load_configuration.h"
-#include "config/rules_file.h"
-#include "config/rules_file_text.h"
-#include "config/save_configuration.h"
-#include "editors/cs_profile_commands.h"
-#include "editors/profile_commit.h"
-#include "editors/profile_opening.h"
-#include "editors/rule_commit.h"
-#include "editors/rule_opening.h"
-#include "editors/rule_operation_change.h"
+#include "app/extensions_page/extensions_page_form.h"
+#include "certificates/selection/recipient_selection.h"
+#include "certificates/signer_lists/signer_lists_form.h"
+#include "editors/profile/cs_profile_commands.h"
+#include "editors/profile/profile_form.h"
+#include "editors/rule/rule_commit.h"
+#include "editors/rule/rule_opening.h"
+#include "editors/rule/rule_operation_change.h"
+#include "reporting/message_styles.h"
+#include "store/registry/load_configuration.h"
+#include "store/registry/save_configuration.h"
+#include "store/rules_file/rules_file.h"
 #include "tests/faults/failing_memory.h"
 #include "tests/faults/stored_configuration.h"
 #include "tests/support/memory_files.h"
@@ -38,7 +36,7 @@
 // Whoever catches the exception shows it and goes on with the records and the form at hand, so those must be
 // as they were, or whole; and nothing may leak.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 // The stand-ins for the system, whose own memory is never short.
@@ -52,7 +50,7 @@ class UncountedPresenter : public RecordingPresenter {
     }
 };
 
-class UncountedRegistry : public RegistryCalls {
+class UncountedRegistry : public store::RegistryCalls {
   public:
     std::uint32_t Open(Key parent, const std::wstring& path, std::uint32_t access, Transaction transaction,
                        Key& key) override {
@@ -133,7 +131,7 @@ struct World {
     ScriptedSystemMessages messages;
     ScriptedProvider provider;
     TestSystemText text{CodePage::kCyrillic};
-    ErrorReporter reporter{presenter, messages, provider, text};
+    reporting::ErrorReporter reporter{presenter, messages, provider, text};
 };
 
 // Runs `act` on a fresh `Case` again and again; each time the next allocation fails. `check` then looks at
@@ -179,12 +177,13 @@ struct StoredCase : World {
     StoredCase() { PutStoredConfiguration(registry.memory); }
 
     bool Load() {
-        RegistryAccess access(registry, reporter);
-        return LoadConfiguration(state, access, reporter, nullptr);
+        store::RegistryAccess access(registry, reporter);
+        return store::LoadConfiguration(state, access, reporter, nullptr);
     }
     void Save() {
-        RegistryAccess access(registry, reporter);
-        SaveConfiguration(state, {.top = 1, .bottom = 2, .left = 3, .right = 4}, access, reporter, nullptr);
+        store::RegistryAccess access(registry, reporter);
+        store::SaveConfiguration(state, {.top = 1, .bottom = 2, .left = 3, .right = 4}, access, reporter,
+                                 nullptr);
     }
     void ExpectKeysClosed() const {
         EXPECT_EQ(registry.memory.OpenKeys(), 0U);
@@ -192,11 +191,11 @@ struct StoredCase : World {
     }
 
     UncountedRegistry registry;
-    ConfigurationState state;
+    store::ConfigurationState state;
 };
 
 TEST(AllocationFaults, ALoadLeavesWholeProfilesAndClosedKeys) {
-    ConfigurationState clean;
+    store::ConfigurationState clean;
     {
         StoredCase undisturbed;
         ASSERT_TRUE(undisturbed.Load());
@@ -216,7 +215,7 @@ TEST(AllocationFaults, ALoadLeavesWholeProfilesAndClosedKeys) {
                 EXPECT_EQ(subject.presenter.OnlyText(), ReportText(kOutOfMemory, 8));
                 return;
             }
-            const std::vector<Profile>& profiles = subject.state.profiles;
+            const std::vector<store::Profile>& profiles = subject.state.profiles;
             ASSERT_LE(profiles.size(), clean.profiles.size());
             EXPECT_TRUE(std::equal(profiles.begin(), profiles.end(), clean.profiles.begin()))
                 << "a profile that was not read whole";
@@ -237,7 +236,7 @@ TEST(AllocationFaults, ASaveThatEndsEarlyKeepsTheRecordsAndStaysDirtyAndCanBeRep
     FailEachAllocation<ChangedCase>([](ChangedCase& subject) { subject.Save(); },
                                     [&clean](ChangedCase& subject, bool isThrown) {
                                         subject.ExpectKeysClosed();
-                                        ConfigurationState records = ChangedConfiguration();
+                                        store::ConfigurationState records = ChangedConfiguration();
                                         records.isDirty = isThrown;
                                         EXPECT_TRUE(subject.state == records);
                                         if (!isThrown) {
@@ -251,21 +250,22 @@ TEST(AllocationFaults, ASaveThatEndsEarlyKeepsTheRecordsAndStaysDirtyAndCanBeRep
 
 constexpr wchar_t kPath[] = L"C:\\exchange\\the rules of the profile.prx";
 
-std::vector<Rule> ExportedRules() {
+std::vector<store::Rule> ExportedRules() {
     return ChangedConfiguration().profiles[0].rules;
 }
 
 struct FileCase : World {
     FileCase() { files.memory.contents[kPath] = "an older export"; }
 
-    std::vector<Rule> rules = ExportedRules();
+    std::vector<store::Rule> rules = ExportedRules();
     UncountedFiles files;
 };
 
 TEST(AllocationFaults, AnExportThatFailsLeavesTheOlderFile) {
     FailEachAllocation<FileCase>(
         [](FileCase& subject) {
-            static_cast<void>(WriteRulesFile(kPath, subject.rules, subject.files, subject.reporter, nullptr));
+            static_cast<void>(
+                store::WriteRulesFile(kPath, subject.rules, subject.files, subject.reporter, nullptr));
         },
         [](FileCase& subject, bool isThrown) {
             EXPECT_TRUE(isThrown);
@@ -277,7 +277,7 @@ TEST(AllocationFaults, AnExportThatFailsLeavesTheOlderFile) {
 
 struct ImportCase : FileCase {
     ImportCase() {
-        const std::wstring content = FormatRulesFile(rules);
+        const std::wstring content = store::FormatRulesFile(rules);
         files.memory.contents[kPath] = {content.begin(), content.end()};
     }
 };
@@ -286,9 +286,9 @@ TEST(AllocationFaults, AnImportThatFailsClosesItsFile) {
     FailEachAllocation<ImportCase>(
         [](ImportCase& subject) {
             const std::optional<std::string> bytes =
-                ReadRulesFile(kPath, subject.files, subject.reporter, nullptr);
+                store::ReadRulesFile(kPath, subject.files, subject.reporter, nullptr);
             if (bytes) {
-                subject.rules = ParseRulesFile(*bytes, subject.text);
+                subject.rules = store::ParseRulesFile(*bytes, subject.text);
             }
         },
         [](ImportCase& subject, bool isThrown) {
@@ -298,8 +298,8 @@ TEST(AllocationFaults, AnImportThatFailsClosesItsFile) {
         });
 }
 
-Profile EditedProfile() {
-    Profile profile;
+store::Profile EditedProfile() {
+    store::Profile profile;
     profile.name = L"A profile with a name that is not short";
     profile.csProfiles = {L"The first CS profile of all", L"The second CS profile of all",
                           L"The third CS profile of all"};
@@ -309,8 +309,8 @@ Profile EditedProfile() {
     return profile;
 }
 
-Rule EditedRule() {
-    Rule rule;
+store::Rule EditedRule() {
+    store::Rule rule;
     rule.operation = L"ENCR";
     rule.csProfile = L"The second CS profile of all";
     rule.inputFolder = L"C:\\a folder of incoming files";
@@ -321,53 +321,56 @@ Rule EditedRule() {
 }
 
 struct RuleCase : World {
-    Profile profile = EditedProfile();
-    Rule rule = EditedRule();
-    AcceptedCsProfile accepted{.index = 7};
-    RuleForm form;
+    store::Profile profile = EditedProfile();
+    store::Rule rule = EditedRule();
+    editors::AcceptedCsProfile accepted{.index = 7};
+    editors::RuleForm form;
 };
 
 TEST(AllocationFaults, ARuleThatCannotBeOpenedLeavesTheAcceptedCsProfile) {
     FailEachAllocation<RuleCase>(
-        [](RuleCase& subject) { subject.form = OpenRule(subject.profile, subject.rule, subject.accepted); },
+        [](RuleCase& subject) {
+            subject.form = editors::OpenRule(subject.profile, subject.rule, subject.accepted);
+        },
         [](RuleCase& subject, bool isThrown) {
             EXPECT_TRUE(isThrown);
             EXPECT_EQ(subject.accepted.index, 7);
-            EXPECT_TRUE(subject.form == RuleForm());
+            EXPECT_TRUE(subject.form == editors::RuleForm());
         });
 }
 
 struct OpenedRuleCase : RuleCase {
     OpenedRuleCase() {
-        form = OpenRule(profile, rule, accepted);
+        form = editors::OpenRule(profile, rule, accepted);
         form.result.signerGroups = {{L"A list of signers with a long name", {L"CN=Signer"}}};
-        for (TextField& field : form.texts) {
+        for (editors::TextField& field : form.texts) {
             field.text = L"a text that is not short at all";
         }
     }
 };
 
 TEST(AllocationFaults, AChangeOfTheOperationThatFailsIsMadeGoodByTheNextOne) {
-    constexpr Operation kOperations[] = {Operation::kEncrypt, Operation::kVerify,  Operation::kMove,
-                                         Operation::kDelete,  Operation::kResign,  Operation::kArchive,
-                                         Operation::kPack,    Operation::kExecute, Operation::kSign};
+    constexpr editors::Operation kOperations[] = {
+        editors::Operation::kEncrypt, editors::Operation::kVerify,  editors::Operation::kMove,
+        editors::Operation::kDelete,  editors::Operation::kResign,  editors::Operation::kArchive,
+        editors::Operation::kPack,    editors::Operation::kExecute, editors::Operation::kSign};
     std::size_t failures = 0;
-    for (const Operation previous : kOperations) {
-        for (const Operation next : kOperations) {
+    for (const editors::Operation previous : kOperations) {
+        for (const editors::Operation next : kOperations) {
             SCOPED_TRACE(std::to_string(static_cast<int>(previous)) + " to " +
                          std::to_string(static_cast<int>(next)));
             const auto prepare = [previous](OpenedRuleCase& subject) {
                 subject.form.operation.index = static_cast<int>(previous);
-                ChangeOperation(subject.form);
-                for (ChoiceField& choice : subject.form.choices) {
+                editors::ChangeOperation(subject.form);
+                for (editors::ChoiceField& choice : subject.form.choices) {
                     choice.index = 1;
                 }
             };
             const auto change = [next](OpenedRuleCase& subject) {
                 subject.form.operation.index = static_cast<int>(next);
-                ChangeOperation(subject.form);
+                editors::ChangeOperation(subject.form);
             };
-            RuleForm clean;
+            editors::RuleForm clean;
             {
                 OpenedRuleCase undisturbed;
                 prepare(undisturbed);
@@ -399,11 +402,11 @@ TEST(AllocationFaults, AChangeOfTheCsProfileThatFailsAcceptsNothing) {
         [](OpenedRuleCase& subject) {
             {
                 const UncountedMemory uncounted;
-                subject.presenter.AnswerNext(kAnswerYes);
-                subject.presenter.AnswerNext(kAnswerYes);
+                subject.presenter.AnswerNext(reporting::kAnswerYes);
+                subject.presenter.AnswerNext(reporting::kAnswerYes);
                 subject.form.csProfile.index = 2;
             }
-            ChangeCsProfile(subject.form, subject.accepted, subject.reporter, nullptr);
+            editors::ChangeCsProfile(subject.form, subject.accepted, subject.reporter, nullptr);
         },
         [](OpenedRuleCase& subject, bool isThrown) {
             EXPECT_TRUE(isThrown);
@@ -413,9 +416,9 @@ TEST(AllocationFaults, AChangeOfTheCsProfileThatFailsAcceptsNothing) {
 }
 
 TEST(AllocationFaults, ACommittedRuleThatFailsLeavesTheForm) {
-    const RuleForm opened = OpenedRuleCase().form;
+    const editors::RuleForm opened = OpenedRuleCase().form;
     FailEachAllocation<OpenedRuleCase>(
-        [](OpenedRuleCase& subject) { subject.rule = CommitRule(subject.form); },
+        [](OpenedRuleCase& subject) { subject.rule = editors::CommitRule(subject.form); },
         [&opened](OpenedRuleCase& subject, bool isThrown) {
             EXPECT_TRUE(isThrown);
             EXPECT_TRUE(subject.form == opened);
@@ -424,9 +427,9 @@ TEST(AllocationFaults, ACommittedRuleThatFailsLeavesTheForm) {
 }
 
 struct ProfileCase : World {
-    ProfileCase() : form(OpenProfileForm(EditedProfile(), {}, shown)) {
+    ProfileCase() : form(editors::OpenProfileForm(EditedProfile(), {}, shown)) {
         form.selectedCsProfile = 1;
-        ChangeShownCsProfile(form, shown);
+        editors::ChangeShownCsProfile(form, shown);
         form.shown.timeStampServer = L"http://changed.example/time-stamps";
     }
 
@@ -434,7 +437,7 @@ struct ProfileCase : World {
     void ExpectConsistent() const {
         const std::size_t count = form.result.csProfiles.size();
         EXPECT_EQ(form.result.timeStampServers.size(), count);
-        for (const NumberList* list :
+        for (const store::NumberList* list :
              {&form.result.notUseDirectory, &form.result.notAddCertificate, &form.result.notCopyToLocal,
               &form.result.autoVerifyTimeStamp, &form.result.noTimeStampIsError,
               &form.result.useAuthorityAccess, &form.result.autoUseTimeStamp, &form.result.notLoadCrl,
@@ -445,8 +448,8 @@ struct ProfileCase : World {
         EXPECT_EQ(form.result.csProfiles[static_cast<std::size_t>(shown.index)], form.shown.name);
     }
 
-    ShownCsProfile shown;
-    ProfileForm form;
+    editors::ShownCsProfile shown;
+    editors::ProfileForm form;
 };
 
 void FailProfileCommand(const std::function<void(ProfileCase&)>& command) {
@@ -459,13 +462,14 @@ void FailProfileCommand(const std::function<void(ProfileCase&)>& command) {
 TEST(AllocationFaults, AnotherCsProfileThatCannotBeShownLeavesTheShownOne) {
     FailProfileCommand([](ProfileCase& subject) {
         subject.form.selectedCsProfile = 2;
-        ChangeShownCsProfile(subject.form, subject.shown);
+        editors::ChangeShownCsProfile(subject.form, subject.shown);
     });
 }
 
 TEST(AllocationFaults, ACsProfileThatCannotBeAddedLeavesAWholeProfile) {
     FailProfileCommand([](ProfileCase& subject) {
-        AddCsProfile(subject.form, L"One more CS profile than there was", subject.shown, subject.text);
+        editors::AddCsProfile(subject.form, L"One more CS profile than there was", subject.shown,
+                              subject.text);
     });
 }
 
@@ -473,33 +477,33 @@ TEST(AllocationFaults, ACsProfileThatCannotBeDeletedLeavesAWholeProfile) {
     FailProfileCommand([](ProfileCase& subject) {
         {
             const UncountedMemory uncounted;
-            subject.presenter.AnswerNext(kAnswerYes);
+            subject.presenter.AnswerNext(reporting::kAnswerYes);
         }
-        DeleteCsProfile(subject.form, subject.shown, subject.reporter, nullptr);
+        editors::DeleteCsProfile(subject.form, subject.shown, subject.reporter, nullptr);
     });
 }
 
 TEST(AllocationFaults, AProfileThatCannotBeCommittedIsWhole) {
-    FailProfileCommand([](ProfileCase& subject) { CommitProfile(subject.form); });
+    FailProfileCommand([](ProfileCase& subject) { editors::CommitProfile(subject.form); });
 }
 
-std::vector<std::wstring> Rows(const RecipientSelectionForm& form) {
+std::vector<std::wstring> Rows(const certificates::RecipientSelectionForm& form) {
     std::vector<std::wstring> rows;
     for (std::size_t i = 0; i < form.FoundRowCount(); ++i) {
         rows.emplace_back(form.FoundRow(i).owner);
     }
-    rows.emplace_back(form.FoundSortMark() == SortMark::kUp ? L"up" : L"not up");
+    rows.emplace_back(form.FoundSortMark() == certificates::SortMark::kUp ? L"up" : L"not up");
     for (std::size_t i = 0; i < form.ChosenRowCount(); ++i) {
         rows.emplace_back(form.ChosenRow(i).owner);
     }
-    rows.emplace_back(form.ChosenSortMark() == SortMark::kUp ? L"up" : L"not up");
+    rows.emplace_back(form.ChosenSortMark() == certificates::SortMark::kUp ? L"up" : L"not up");
     return rows;
 }
 
 struct SelectionCase : World {
     SelectionCase() {
         settings.signerMode = 1;
-        SelectionStart start;
+        certificates::SelectionStart start;
         start.chosen = {L"CN=Zoe, chosen before all others", L"CN=Other, who signs elsewhere"};
         start.existingLists = {{L"Another list of signers", {L"CN=Ben, found and not chosen yet"}}};
         form.emplace(settings, std::move(start), text);
@@ -510,12 +514,12 @@ struct SelectionCase : World {
         form->CheckChosen(0, true);
     }
 
-    CertSearchSettings settings;
-    std::optional<RecipientSelectionForm> form;
+    certificates::CertSearchSettings settings;
+    std::optional<certificates::RecipientSelectionForm> form;
 };
 
-class SelectionUnderFailure
-    : public ::testing::TestWithParam<std::pair<const char*, void (*)(RecipientSelectionForm&)>> {};
+class SelectionUnderFailure : public ::testing::TestWithParam<
+                                  std::pair<const char*, void (*)(certificates::RecipientSelectionForm&)>> {};
 
 TEST_P(SelectionUnderFailure, ShowsItsListsAsTheyWereOrAsTheyShallBe) {
     const auto command = GetParam().second;
@@ -541,25 +545,28 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         std::pair(
             "AddFound",
-            +[](RecipientSelectionForm& form) {
+            +[](certificates::RecipientSelectionForm& form) {
                 form.AddFound({L"CN=Cid, who was found just now", L"CN=Dan, who was found just now",
                                L"CN=Eve, who was found just now"});
             }),
         std::pair(
-            "SetFilter", +[](RecipientSelectionForm& form) { form.SetFilter(L"ann, found and not"); }),
+            "SetFilter",
+            +[](certificates::RecipientSelectionForm& form) { form.SetFilter(L"ann, found and not"); }),
         std::pair(
-            "SetSortField", +[](RecipientSelectionForm& form) { form.SetSortField(1); }),
+            "SetSortField", +[](certificates::RecipientSelectionForm& form) { form.SetSortField(1); }),
         std::pair(
-            "ClickFoundHeader", +[](RecipientSelectionForm& form) { form.ClickFoundHeader(); }),
+            "ClickFoundHeader", +[](certificates::RecipientSelectionForm& form) { form.ClickFoundHeader(); }),
         std::pair(
-            "ClickChosenHeader", +[](RecipientSelectionForm& form) { form.ClickChosenHeader(); }),
+            "ClickChosenHeader",
+            +[](certificates::RecipientSelectionForm& form) { form.ClickChosenHeader(); }),
         std::pair(
-            "AddChecked", +[](RecipientSelectionForm& form) { static_cast<void>(form.AddChecked()); }),
+            "AddChecked",
+            +[](certificates::RecipientSelectionForm& form) { static_cast<void>(form.AddChecked()); }),
         std::pair(
-            "RemoveChecked", +[](RecipientSelectionForm& form) { form.RemoveChecked(); })),
+            "RemoveChecked", +[](certificates::RecipientSelectionForm& form) { form.RemoveChecked(); })),
     [](const auto& row) { return row.param.first; });
 
-std::vector<SignerGroup> EditedLists() {
+std::vector<store::SignerGroup> EditedLists() {
     return {{L"The first list of signers", {L"CN=A signer with a long name", L"CN=B"}},
             {L"The second list of signers", {L"CN=C"}},
             {L"The third list of signers", {L"CN=D"}},
@@ -569,7 +576,7 @@ std::vector<SignerGroup> EditedLists() {
 struct ListsCase : SelectionCase {
     ListsCase() { form->listName = L"A new name for a list of signers"; }
 
-    SignerListsForm lists{EditedLists()};
+    certificates::SignerListsForm lists{EditedLists()};
 };
 
 void FailListsCommand(const std::function<void(ListsCase&)>& command) {
@@ -585,21 +592,22 @@ TEST(AllocationFaults, SignerListsThatCannotBeChangedAreAsTheyWere) {
     FailListsCommand([](ListsCase& subject) {
         {
             const UncountedMemory uncounted;
-            subject.presenter.AnswerNext(kAnswerYes);
+            subject.presenter.AnswerNext(reporting::kAnswerYes);
         }
         static_cast<void>(subject.lists.Delete({1}, subject.reporter, nullptr));
     });
 }
 
 struct ConfigPageCase : World {
-    static AppSettings Stored() {
-        AppSettings settings;
+    static store::AppSettings Stored() {
+        store::AppSettings settings;
         settings.additionalExtensions = {L"the first of all extensions", L"the second of all extensions"};
         return settings;
     }
 
-    ConfigPageForm form{Stored()};
-    corvane::TextList listed{L"another extension than the first one", L"another extension than the second"};
+    app::ConfigPageForm form{Stored()};
+    corvane::store::TextList listed{L"another extension than the first one",
+                                    L"another extension than the second"};
 };
 
 TEST(AllocationFaults, ExtensionsThatCannotBeAppliedAreAsTheyWereAndCanBeAppliedAgain) {
@@ -616,4 +624,4 @@ TEST(AllocationFaults, ExtensionsThatCannotBeAppliedAreAsTheyWereAndCanBeApplied
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

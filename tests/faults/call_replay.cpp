@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <iterator>
 
-#include "config/registry_calls.h"
+#include "store/registry/registry_calls.h"
 #include "tests/support/store_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -93,12 +93,12 @@ std::wstring ReadReport(const std::wstring& kind, const std::wstring& name, std:
 
 std::wstring WriteReport(const RegistryCall& set, std::uint32_t code) {
     std::wstring kind = L"multistring";
-    if (set.written.type == kTypeNumber) {
+    if (set.written.type == store::kTypeNumber) {
         kind = L"integer";
-    } else if (set.written.type == kTypeText) {
+    } else if (set.written.type == store::kTypeText) {
         kind = L"string";
     }
     return ReportText(L"Writing " + kind + L" value '" + set.name + L"' into register", code);
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

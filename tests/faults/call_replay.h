@@ -8,7 +8,7 @@
 #include "tests/support/memory_registry.h"
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// The codes with which calls fail, each plausible for some reason of the system's.
 inline constexpr std::uint32_t kFailureCodes[] = {2, 5, 13, 87, 234, 1018};
@@ -36,4 +36,4 @@ void ExpectSameCalls(const std::vector<RegistryCall>& expected, const std::vecto
 [[nodiscard]] std::wstring ReadReport(const std::wstring& kind, const std::wstring& name, std::uint32_t code);
 [[nodiscard]] std::wstring WriteReport(const RegistryCall& set, std::uint32_t code);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "certs/group_file.h"
-#include "certs/recipient_selection.h"
+#include "certificates/group_file/group_file.h"
+#include "certificates/selection/recipient_selection.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_registry.h"
 #include "tests/support/recording_input_gate.h"
@@ -21,7 +21,7 @@
 // failing in turn, with the codes of every family. Nothing that was handed out is kept, what the user had
 // chosen stays, and no failure goes by unseen unless it may.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 constexpr std::array<std::uint32_t, 6> kStatuses = {1,          0x80070005, 0xE0000005,
@@ -30,23 +30,23 @@ constexpr std::array<std::uint32_t, 5> kCodes = {2, 5, 32, 112, 1117};
 constexpr wchar_t kProgramKeyPath[] = L"SOFTWARE\\HOLVAN\\tarntray";
 constexpr wchar_t kPath[] = L"C:\\groups\\friends.grx";
 
-class CountedWarnings : public WarningPresenter {
+class CountedWarnings : public certificates::WarningPresenter {
   public:
     void Show(toolkit::WindowHandle /*owner*/, const std::wstring& /*text*/, const std::wstring& /*title*/,
-              WarningMode /*mode*/) override {
+              certificates::WarningMode /*mode*/) override {
         ++count;
     }
     std::size_t count = 0;
 };
 
-class CountedWaitWindow : public WaitWindow {
+class CountedWaitWindow : public certificates::WaitWindow {
   public:
     void Show(toolkit::WindowHandle /*parent*/, const std::wstring& /*text*/) override { ++shown; }
     void Destroy() override { --shown; }
     int shown = 0;
 };
 
-class StandingClock : public Clock {
+class StandingClock : public certificates::Clock {
   public:
     [[nodiscard]] std::int64_t SecondsSince1970() const override { return 1'600'000'000; }
 };
@@ -65,23 +65,26 @@ class Session {
         sessions.failedSearchesHandOut = true;
         sessions.certificates = {{"CN=A", 0x1C, "CN=Issuer", std::vector<std::uint8_t>{1, 2}},
                                  {std::nullopt, 0x1C, std::nullopt, std::nullopt}};
-        for (const ProviderContext context : {ProviderContext{0}, ScriptedSessions::kFirstContext}) {
+        for (const provider::ProviderContext context :
+             {provider::ProviderContext{0}, ScriptedSessions::kFirstContext}) {
             reports.provider.PushError(context, {"text", "file", 1, std::nullopt});
         }
     }
 
-    std::optional<corvane::TextList> Run() {
-        const CertServices services{sessions, reports.reporter, warnings, registry, clock, input, opening};
-        const std::optional<corvane::ChosenRecipients> chosen = ChooseRecipients(
+    std::optional<corvane::store::TextList> Run() {
+        const certificates::CertServices services{sessions, reports.reporter, warnings, registry, clock,
+                                                  input,    opening};
+        const std::optional<corvane::certificates::ChosenRecipients> chosen = certificates::ChooseRecipients(
             {nullptr, profile_, 0, waitWindow, services}, {},
-            [this](RecipientSelectionForm& form, const Cryptocontext& context) {
+            [this](certificates::RecipientSelectionForm& form, const certificates::Cryptocontext& context) {
                 wasDialogShown = true;
                 if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
                     return false;
                 }
                 form.CheckAllFound(true);
                 static_cast<void>(form.AddChecked());
-                return form.Confirm(context, reports.reporter, nullptr) == SelectionOutcome::kAccepted;
+                return form.Confirm(context, reports.reporter, nullptr) ==
+                       certificates::SelectionOutcome::kAccepted;
             });
         return chosen ? std::optional(chosen->owners) : std::nullopt;
     }
@@ -106,11 +109,11 @@ class Session {
     CountedWaitWindow waitWindow;
     StandingClock clock;
     RecordingInputGate input;
-    SessionOpening opening;
+    certificates::SessionOpening opening;
     bool wasDialogShown = false;
 
   private:
-    Profile profile_;
+    store::Profile profile_;
 };
 
 // The order of the provider calls of an undisturbed session.
@@ -118,7 +121,7 @@ enum Call : std::size_t { kInitialize, kProbe, kLoadCrl, kSearchLocal, kResolve,
 
 TEST(SessionFaults, AnUndisturbedSessionMakesTheseCalls) {
     Session session;
-    EXPECT_EQ(session.Run(), corvane::TextList{L"CN=A"});
+    EXPECT_EQ(session.Run(), corvane::store::TextList{L"CN=A"});
     EXPECT_EQ(session.sessions.log,
               (std::vector<std::string>{"initialize", "find", "free result", "control", "find", "free result",
                                         "find", "free result", "uninitialize"}));
@@ -133,9 +136,9 @@ TEST(SessionFaults, EveryProviderCallThatFailsIsShownAndLeavesNothingBehind) {
             SCOPED_TRACE("call " + std::to_string(call) + " fails with " + std::to_string(status));
             Session session;
             session.sessions.FailCall(call, status);
-            const std::optional<corvane::TextList> result = session.Run();
+            const std::optional<corvane::store::TextList> result = session.Run();
             session.ExpectNothingKept();
-            const bool isNothingFoundByProbe = call == kProbe && status == kStatusNothingFound;
+            const bool isNothingFoundByProbe = call == kProbe && status == provider::kStatusNothingFound;
             const std::size_t shown = session.warnings.count + session.reports.presenter.Boxes().size();
             EXPECT_EQ(shown > 0, !isNothingFoundByProbe);
             EXPECT_EQ(session.wasDialogShown, call != kInitialize);
@@ -150,7 +153,7 @@ TEST(SessionFaults, EveryProviderCallThatFailsIsShownAndLeavesNothingBehind) {
 TEST(SessionFaults, TheUserMayStopAtTheNetworkStoreAndAtTheRevocationLists) {
     for (const std::uint32_t status : kStatuses) {
         for (const std::size_t call : {std::size_t{kProbe}, std::size_t{kLoadCrl}}) {
-            if (call == kProbe && status == kStatusNothingFound) {
+            if (call == kProbe && status == provider::kStatusNothingFound) {
                 continue;
             }
             SCOPED_TRACE("call " + std::to_string(call) + " fails with " + std::to_string(status));
@@ -178,7 +181,7 @@ TEST(SessionFaults, EveryRegistryCallThatFailsIsReportedAndOnlyTheMissingKeyStop
             SCOPED_TRACE("call " + std::to_string(call) + " fails with " + std::to_string(code));
             Session session;
             session.registry.FailCall(call, code);
-            const std::optional<corvane::TextList> result = session.Run();
+            const std::optional<corvane::store::TextList> result = session.Run();
             session.ExpectNothingKept();
             const RegistryCall& failed = session.registry.Calls()[call];
             const bool isOpen = failed.operation == RegistryOperation::kOpen;
@@ -207,7 +210,7 @@ TEST(SessionFaults, ProviderCallsThatFailFromOneOnAreShownOneByOneUntilTheChoice
             std::size_t warnings = 0;
             std::size_t boxes = 0;
             for (std::size_t call = first; call < session.sessions.CallCount(); ++call) {
-                const bool isNothingFoundByProbe = call == kProbe && status == kStatusNothingFound;
+                const bool isNothingFoundByProbe = call == kProbe && status == provider::kStatusNothingFound;
                 warnings += isNothingFoundByProbe ? 0 : kWarnings[call];
                 boxes += isNothingFoundByProbe ? 0 : kBoxes[call];
             }
@@ -234,7 +237,7 @@ TEST(SessionFaults, RegistryCallsThatFailFromOneOnAreReportedOneByOne) {
             SCOPED_TRACE("from call " + std::to_string(first) + " on with " + std::to_string(code));
             Session session;
             session.registry.FailCallsFrom(first, code);
-            const std::optional<corvane::TextList> result = session.Run();
+            const std::optional<corvane::store::TextList> result = session.Run();
             session.ExpectNothingKept();
             const bool isWithoutKey = clean[first].operation == RegistryOperation::kOpen;
             EXPECT_EQ(result.has_value(), !isWithoutKey);
@@ -267,13 +270,13 @@ class GroupFileFaults : public ::testing::Test {
         EXPECT_EQ(files_.Misuses(), 0U);
         EXPECT_LE(files_.Calls().size(), call + 2) << "the rest is not tried, only closed";
         EXPECT_EQ(form_.FoundRowCount(), 2U);
-        EXPECT_EQ(form_.CheckedFoundOwners(), corvane::TextList{L"CN=B"});
+        EXPECT_EQ(form_.CheckedFoundOwners(), corvane::store::TextList{L"CN=B"});
     }
 
     ReporterFixture reports_;
     MemoryFiles files_;
-    CertSearchSettings settings_;
-    RecipientSelectionForm form_{settings_, {}, reports_.text};
+    certificates::CertSearchSettings settings_;
+    certificates::RecipientSelectionForm form_{settings_, {}, reports_.text};
 };
 
 class GroupFileFault : public GroupFileFaults,
@@ -284,9 +287,9 @@ class GroupFileFault : public GroupFileFaults,
 };
 
 TEST_F(GroupFileFaults, LoadingMakesSixCallsAndSavingFour) {
-    EXPECT_TRUE(LoadGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
+    EXPECT_TRUE(certificates::LoadGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
     EXPECT_EQ(files_.Calls().size(), 6U);
-    EXPECT_TRUE(SaveGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
+    EXPECT_TRUE(certificates::SaveGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
     EXPECT_EQ(files_.Calls().size(), 10U);
 }
 
@@ -295,13 +298,13 @@ class SaveFault : public GroupFileFault {};
 
 TEST_P(LoadFault, IsReportedOnceAndLeavesTheLists) {
     FailOne();
-    EXPECT_FALSE(LoadGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
+    EXPECT_FALSE(certificates::LoadGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
     ExpectOnlyTheFailure(CallIndex());
 }
 
 TEST_P(SaveFault, IsReportedOnceAndLeavesTheLists) {
     FailOne();
-    EXPECT_FALSE(SaveGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
+    EXPECT_FALSE(certificates::SaveGroupFile(form_, kPath, files_, reports_.reporter, nullptr));
     ExpectOnlyTheFailure(CallIndex());
 }
 
@@ -313,4 +316,4 @@ INSTANTIATE_TEST_SUITE_P(EveryCall, SaveFault,
                                             ::testing::Range(std::size_t{0}, std::size_t{4})));
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -67,7 +67,7 @@ void operator delete[](void* memory, const std::nothrow_t& /*tag*/) noexcept {
     Release(memory);
 }
 
-namespace corvane::testing {
+namespace corvane::test {
 
 FailingMemory::FailingMemory(std::size_t index) {
     count = 0;
@@ -94,4 +94,4 @@ std::size_t LiveAllocations() {
     return live;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 
 // Only in the test program that links failing_memory.cpp: there the global operator new can be told to fail.
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// While it lives, the `index`-th allocation from here on (from 0) throws std::bad_alloc, or gives null where
 /// it may not throw. One at a time.
@@ -35,4 +35,4 @@ class UncountedMemory {
 /// How many allocations there are that were not given back.
 [[nodiscard]] std::size_t LiveAllocations();
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -14,7 +14,7 @@
 // load everything that is there: profiles that were written as they were in memory, those whose turn did not
 // come as they were stored, and of the one in between each value as it is stored.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using Failure = std::function<void(MemoryRegistry&)>;
@@ -36,15 +36,15 @@ bool IsOf(const RegistryCall& call, const std::wstring& profileName) {
     return call.keyPath == key || call.keyPath.starts_with(key + L"\\");
 }
 
-bool IsAmong(const std::vector<Profile>& profiles, const Profile& profile) {
+bool IsAmong(const std::vector<store::Profile>& profiles, const store::Profile& profile) {
     return std::find(profiles.begin(), profiles.end(), profile) != profiles.end();
 }
 
 // A profile as it comes back from the store.
-Profile AsStored(Profile profile) {
+store::Profile AsStored(store::Profile profile) {
     std::replace(profile.timeStampServers.begin(), profile.timeStampServers.end(), std::wstring(),
                  std::wstring(L"0"));
-    std::erase_if(profile.rules, [](const Rule& rule) { return rule.operation.empty(); });
+    std::erase_if(profile.rules, [](const store::Rule& rule) { return rule.operation.empty(); });
     return profile;
 }
 
@@ -62,7 +62,7 @@ class HalfWrittenStore : public ::testing::Test {
         calls_ = store.registry.Calls();
         EXPECT_TRUE(store.Load());
         after_ = store.state;
-        for (const Profile& profile : ChangedConfiguration().profiles) {
+        for (const store::Profile& profile : ChangedConfiguration().profiles) {
             EXPECT_TRUE(IsAmong(after_.profiles, AsStored(profile))) << Printable(profile.name);
         }
     }
@@ -74,7 +74,7 @@ class HalfWrittenStore : public ::testing::Test {
             for (const std::uint32_t code : kLastingCodes) {
                 const bool isClosing = calls_[index].operation == RegistryOperation::kClose;
                 const bool isWriting = calls_[index].operation == RegistryOperation::kSet;
-                if (isClosing || (isWriting && code == kCodeNotFound)) {
+                if (isClosing || (isWriting && code == store::kCodeNotFound)) {
                     continue;
                 }
                 SCOPED_TRACE("call " + std::to_string(index) + (isLasting ? " and all behind it" : "") +
@@ -118,7 +118,7 @@ class HalfWrittenStore : public ::testing::Test {
         const ReadByHand expected = ReadStoreByHand(store.registry);
         std::vector<std::wstring> reports;
         if (!expected.isWhole) {
-            reports.push_back(OpenReport(expected.missingKey, kCodeNotFound));
+            reports.push_back(OpenReport(expected.missingKey, store::kCodeNotFound));
         }
         EXPECT_EQ(store.Load(), expected.isWhole);
         EXPECT_EQ(store.ReportTexts(), reports);
@@ -126,8 +126,8 @@ class HalfWrittenStore : public ::testing::Test {
         ExpectNoMixture(store.state, failed, isLasting);
     }
 
-    void ExpectNoMixture(const ConfigurationState& loaded, std::size_t failed, bool isLasting) const {
-        for (const Profile& profile : loaded.profiles) {
+    void ExpectNoMixture(const store::ConfigurationState& loaded, std::size_t failed, bool isLasting) const {
+        for (const store::Profile& profile : loaded.profiles) {
             const bool isAsBefore = IsAmong(before_.profiles, profile);
             const bool isAsInMemory = IsAmong(after_.profiles, profile);
             const Turn turn = TurnOf(profile.name);
@@ -142,8 +142,8 @@ class HalfWrittenStore : public ::testing::Test {
     }
 
     std::vector<RegistryCall> calls_;
-    ConfigurationState before_;
-    ConfigurationState after_;
+    store::ConfigurationState before_;
+    store::ConfigurationState after_;
 };
 
 TEST_F(HalfWrittenStore, IsLoadedAfterASaveInWhichOneCallFailed) {
@@ -155,4 +155,4 @@ TEST_F(HalfWrittenStore, IsLoadedAfterASaveInWhichAllCallsFailedFromOneOn) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -14,7 +14,7 @@
 // the kind of the call and from the value it was about, as the clean run recorded them, and from nothing of
 // the product.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 struct LoadOutcome {
@@ -22,7 +22,7 @@ struct LoadOutcome {
     std::vector<RegistryCall> calls;
     std::vector<std::wstring> reports;
     RegistrySnapshot stored;
-    ConfigurationState state;
+    store::ConfigurationState state;
     std::size_t keysLeftOpen = 0;
     std::size_t misuses = 0;
 };
@@ -35,8 +35,8 @@ LoadOutcome Load(const Preparation& prepare) {
     prepare(registry);
     LoadOutcome outcome;
     {
-        RegistryAccess access(registry, reports.reporter);
-        outcome.result = LoadConfiguration(outcome.state, access, reports.reporter, nullptr);
+        store::RegistryAccess access(registry, reports.reporter);
+        outcome.result = store::LoadConfiguration(outcome.state, access, reports.reporter, nullptr);
     }
     outcome.calls = registry.Calls();
     for (const ShownBox& box : reports.presenter.Boxes()) {
@@ -102,7 +102,7 @@ void AppendAfterDefault(const std::vector<RegistryCall>& clean, std::size_t fail
         const bool isOldMask = isSameKey && call.name == L"Mask num" && clean[next].name == L"Mask";
         const bool isDataOfAList =
             clean[next].operation == RegistryOperation::kQuery &&
-            (call.operation == RegistryOperation::kQuerySize || call.written.type == kTypeTextList) &&
+            (call.operation == RegistryOperation::kQuerySize || call.written.type == store::kTypeTextList) &&
             IsReadOf(clean[next], call);
         if (isElement || isOldMask || isDataOfAList) {
             continue;
@@ -128,7 +128,7 @@ ExpectedLoad Expect(const std::vector<RegistryCall>& allClean, const std::vector
     const std::size_t failed = CountWithoutClosing(allClean, failedIndex);
     expected.calls.assign(clean.begin(), clean.begin() + static_cast<std::ptrdiff_t>(failed) + 1);
     expected.calls.back().code = code;
-    const bool isMissing = code == kCodeNotFound || code == kCodeInvalidData;
+    const bool isMissing = code == store::kCodeNotFound || code == store::kCodeInvalidData;
     switch (call.operation) {
         case RegistryOperation::kOpen:
         case RegistryOperation::kCreate:
@@ -231,7 +231,7 @@ class ExpectedLoadThatKeepsFailing {
     }
 
     void ReportUnlessMissing(const std::wstring& kind, const std::wstring& name) {
-        if (code_ != kCodeNotFound && code_ != kCodeInvalidData) {
+        if (code_ != store::kCodeNotFound && code_ != store::kCodeInvalidData) {
             reports.push_back(ReadReport(kind, name, code_));
         }
     }
@@ -255,8 +255,9 @@ bool IsBeginning(const std::vector<Element>& part, const std::vector<Element>& w
 }
 
 // The records of a load of `stored` without these values.
-ConfigurationState LoadWithout(const RegistrySnapshot& stored, const corvane::TextList& profileNames,
-                               const std::vector<const RegistryCall*>& missing) {
+store::ConfigurationState LoadWithout(const RegistrySnapshot& stored,
+                                      const corvane::store::TextList& profileNames,
+                                      const std::vector<const RegistryCall*>& missing) {
     return Load([&](MemoryRegistry& registry) {
                registry.PutAll(stored);
                for (const RegistryCall* value : missing) {
@@ -274,7 +275,7 @@ ConfigurationState LoadWithout(const RegistrySnapshot& stored, const corvane::Te
         .state;
 }
 
-void ExpectBeginningOf(const ConfigurationState& whole, const ConfigurationState& found) {
+void ExpectBeginningOf(const store::ConfigurationState& whole, const store::ConfigurationState& found) {
     EXPECT_TRUE(IsBeginning(found.profiles, whole.profiles)) << "a profile was kept that was not read whole";
     EXPECT_TRUE(IsBeginning(found.csProfileCatalogue, whole.csProfileCatalogue));
 }
@@ -288,7 +289,7 @@ void FailEveryCallOfALoad(const Preparation& prepare) {
     const RegistrySnapshot before = registryBefore.Snapshot();
     const std::vector<RegistryCall> cleanWithoutClosing = WithoutClosing(clean.calls);
     for (std::size_t index = 0; index < clean.calls.size(); ++index) {
-        std::optional<ConfigurationState> without;
+        std::optional<store::ConfigurationState> without;
         for (const std::uint32_t code : kFailureCodes) {
             SCOPED_TRACE("call " + std::to_string(index) + " fails with " + std::to_string(code) + ": " +
                          Describe(clean.calls[index]));
@@ -349,7 +350,7 @@ void FailEveryCallFromThenOn(const Preparation& prepare) {
             EXPECT_EQ(outcome.keysLeftOpen, 0U);
             EXPECT_EQ(outcome.misuses, 0U);
             EXPECT_FALSE(outcome.state.isDirty);
-            const ConfigurationState without =
+            const store::ConfigurationState without =
                 LoadWithout(stored, clean.state.profileNames, expected.missingValues);
             if (expected.result) {
                 EXPECT_TRUE(outcome.state == without)
@@ -381,4 +382,4 @@ TEST(LoadConfigurationFaults, FromEachCallOfAFirstStartOnEveryCallFails) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

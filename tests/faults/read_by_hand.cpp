@@ -8,11 +8,11 @@
 
 #include "tests/faults/stored_configuration.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
-using List = corvane::TextList;
+using List = corvane::store::TextList;
 
 // The values of one key.
 class Values {
@@ -47,8 +47,8 @@ class Values {
         return list;
     }
 
-    [[nodiscard]] corvane::NumberList Numbers(const std::wstring& name) const {
-        corvane::NumberList numbers;
+    [[nodiscard]] corvane::store::NumberList Numbers(const std::wstring& name) const {
+        corvane::store::NumberList numbers;
         for (const std::wstring& text : Texts(name)) {
             numbers.push_back(std::stoi(text));
         }
@@ -76,7 +76,7 @@ class Values {
     std::wstring key_;
 };
 
-void ReadSettings(const Values& values, AppSettings& settings) {
+void ReadSettings(const Values& values, store::AppSettings& settings) {
     settings.window = {values.Number(L"Window_top"), values.Number(L"Window_bottom"),
                        values.Number(L"Window_left"), values.Number(L"Window_right")};
     settings.signedExtension = values.Text(L"SigExt", L"p7s");
@@ -92,7 +92,7 @@ void ReadSettings(const Values& values, AppSettings& settings) {
     settings.logFileSize = std::max(values.Number(L"Log filesize", 4000), 400);
 }
 
-void ReadProfile(const Values& values, Profile& profile) {
+void ReadProfile(const Values& values, store::Profile& profile) {
     profile.timeStampServers = values.Texts(L"ServerTSP");
     profile.csProfiles = values.Texts(L"ZCSProfile");
     profile.notUseDirectory = values.Numbers(L"NotUseLDAP");
@@ -115,7 +115,7 @@ void ReadProfile(const Values& values, Profile& profile) {
     profile.renameConfFiles = values.Number(L"Rename conf files");
 }
 
-void ReadTexts(const Values& values, Rule& rule) {
+void ReadTexts(const Values& values, store::Rule& rule) {
     rule.operation = values.Text(L"Operation");
     rule.inputFolder = values.Text(L"Path In");
     rule.outputFolder = values.Text(L"Path Out");
@@ -132,9 +132,9 @@ void ReadTexts(const Values& values, Rule& rule) {
     rule.description = values.Text(L"Descryption");
 }
 
-Rule ReadRule(const MemoryRegistry& registry, const std::wstring& key) {
+store::Rule ReadRule(const MemoryRegistry& registry, const std::wstring& key) {
     const Values values(registry, key);
-    Rule rule;
+    store::Rule rule;
     ReadTexts(values, rule);
     rule.archiveFileCount = values.Number(L"ArchCount");
     rule.archiveSize = values.Number(L"ArchSize");
@@ -191,7 +191,7 @@ ReadByHand ReadStoreByHand(const MemoryRegistry& registry) {
     ReadSettings(Values(registry, kProgram), read.state.settings);
     read.state.profileNames = registry.SubkeyNames(kProgram);
     for (const std::wstring& name : read.state.profileNames) {
-        Profile profile;
+        store::Profile profile;
         profile.name = name;
         const std::wstring key = kProgram + L"\\" + name;
         const std::wstring rulesKey = key + L"\\rules";
@@ -209,4 +209,4 @@ ReadByHand ReadStoreByHand(const MemoryRegistry& registry) {
     return read;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "config/records.h"
+#include "store/records.h"
 #include "tests/support/memory_registry.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// What a load that started now would come to, read from the stored values one by one and without any of the
 /// product's code, so that one can check the other.
@@ -13,10 +13,10 @@ struct ReadByHand {
     /// The path of the key that is missing then.
     std::wstring missingKey;
     /// As far as it came.
-    ConfigurationState state;
+    store::ConfigurationState state;
 };
 
 /// Reads a store with at least one profile that holds nothing but values of the types they should have.
 [[nodiscard]] ReadByHand ReadStoreByHand(const MemoryRegistry& registry);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

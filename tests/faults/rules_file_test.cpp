@@ -1,4 +1,4 @@
-#include "config/rules_file.h"
+#include "store/rules_file/rules_file.h"
 
 #include <gtest/gtest.h>
 
@@ -9,32 +9,26 @@
 #include <string>
 #include <vector>
 
-#include "config/rules_file_text.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/reporter_fixture.h"
-#include "toolkit/format_text.h"
+#include "toolkit/text/format_text.h"
 
 // Export and import with each file call failing in turn, with the codes that users meet: the file is missing
 // (2), may not be touched (5), is in use (32), the disk is full (112), the device is broken (1117).
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::FileCall;
-using testing::FileOperation;
-using testing::MemoryFiles;
-using testing::ReporterFixture;
 
 constexpr std::array<std::uint32_t, 5> kCodes = {2, 5, 32, 112, 1117};
 constexpr wchar_t kPath[] = L"C:\\exchange\\rules.prx";
 constexpr std::size_t kPieceBytes = 50;
 
-std::vector<Rule> SomeRules() {
-    Rule first;
+std::vector<store::Rule> SomeRules() {
+    store::Rule first;
     first.operation = L"ENCR";
     first.recipients = {L"CN=A", L"CN=B"};
     first.description = L"Letters to the bank";
-    Rule second;
+    store::Rule second;
     second.operation = L"SIGN";
     second.signerGroups = {{L"chiefs", {L"CN=C", L"CN=D"}}};
     return {first, second};
@@ -42,7 +36,7 @@ std::vector<Rule> SomeRules() {
 
 // The file that an export of SomeRules leaves when nothing fails.
 std::string WholeText() {
-    const std::wstring text = FormatRulesFile(SomeRules());
+    const std::wstring text = store::FormatRulesFile(SomeRules());
     return {text.begin(), text.end()};
 }
 
@@ -86,7 +80,7 @@ std::vector<FileOperation> ExportOperations() {
     MemoryFiles files;
     ReporterFixture reports;
     files.LimitWrites(kPieceBytes);
-    EXPECT_TRUE(WriteRulesFile(kPath, SomeRules(), files, reports.reporter, nullptr));
+    EXPECT_TRUE(store::WriteRulesFile(kPath, SomeRules(), files, reports.reporter, nullptr));
     return OperationsOfUndisturbed(files);
 }
 
@@ -95,7 +89,7 @@ std::vector<FileOperation> ImportOperations() {
     ReporterFixture reports;
     files.contents[kPath] = WholeText();
     files.LimitReads(kPieceBytes);
-    EXPECT_EQ(ReadRulesFile(kPath, files, reports.reporter, nullptr), WholeText());
+    EXPECT_EQ(store::ReadRulesFile(kPath, files, reports.reporter, nullptr), WholeText());
     return OperationsOfUndisturbed(files);
 }
 
@@ -124,8 +118,8 @@ TEST(ExportFaults, EveryCallThatFailsIsReportedOnceAndTheFileIsClosed) {
             ReporterFixture reports;
             files.LimitWrites(kPieceBytes);
             files.FailCall(call, code);
-            const std::vector<Rule> rules = SomeRules();
-            EXPECT_FALSE(WriteRulesFile(kPath, rules, files, reports.reporter, nullptr));
+            const std::vector<store::Rule> rules = SomeRules();
+            EXPECT_FALSE(store::WriteRulesFile(kPath, rules, files, reports.reporter, nullptr));
             EXPECT_EQ(reports.presenter.OnlyText(), ReportText(operations[call], code));
             EXPECT_EQ(rules, SomeRules());
             ExpectStoppedAt(files, call, operations[call]);
@@ -144,7 +138,7 @@ TEST(ExportFaults, WhatWasWrittenBeforeTheFailureStays) {
         files.contents[kPath] = "an older export";
         files.LimitWrites(kPieceBytes);
         files.FailCall(call, 112);
-        EXPECT_FALSE(WriteRulesFile(kPath, SomeRules(), files, reports.reporter, nullptr));
+        EXPECT_FALSE(store::WriteRulesFile(kPath, SomeRules(), files, reports.reporter, nullptr));
         if (operations[call] == FileOperation::kCreate) {
             EXPECT_EQ(files.contents[kPath], "an older export");
         } else {
@@ -162,7 +156,7 @@ TEST(ExportFaults, AClosingThatFailsAfterAnotherFailureIsNotReported) {
         files.LimitWrites(kPieceBytes);
         files.FailCall(call, 112);
         files.FailCall(call + 1, 6);
-        EXPECT_FALSE(WriteRulesFile(kPath, SomeRules(), files, reports.reporter, nullptr));
+        EXPECT_FALSE(store::WriteRulesFile(kPath, SomeRules(), files, reports.reporter, nullptr));
         EXPECT_EQ(reports.presenter.OnlyText(), ReportText(FileOperation::kWrite, 112));
         ExpectAllClosed(files);
     }
@@ -179,7 +173,7 @@ TEST(ImportFaults, EveryCallThatFailsIsReportedOnceAndTheFileIsClosed) {
             files.contents[kPath] = WholeText();
             files.LimitReads(kPieceBytes);
             files.FailCall(call, code);
-            EXPECT_EQ(ReadRulesFile(kPath, files, reports.reporter, nullptr), std::nullopt);
+            EXPECT_EQ(store::ReadRulesFile(kPath, files, reports.reporter, nullptr), std::nullopt);
             EXPECT_EQ(reports.presenter.OnlyText(), ReportText(operations[call], code));
             EXPECT_EQ(files.contents[kPath], WholeText());
             ExpectStoppedAt(files, call, operations[call]);
@@ -198,11 +192,11 @@ TEST(ImportFaults, AClosingThatFailsAfterAnotherFailureIsNotReported) {
         files.LimitReads(kPieceBytes);
         files.FailCall(call, 1117);
         files.FailCall(call + 1, 6);
-        EXPECT_EQ(ReadRulesFile(kPath, files, reports.reporter, nullptr), std::nullopt);
+        EXPECT_EQ(store::ReadRulesFile(kPath, files, reports.reporter, nullptr), std::nullopt);
         EXPECT_EQ(reports.presenter.OnlyText(), ReportText(operations[call], 1117));
         ExpectAllClosed(files);
     }
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

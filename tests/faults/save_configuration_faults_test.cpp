@@ -14,7 +14,7 @@
 // Each registry call of a save fails, once or from then on, with each code. The calls of the clean run are
 // told apart by their kind and key; what is owed when one fails is the row of the table that speaks of it.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 const std::wstring kGone = kProgram + L"\\Gone";
@@ -23,7 +23,7 @@ struct SaveOutcome {
     std::vector<RegistryCall> calls;
     std::vector<std::wstring> reports;
     RegistrySnapshot stored;
-    ConfigurationState state;
+    store::ConfigurationState state;
     std::size_t keysOpenAfterwards = 0;
     std::size_t keysLeftOpen = 0;
     std::size_t misuses = 0;
@@ -39,9 +39,9 @@ SaveOutcome Save(const Failure& fail) {
     SaveOutcome outcome;
     outcome.state = ChangedConfiguration();
     {
-        RegistryAccess access(registry, reports.reporter);
-        SaveConfiguration(outcome.state, {.top = 1, .bottom = 2, .left = 3, .right = 4}, access,
-                          reports.reporter, nullptr);
+        store::RegistryAccess access(registry, reports.reporter);
+        store::SaveConfiguration(outcome.state, {.top = 1, .bottom = 2, .left = 3, .right = 4}, access,
+                                 reports.reporter, nullptr);
         outcome.keysOpenAfterwards = registry.OpenKeys();
         outcome.calls = registry.Calls();
     }
@@ -196,7 +196,7 @@ class ExpectedSave {
         const RegistryCall& call = clean_[failed_];
         std::uint32_t result = code_;
         if (call.operation == RegistryOperation::kEnumerate) {
-            if (call.code == kCodeNoMoreItems) {
+            if (call.code == store::kCodeNoMoreItems) {
                 // There was nothing more to find: the key is deleted as usual.
                 GoOnFrom(failed_ + 1);
                 return;
@@ -212,7 +212,7 @@ class ExpectedSave {
         if (top == kGone) {
             reports.push_back(DeleteReport(top, result));
             isDirty = true;
-        } else if (result == kCodeNotFound) {
+        } else if (result == store::kCodeNotFound) {
             GoOnFrom(NextOf(Step::kMakeRules, Step::kMakeRules));
         } else {
             reports.push_back(DeleteReport(top, result));
@@ -227,9 +227,9 @@ class ExpectedSave {
             std::find_if(calls.begin(), calls.end(), [&profileKey](const RegistryCall& call) {
                 return call.operation == RegistryOperation::kOpen && call.keyPath == profileKey;
             });
-        opening->code = kCodeNotFound;
+        opening->code = store::kCodeNotFound;
         calls.erase(opening + 1, calls.end());
-        reports.push_back(OpenReport(profileKey, kCodeNotFound));
+        reports.push_back(OpenReport(profileKey, store::kCodeNotFound));
     }
 
     void GoOnFrom(std::size_t index) {
@@ -317,7 +317,7 @@ class ExpectedSaveThatKeepsFailing {
     }
 
     void FailDeletion(const std::wstring& rulesKey) {
-        if (code_ == kCodeNotFound) {
+        if (code_ == store::kCodeNotFound) {
             GoTo(Step::kMakeRules, Step::kMakeRules);
         } else {
             StopWith(DeleteReport(rulesKey, code_));
@@ -357,7 +357,7 @@ TEST(SaveConfigurationFaults, FromEachCallOfASaveOnEveryCallFails) {
             const std::vector<RegistryCall> done(clean.calls.begin(),
                                                  clean.calls.begin() + static_cast<std::ptrdiff_t>(index));
             EXPECT_EQ(Differences(Replay(before, done), outcome.stored), "");
-            ConfigurationState records = ChangedConfiguration();
+            store::ConfigurationState records = ChangedConfiguration();
             records.isDirty = expected.isDirty;
             EXPECT_TRUE(outcome.state == records) << "the records or the dirty flag";
             EXPECT_EQ(outcome.keysLeftOpen, 0U);
@@ -387,7 +387,7 @@ TEST(SaveConfigurationFaults, EachCallOfASaveFailsWithEachCode) {
             EXPECT_EQ(outcome.reports, expected.reports);
             ExpectSameCalls(expected.calls, outcome.calls);
             EXPECT_EQ(Differences(Replay(before, expected.calls), outcome.stored), "");
-            ConfigurationState records = ChangedConfiguration();
+            store::ConfigurationState records = ChangedConfiguration();
             records.isDirty = expected.isDirty;
             EXPECT_TRUE(outcome.state == records) << "the records or the dirty flag";
             if (!expected.isDirty) {
@@ -412,4 +412,4 @@ TEST(SaveConfigurationFaults, TheCleanRunMakesEveryKindOfStep) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

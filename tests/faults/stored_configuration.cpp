@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -32,8 +32,8 @@ void PutProfile(MemoryRegistry& registry, const std::wstring& key) {
     registry.PutKey(key + L"\\rules");
 }
 
-Rule RuleOf(std::wstring_view operation) {
-    Rule rule;
+store::Rule RuleOf(std::wstring_view operation) {
+    store::Rule rule;
     rule.operation = operation;
     rule.masks = {L"*.txt"};
     return rule;
@@ -81,24 +81,24 @@ void PutStoredConfiguration(MemoryRegistry& registry) {
     PutProfile(registry, kProgram + L"\\Quiet");
 }
 
-ConfigurationState ChangedConfiguration() {
-    ConfigurationState state;
+store::ConfigurationState ChangedConfiguration() {
+    store::ConfigurationState state;
     state.csProfileCatalogue = {L"Main CSP", L"Second CSP"};
     state.settings.encryptedExtension = L"enc";
     state.settings.additionalExtensions = {L"xml"};
     state.settings.logPath = L"D:\\log";
     for (const wchar_t* name : {L"Mail", L"New", L"Quiet", L"Newer"}) {
         state.profileNames.emplace_back(name);
-        Profile& profile = state.profiles.emplace_back();
+        store::Profile& profile = state.profiles.emplace_back();
         profile.name = name;
         profile.timeStampServers = {L"", L"http://tsp"};
         profile.csProfiles = {L"Main CSP", name};
         profile.notLoadCrl = {0, 1};
         profile.crlUpdatePeriods = {1, 2};
     }
-    Rule signing = RuleOf(L"SIGN");
+    store::Rule signing = RuleOf(L"SIGN");
     signing.signerGroups = {{L"Officers", {L"CN=Officer"}}, {L"Clerks", {L"CN=Clerk", L"CN=Other"}}};
-    Rule encrypting = RuleOf(L"ENCR");
+    store::Rule encrypting = RuleOf(L"ENCR");
     encrypting.recipients = {L"CN=A", L"CN=B"};
     state.profiles[0].rules = {signing, RuleOf(L""), encrypting};
     state.profiles[1].rules = {signing};
@@ -108,4 +108,4 @@ ConfigurationState ChangedConfiguration() {
     return state;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

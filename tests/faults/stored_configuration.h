@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "config/records.h"
+#include "store/records.h"
 #include "tests/support/memory_registry.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 inline const std::wstring kCatalogue = L"SOFTWARE\\HOLVAN\\tarn\\Profiles";
 inline const std::wstring kProgram = L"SOFTWARE\\HOLVAN\\tarntray";
@@ -16,6 +16,6 @@ void PutStoredConfiguration(MemoryRegistry& registry);
 
 /// A configuration in memory that differs from the stored one: the profile "Gone" is no more, "New" and
 /// "Newer" have come, the others have changed.
-[[nodiscard]] ConfigurationState ChangedConfiguration();
+[[nodiscard]] store::ConfigurationState ChangedConfiguration();
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -9,7 +9,7 @@
 #include "tests/driver/program.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 namespace {
 
@@ -49,4 +49,4 @@ void ImportWorkedExample() {
     }
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,8 +1,8 @@
 #pragma once
 
-namespace corvane {
+namespace corvane::test {
 
 /// Imports the worked example into the registry; CORVANE_WORKED_EXAMPLE names its file.
 void ImportWorkedExample();
 
-}  // namespace corvane
+}  // namespace corvane::test

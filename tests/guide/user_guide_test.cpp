@@ -11,7 +11,7 @@
 #include "tests/guide/example_configuration.h"
 #include "tests/journey/journey_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::ListView;
@@ -191,4 +191,4 @@ TEST_F(UserGuide, ExtensionsAndLog) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -9,7 +9,7 @@
 #include "tests/driver/waiting.h"
 #include "tests/guide/example_configuration.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -52,4 +52,4 @@ TEST_F(WaitWindowPicture, IsTakenWhileTheLibraryIsAtWork) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -10,7 +10,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::ListView;
 using driver::Window;
@@ -174,4 +174,4 @@ void AddSignerLists(const driver::Program& program, const Window& ruleEditor,
     EndDialog(dialog, IDOK);
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

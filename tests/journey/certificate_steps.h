@@ -8,7 +8,7 @@
 #include "tests/driver/program.h"
 #include "tests/driver/registry.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// Comes back when a dialog has handled everything that was posted to it so far; one with neither a list view
 /// nor a field to write in, when it answers.
@@ -50,4 +50,4 @@ void AddSignerListByDialog(const driver::Program& program, const driver::Window&
 void AddSignerLists(const driver::Program& program, const driver::Window& ruleEditor,
                     const std::vector<NamedSigners>& lists);
 
-}  // namespace corvane
+}  // namespace corvane::test

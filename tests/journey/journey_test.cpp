@@ -5,7 +5,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/file_dialog.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::Window;
 
@@ -69,4 +69,4 @@ StoredTree JourneyTest::ConfirmEachRuleUnchanged(const std::wstring& profile) {
     return SaveAndReadAll();
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

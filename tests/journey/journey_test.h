@@ -7,7 +7,7 @@
 #include "tests/journey/stored_differences.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 
 inline constexpr wchar_t kExchangeIn[] = L"C:\\Exchange\\In";
 inline constexpr wchar_t kExchangeOut[] = L"C:\\Exchange\\Out";
@@ -59,4 +59,4 @@ class JourneyTest : public RuleEditorTest {
     FoldersOfTest folders_;
 };
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/journey/stored_forms.h"
 #include "tests/windows/profile_editor_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -169,4 +169,4 @@ TEST_F(NewMachine, LosesACsProfileAndItsRulesTakeTheFirstThatRemains) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

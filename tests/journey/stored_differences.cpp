@@ -6,7 +6,7 @@
 
 #include "tests/driver/failure.h"
 
-namespace corvane {
+namespace corvane::test {
 
 namespace {
 
@@ -59,4 +59,4 @@ std::vector<std::string> DifferencesOf(const StoredTree& expected, const StoredT
     return lines;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 
 #include "tests/driver/registry.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using StoredTree = std::map<std::wstring, driver::RegistryValues>;
 
@@ -13,4 +13,4 @@ using StoredTree = std::map<std::wstring, driver::RegistryValues>;
 /// when they are the same.
 [[nodiscard]] std::vector<std::string> DifferencesOf(const StoredTree& expected, const StoredTree& stored);
 
-}  // namespace corvane
+}  // namespace corvane::test

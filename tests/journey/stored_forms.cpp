@@ -2,7 +2,7 @@
 
 #include "tests/journey/journey_test.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::RegistryValues;
 using driver::Texts;
@@ -105,4 +105,4 @@ Texts TakeRefreshTimes(StoredTree& tree) {
     return csProfiles;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 #include "tests/journey/stored_differences.h"
 #include "tests/journey/typical_rules.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// The description that a typical rule is made with.
 [[nodiscard]] std::wstring DescriptionOf(const TypicalRule& rule);
@@ -25,4 +25,4 @@ namespace corvane {
 /// gives the CS profiles that they are of.
 [[nodiscard]] driver::Texts TakeRefreshTimes(StoredTree& tree);
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/journey/stored_forms.h"
 #include "tests/journey/typical_rules.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::RegistryValues;
@@ -170,4 +170,4 @@ TEST_F(TypicalEdit, RecipientsComeFromTheNetworkStoreToo) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

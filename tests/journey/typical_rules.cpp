@@ -3,7 +3,7 @@
 #include "res/ids.h"
 #include "tests/journey/journey_test.h"
 
-namespace corvane {
+namespace corvane::test {
 
 namespace {
 
@@ -144,4 +144,4 @@ std::vector<TypicalRule> RulesWithoutCertificates() {
     };
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/driver/registry.h"
 #include "tests/journey/certificate_steps.h"
 
-namespace corvane {
+namespace corvane::test {
 
 inline constexpr wchar_t kFirstCsProfile[] = L"Clearing";
 inline constexpr wchar_t kSecondCsProfile[] = L"Partner exchange";
@@ -36,4 +36,4 @@ struct TypicalRule {
 [[nodiscard]] std::vector<TypicalRule> RulesWithSigners();
 [[nodiscard]] std::vector<TypicalRule> RulesWithoutCertificates();
 
-}  // namespace corvane
+}  // namespace corvane::test

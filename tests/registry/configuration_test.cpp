@@ -6,12 +6,12 @@
 
 // Whole configurations in the system's registry: what a save writes there, and that it comes back.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 // Every field of every record holds something of its own.
-ConfigurationState FullConfiguration() {
-    ConfigurationState state;
+store::ConfigurationState FullConfiguration() {
+    store::ConfigurationState state;
     state.csProfileCatalogue = {L"Main CSP"};
     state.settings.signedExtension = L"e1";
     state.settings.detachedSignatureExtension = L"e2";
@@ -26,7 +26,7 @@ ConfigurationState FullConfiguration() {
     state.settings.logFileSize = 5000;
     for (const wchar_t* name : {L"Archive", L"\x041F\x043E\x0447\x0442\x0430"}) {
         state.profileNames.emplace_back(name);
-        Profile& profile = state.profiles.emplace_back();
+        store::Profile& profile = state.profiles.emplace_back();
         profile.name = name;
         profile.timeStampServers = {L"http://tsp", L"0"};
         profile.csProfiles = {L"Main CSP", L"Second"};
@@ -45,7 +45,7 @@ ConfigurationState FullConfiguration() {
         profile.verifyResignFile = 4;
         profile.handlerTimeout = 30;
         profile.renameConfFiles = 5;
-        Rule rule;
+        store::Rule rule;
         rule.operation = L"PACK";
         rule.inputFolder = L"t1";
         rule.outputFolder = L"t2";
@@ -85,12 +85,12 @@ TEST_F(RealConfiguration, IsStoredValueByValueAndTypeByType) {
     state.settings.logPath = L"C:\\log";
     state.settings.additionalExtensions = {L"doc", L"pdf"};
     state.profileNames = {L"Office"};
-    Profile& profile = state.profiles.emplace_back();
+    store::Profile& profile = state.profiles.emplace_back();
     profile.name = L"Office";
     profile.timeStampServers = {L"", L"x"};
     profile.csProfiles = {L"Main CSP"};
     profile.notUseDirectory = {1, -2};
-    Rule& rule = profile.rules.emplace_back();
+    store::Rule& rule = profile.rules.emplace_back();
     rule.operation = L"SIGN";
     rule.masks = {L"*.txt"};
     rule.recipients = {L"CN=A"};
@@ -99,16 +99,16 @@ TEST_F(RealConfiguration, IsStoredValueByValueAndTypeByType) {
     root.PutKey(kProgram);
     Save();
 
-    const StoredData none = Bytes(kTypeTextList, {0, 0});
+    const StoredData none = Bytes(store::kTypeTextList, {0, 0});
     RegistrySnapshot expected;
     expected[L"SOFTWARE"];
     expected[L"SOFTWARE\\HOLVAN"];
     expected[kProgram] = {
         {L"Window_top", Number(1)},
         {L"Window_bottom", Number(2)},
-        {L"Window_left", Bytes(kTypeNumber, {0xFD, 0xFF, 0xFF, 0xFF})},
+        {L"Window_left", Bytes(store::kTypeNumber, {0xFD, 0xFF, 0xFF, 0xFF})},
         {L"Window_right", Number(4)},
-        {L"SigExt", Bytes(kTypeText, {'p', 0, '7', 0, 's', 0, 0, 0})},
+        {L"SigExt", Bytes(store::kTypeText, {'p', 0, '7', 0, 's', 0, 0, 0})},
         {L"DsigExt", Text(L"p7d")},
         {L"EncExt", Text(L"p7e")},
         {L"B64Ext", Text(L"b64")},
@@ -116,12 +116,13 @@ TEST_F(RealConfiguration, IsStoredValueByValueAndTypeByType) {
         {L"VerifyFileExt", Text(L"vrf")},
         {L"ZIPArchiveExt", Text(L"zip")},
         {L"GZIPArchiveExt", Text(L"gz")},
-        {L"ExtExt", Bytes(kTypeTextList, {'d', 0, 'o', 0, 'c', 0, 0, 0, 'p', 0, 'd', 0, 'f', 0, 0, 0, 0, 0})},
+        {L"ExtExt",
+         Bytes(store::kTypeTextList, {'d', 0, 'o', 0, 'c', 0, 0, 0, 'p', 0, 'd', 0, 'f', 0, 0, 0, 0, 0})},
         {L"LogPath", Text(L"C:\\log")},
-        {L"Log filesize", Bytes(kTypeNumber, {0xA0, 0x0F, 0, 0})},
+        {L"Log filesize", Bytes(store::kTypeNumber, {0xA0, 0x0F, 0, 0})},
     };
     expected[kProgram + L"\\Office"] = {
-        {L"ServerTSP", Bytes(kTypeTextList, {'0', 0, 0, 0, 'x', 0, 0, 0, 0, 0})},
+        {L"ServerTSP", Bytes(store::kTypeTextList, {'0', 0, 0, 0, 'x', 0, 0, 0, 0, 0})},
         {L"ZCSProfile", MultiText({L"Main CSP"})},
         {L"NotUseLDAP", MultiText({L"1", L"-2"})},
         {L"NotCopyToLocal", none},
@@ -141,7 +142,7 @@ TEST_F(RealConfiguration, IsStoredValueByValueAndTypeByType) {
     };
     expected[kProgram + L"\\Office\\rules"];
     expected[kProgram + L"\\Office\\rules\\Rule 0"] = {
-        {L"Operation", Text(L"SIGN")}, {L"Path In", Bytes(kTypeText, {0, 0})},
+        {L"Operation", Text(L"SIGN")}, {L"Path In", Bytes(store::kTypeText, {0, 0})},
         {L"Path Out", Text(L"")},      {L"Path Out 2", Text(L"")},
         {L"Path Error", Text(L"")},    {L"DelExt", Text(L"")},
         {L"AddExt", Text(L"")},        {L"Folders", Text(L"")},
@@ -167,9 +168,9 @@ TEST_F(RealConfiguration, IsStoredAsInTheRegistryOfTheOtherTests) {
     Save();
     MemoryRegistry memory;
     memory.PutKey(kProgram);
-    RegistryAccess inMemory(memory, reports.reporter);
-    ConfigurationState same = FullConfiguration();
-    SaveConfiguration(same, restored, inMemory, reports.reporter, nullptr);
+    store::RegistryAccess inMemory(memory, reports.reporter);
+    store::ConfigurationState same = FullConfiguration();
+    store::SaveConfiguration(same, restored, inMemory, reports.reporter, nullptr);
     EXPECT_EQ(Differences(memory.Snapshot(), root.Snapshot()), "");
 }
 
@@ -179,7 +180,7 @@ TEST_F(RealConfiguration, ComesBackAsItWasSavedWithItsRulesInOrder) {
     root.PutKey(kProgram);
     root.Put(kCatalogue + L"\\{1}", L"ProfileName", Text(L"Main CSP"));
     Save();
-    ConfigurationState expected = FullConfiguration();
+    store::ConfigurationState expected = FullConfiguration();
     expected.settings.window = restored;
     expected.isDirty = false;
     ASSERT_TRUE(Load());
@@ -211,7 +212,7 @@ TEST_F(RealConfiguration, LosesWhatWasDeletedAndKeepsWhatIsUnknown) {
 
 TEST_F(RealConfiguration, LeavesTheProvidersKeyUntouched) {
     root.Put(kCatalogue + L"\\{1}", L"ProfileName", Text(L"Main CSP"));
-    root.Put(kCatalogue + L"\\{1}", L"Other", Bytes(kTypeBinary, {1, 2, 3}));
+    root.Put(kCatalogue + L"\\{1}", L"Other", Bytes(store::kTypeBinary, {1, 2, 3}));
     root.PutKey(L"SOFTWARE\\HOLVAN\\tarn\\Other");
     const RegistrySnapshot before = root.Snapshot();
     ASSERT_TRUE(Load());
@@ -226,11 +227,11 @@ TEST_F(RealConfiguration, LeavesTheProvidersKeyUntouched) {
 TEST_F(RealConfiguration, AFirstStartMakesTheProfileDefaultThatLoadsTheNextTime) {
     root.Put(kCatalogue + L"\\{1}", L"ProfileName", Text(L"Main CSP"));
     ASSERT_TRUE(Load());
-    const ConfigurationState first = state;
-    EXPECT_EQ(root.Find(kProgram + L"\\default", L"CrlUpdatePeriod"), Bytes(kTypeTextList, {0, 0}));
+    const store::ConfigurationState first = state;
+    EXPECT_EQ(root.Find(kProgram + L"\\default", L"CrlUpdatePeriod"), Bytes(store::kTypeTextList, {0, 0}));
     EXPECT_EQ(root.Find(kProgram + L"\\default", L"NotUseLDAP"), MultiText({L"1"}));
     EXPECT_EQ(root.Find(kProgram + L"\\default", L"ZCSProfile"), MultiText({L"Main CSP"}));
-    EXPECT_EQ(first.profiles.at(0).crlUpdatePeriods, NumberList{1});
+    EXPECT_EQ(first.profiles.at(0).crlUpdatePeriods, store::NumberList{1});
     ASSERT_TRUE(Load());
     EXPECT_TRUE(state == first);
 }
@@ -239,7 +240,7 @@ TEST_F(RealConfiguration, TheWorkedExampleComesBackAsItWasAfterASave) {
     root.PutAll(ParseRegFile(ReadWholeFile(CORVANE_WORKED_EXAMPLE)));
     const RegistrySnapshot before = root.Snapshot();
     ASSERT_TRUE(Load());
-    const ConfigurationState loaded = state;
+    const store::ConfigurationState loaded = state;
     EXPECT_EQ(loaded.profiles.size(), 3U);
     restored = loaded.settings.window;
     Save();
@@ -268,4 +269,4 @@ TEST_F(RealConfiguration, ATextThatIsTooLongToBeReadBackIsStoredWholeAndReported
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 // What loads from keys that another hand has made: every type, size and terminator that the system lets
 // stand, beside what comes out.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 constexpr std::uint32_t kTypeQuadNumber = 11;
@@ -20,7 +20,7 @@ class HandMadeKeys : public RealStore {
         root.PutKey(kRule);
     }
 
-    [[nodiscard]] Rule LoadOnlyRule() {
+    [[nodiscard]] store::Rule LoadOnlyRule() {
         EXPECT_TRUE(Load());
         return state.profiles.at(0).rules.at(0);
     }
@@ -36,11 +36,11 @@ TEST_F(HandMadeKeys, NumbersOfEveryTypeAndSize) {
     const Case cases[] = {
         {"DWORD", Number(7), 7, false},
         {"negative DWORD", Number(0xFFFFFFFE), -2, false},
-        {"binary of four bytes", Bytes(kTypeBinary, {7, 0, 0, 0}), 15, false},
+        {"binary of four bytes", Bytes(store::kTypeBinary, {7, 0, 0, 0}), 15, false},
         {"QWORD", Bytes(kTypeQuadNumber, {7, 0, 0, 0, 0, 0, 0, 0}), 15, true},
-        {"DWORD of two bytes", Bytes(kTypeNumber, {7, 0}), 15, false},
-        {"DWORD of no bytes", Bytes(kTypeNumber, {}), 15, false},
-        {"DWORD of five bytes", Bytes(kTypeNumber, {7, 0, 0, 0, 0}), 15, true},
+        {"DWORD of two bytes", Bytes(store::kTypeNumber, {7, 0}), 15, false},
+        {"DWORD of no bytes", Bytes(store::kTypeNumber, {}), 15, false},
+        {"DWORD of five bytes", Bytes(store::kTypeNumber, {7, 0, 0, 0, 0}), 15, true},
         {"text of one character", Text(L"7"), 15, false},
         {"longer text", Text(L"77"), 15, true},
     };
@@ -69,20 +69,20 @@ TEST_F(HandMadeKeys, TextsOfEveryTypeAndShape) {
     const Case cases[] = {
         {"text", Text(L"ext"), L"ext", false},
         {"empty text", Text(L""), L"", false},
-        {"no bytes", Bytes(kTypeText, {}), L"", false},
-        {"expandable text", Bytes(kTypeExpandableText, {'%', 0, 'T', 0, '%', 0, 0, 0}), L"%T%", false},
-        {"no terminator", Bytes(kTypeText, {'a', 0, 'b', 0}), L"p7s", false},
-        {"odd size", Bytes(kTypeText, {'a', 0, 0}), L"p7s", false},
-        {"two terminators", Bytes(kTypeText, {'a', 0, 0, 0, 0, 0}), L"a", false},
-        {"NUL inside", Bytes(kTypeText, {'a', 0, 0, 0, 'b', 0, 0, 0}), L"a", false},
+        {"no bytes", Bytes(store::kTypeText, {}), L"", false},
+        {"expandable text", Bytes(store::kTypeExpandableText, {'%', 0, 'T', 0, '%', 0, 0, 0}), L"%T%", false},
+        {"no terminator", Bytes(store::kTypeText, {'a', 0, 'b', 0}), L"p7s", false},
+        {"odd size", Bytes(store::kTypeText, {'a', 0, 0}), L"p7s", false},
+        {"two terminators", Bytes(store::kTypeText, {'a', 0, 0, 0, 0, 0}), L"a", false},
+        {"NUL inside", Bytes(store::kTypeText, {'a', 0, 0, 0, 'b', 0, 0, 0}), L"a", false},
         {"number", Number(7), L"p7s", false},
         {"list", MultiText({L"a"}), L"p7s", false},
-        {"binary", Bytes(kTypeBinary, {'a', 0, 0, 0}), L"p7s", false},
+        {"binary", Bytes(store::kTypeBinary, {'a', 0, 0, 0}), L"p7s", false},
         {"519 characters", Text(std::wstring(519, L'x')), std::wstring(519, L'x'), false},
         {"520 characters", Text(std::wstring(520, L'x')), L"p7s", true},
-        {"520 characters without terminator", Bytes(kTypeText, CharacterBytes(std::wstring(520, L'x'))),
-         L"p7s", false},
-        {"binary of 2000 bytes", Bytes(kTypeBinary, std::vector<std::uint8_t>(2000)), L"p7s", true},
+        {"520 characters without terminator",
+         Bytes(store::kTypeText, CharacterBytes(std::wstring(520, L'x'))), L"p7s", false},
+        {"binary of 2000 bytes", Bytes(store::kTypeBinary, std::vector<std::uint8_t>(2000)), L"p7s", true},
     };
     for (const Case& item : cases) {
         root.Put(kProgram, L"SigExt", item.stored);
@@ -103,23 +103,23 @@ TEST_F(HandMadeKeys, ListsOfEveryTypeAndShape) {
     struct Case {
         const char* what;
         StoredData stored;
-        corvane::TextList list;
+        corvane::store::TextList list;
         bool isReported;
     };
     const Case cases[] = {
         {"list", MultiText({L"a", L"b"}), {L"a", L"b"}, false},
-        {"one NUL", Bytes(kTypeTextList, {0, 0}), {}, false},
-        {"two NULs", Bytes(kTypeTextList, {0, 0, 0, 0}), {}, false},
+        {"one NUL", Bytes(store::kTypeTextList, {0, 0}), {}, false},
+        {"two NULs", Bytes(store::kTypeTextList, {0, 0, 0, 0}), {}, false},
         {"empty element inside", MultiText({L"A", L"", L"B"}), {L"A"}, false},
         {"text", Text(L"one"), {L"one"}, false},
-        {"expandable text", Bytes(kTypeExpandableText, {'%', 0, 0, 0}), {L"%"}, false},
-        {"no bytes", Bytes(kTypeTextList, {}), {}, true},
-        {"text of no bytes", Bytes(kTypeText, {}), {}, true},
-        {"one terminator", Bytes(kTypeTextList, {'a', 0, 0, 0}), {}, true},
-        {"no terminator", Bytes(kTypeTextList, {'a', 0}), {}, true},
-        {"odd size", Bytes(kTypeTextList, {'a', 0, 0, 0, 0, 0, 0}), {}, true},
+        {"expandable text", Bytes(store::kTypeExpandableText, {'%', 0, 0, 0}), {L"%"}, false},
+        {"no bytes", Bytes(store::kTypeTextList, {}), {}, true},
+        {"text of no bytes", Bytes(store::kTypeText, {}), {}, true},
+        {"one terminator", Bytes(store::kTypeTextList, {'a', 0, 0, 0}), {}, true},
+        {"no terminator", Bytes(store::kTypeTextList, {'a', 0}), {}, true},
+        {"odd size", Bytes(store::kTypeTextList, {'a', 0, 0, 0, 0, 0, 0}), {}, true},
         {"number", Number(1), {}, true},
-        {"binary", Bytes(kTypeBinary, {'a', 0, 0, 0, 0, 0}), {}, true},
+        {"binary", Bytes(store::kTypeBinary, {'a', 0, 0, 0, 0, 0}), {}, true},
         {"long list", MultiText({std::wstring(5000, L'x'), L"b"}), {std::wstring(5000, L'x'), L"b"}, false},
     };
     for (const Case& item : cases) {
@@ -140,8 +140,8 @@ TEST_F(HandMadeKeys, ListsOfEveryTypeAndShape) {
 TEST_F(HandMadeKeys, NumberListsTakeWhatStandsInFrontOfTheFirstNonDigit) {
     root.Put(kProfile, L"NotLoadCrl", MultiText({L" 1", L"-2x", L"x", L"99999999999", L"+3"}));
     ASSERT_TRUE(Load());
-    EXPECT_EQ(state.profiles.at(0).notLoadCrl, (NumberList{1, -2, 0, 2147483647, 3}));
-    EXPECT_EQ(state.profiles.at(0).crlUpdatePeriods, (NumberList{1, 1, 1, 1, 1}));
+    EXPECT_EQ(state.profiles.at(0).notLoadCrl, (store::NumberList{1, -2, 0, 2147483647, 3}));
+    EXPECT_EQ(state.profiles.at(0).crlUpdatePeriods, (store::NumberList{1, 1, 1, 1, 1}));
 }
 
 TEST_F(HandMadeKeys, GapsInNumberedValuesKeepThePlaces) {
@@ -151,11 +151,11 @@ TEST_F(HandMadeKeys, GapsInNumberedValuesKeepThePlaces) {
     root.Put(kRule, L"C1", Number(7));
     root.Put(kRule + L"\\List", L"Signer Num", Number(2));
     root.Put(kRule + L"\\List", L"S0", Text(L"CN=S"));
-    const Rule rule = LoadOnlyRule();
-    EXPECT_EQ(rule.masks, (corvane::TextList{L"", L"*.b", L""}));
-    EXPECT_EQ(rule.recipients, (corvane::TextList{L"", L""}));
+    const store::Rule rule = LoadOnlyRule();
+    EXPECT_EQ(rule.masks, (corvane::store::TextList{L"", L"*.b", L""}));
+    EXPECT_EQ(rule.recipients, (corvane::store::TextList{L"", L""}));
     ASSERT_EQ(rule.signerGroups.size(), 1U);
-    EXPECT_EQ(rule.signerGroups[0].signers, (corvane::TextList{L"CN=S", L""}));
+    EXPECT_EQ(rule.signerGroups[0].signers, (corvane::store::TextList{L"CN=S", L""}));
     EXPECT_TRUE(ReportTexts().empty());
 }
 
@@ -164,7 +164,7 @@ TEST_F(HandMadeKeys, NegativeCountsGiveNone) {
     root.Put(kRule, L"Mask", Text(L"*.old"));
     root.Put(kRule, L"Ext num", Number(0x80000000));
     root.Put(kRule + L"\\List", L"Signer Num", Number(0xFFFFFFFF));
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_TRUE(rule.masks.empty());
     EXPECT_TRUE(rule.recipients.empty());
     EXPECT_TRUE(rule.signerGroups.at(0).signers.empty());
@@ -174,7 +174,7 @@ TEST_F(HandMadeKeys, NegativeCountsGiveNone) {
 TEST_F(HandMadeKeys, ACountBeyondBeliefIsReportedAndLosesNoText) {
     root.Put(kRule, L"Mask num", Number(0x7FFFFFFF));
     root.Put(kRule, L"M2", Text(L"*.c"));
-    EXPECT_EQ(LoadOnlyRule().masks, (corvane::TextList{L"", L"", L"*.c"}));
+    EXPECT_EQ(LoadOnlyRule().masks, (corvane::store::TextList{L"", L"", L"*.c"}));
     EXPECT_EQ(ReportTexts(),
               std::vector<std::wstring>{ReportText(L"Reading integer value 'Mask num' from register", 13)});
 }
@@ -185,7 +185,7 @@ TEST_F(HandMadeKeys, RuleKeysWithGapsOddNamesAndNoNumbersAllLoad) {
     }
     ASSERT_TRUE(Load());
     std::vector<std::wstring> descriptions;
-    for (const Rule& rule : state.profiles.at(0).rules) {
+    for (const store::Rule& rule : state.profiles.at(0).rules) {
         descriptions.push_back(rule.description);
     }
     // "copy" and "Rule 0" share the number 0 and keep the order in which the system names them.
@@ -215,4 +215,4 @@ TEST_F(HandMadeKeys, WithoutCatalogueAndProfileNothingHalfMadeStaysBehind) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

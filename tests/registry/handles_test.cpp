@@ -9,7 +9,7 @@
 // A program that lives for weeks may lose no handle, whether a load or a save succeeds or not; and what it
 // saves has to outlive the session.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 // The handles that this process has open. The system hands out the lowest free number, so a lost one is among
@@ -27,7 +27,7 @@ std::size_t OpenHandles() {
 }
 
 // The registry's own calls, of which those told so fail.
-class FailingCalls : public RegistryCalls {
+class FailingCalls : public store::RegistryCalls {
   public:
     std::uint32_t Open(Key parent, const std::wstring& path, std::uint32_t access, Transaction transaction,
                        Key& key) override {
@@ -70,7 +70,7 @@ class FailingCalls : public RegistryCalls {
 
     bool Enter() { return callCount++ < firstFailure_; }
 
-    WindowsRegistryCalls calls_;
+    store::WindowsRegistryCalls calls_;
     std::size_t firstFailure_ = SIZE_MAX;
 };
 
@@ -96,11 +96,11 @@ class Handles : public ::testing::Test {
     }
 
     void LoadAndSave() {
-        RegistryAccess access(calls, reports.reporter);
-        ConfigurationState loaded;
-        static_cast<void>(LoadConfiguration(loaded, access, reports.reporter, nullptr));
+        store::RegistryAccess access(calls, reports.reporter);
+        store::ConfigurationState loaded;
+        static_cast<void>(store::LoadConfiguration(loaded, access, reports.reporter, nullptr));
         loaded.profiles.emplace_back().name = L"New";
-        SaveConfiguration(loaded, {}, access, reports.reporter, nullptr);
+        store::SaveConfiguration(loaded, {}, access, reports.reporter, nullptr);
     }
 
     OwnRegistryRoot root;
@@ -136,7 +136,7 @@ using SavedKeys = RealStore;
 TEST_F(SavedKeys, OutliveTheSession) {
     root.PutKey(kProgram);
     state.profiles.emplace_back().name = L"Mail";
-    Rule rule;
+    store::Rule rule;
     rule.operation = L"SIGN";
     rule.signerGroups = {{L"Officers", {L"CN=A"}}};
     state.profiles.back().rules = {rule};
@@ -155,4 +155,4 @@ TEST_F(SavedKeys, OutliveTheSession) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

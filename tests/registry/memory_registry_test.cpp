@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "config/registry_calls_windows.h"
+#include "store/registry/registry_calls.h"
 #include "tests/registry/own_registry_root.h"
 #include "tests/support/memory_registry.h"
 
 // Most tests have their registry in memory. Here the same calls go to it and to the system's own, and both
 // must answer alike: a test that passes on a registry that is kinder than the real one shows nothing.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 constexpr std::uint32_t kReadWrite = 0x2001F;
@@ -19,28 +19,28 @@ constexpr std::uint32_t kReadWrite = 0x2001F;
 // What a sequence of calls comes to: a line for each call, with its code and what it gave.
 class Transcript {
   public:
-    explicit Transcript(RegistryCalls& calls) : calls_(calls) {}
+    explicit Transcript(store::RegistryCalls& calls) : calls_(calls) {}
 
-    RegistryCalls::Key Create(const std::wstring& path, RegistryCalls::Key parent = nullptr) {
-        RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key Create(const std::wstring& path, store::RegistryCalls::Key parent = nullptr) {
+        store::RegistryCalls::Key key = nullptr;
         Note("create", path, calls_.Create(parent, path, kReadWrite, nullptr, key));
         return key;
     }
-    RegistryCalls::Key Open(const std::wstring& path, RegistryCalls::Key parent = nullptr) {
-        RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key Open(const std::wstring& path, store::RegistryCalls::Key parent = nullptr) {
+        store::RegistryCalls::Key key = nullptr;
         Note("open", path, calls_.Open(parent, path, kReadWrite, nullptr, key));
         return key;
     }
-    void Delete(const std::wstring& name, RegistryCalls::Key parent = nullptr) {
+    void Delete(const std::wstring& name, store::RegistryCalls::Key parent = nullptr) {
         Note("delete", name, calls_.Delete(parent, name, 0, nullptr));
     }
-    void Set(RegistryCalls::Key key, const std::wstring& name, const std::wstring& text) {
+    void Set(store::RegistryCalls::Key key, const std::wstring& name, const std::wstring& text) {
         const StoredData data = Text(text);
         Note("set", name,
              calls_.Set(key, name, data.type, data.bytes.data(),
                         static_cast<std::uint32_t>(data.bytes.size())));
     }
-    void Query(RegistryCalls::Key key, const std::wstring& name) {
+    void Query(store::RegistryCalls::Key key, const std::wstring& name) {
         StoredData data;
         data.bytes.resize(64);
         std::uint32_t sizeBytes = 0;
@@ -53,14 +53,14 @@ class Transcript {
         Note("query size", name, calls_.Query(key, name, nullptr, 0, type, askedBytes));
         lines_ += "type " + std::to_string(type) + ", " + std::to_string(askedBytes) + " bytes\n";
     }
-    void Enumerate(RegistryCalls::Key key, std::uint32_t capacityChars = 260) {
+    void Enumerate(store::RegistryCalls::Key key, std::uint32_t capacityChars = 260) {
         for (std::uint32_t index = 0, code = 0; code == 0; ++index) {
             std::wstring name;
             code = calls_.EnumerateSubkey(key, index, capacityChars, name);
             Note("enumerate", code == 0 ? name : L"", code);
         }
     }
-    void Close(RegistryCalls::Key key) {
+    void Close(store::RegistryCalls::Key key) {
         if (key != nullptr) {
             Note("close", L"", calls_.Close(key));
         }
@@ -73,7 +73,7 @@ class Transcript {
         lines_ += std::string(operation) + " [" + Printable(name) + "] = " + std::to_string(code) + '\n';
     }
 
-    RegistryCalls& calls_;
+    store::RegistryCalls& calls_;
     std::string lines_;
 };
 
@@ -89,14 +89,14 @@ void PrintTo(const Case& row, std::ostream* out) {
 // Makes a key of the name under "One", finds it again and deletes it.
 std::function<void(Transcript&)> ComeAndGo(const std::wstring& name) {
     return [name](Transcript& calls) {
-        const RegistryCalls::Key one = calls.Create(L"One");
-        const RegistryCalls::Key made = calls.Create(name, one);
+        const store::RegistryCalls::Key one = calls.Create(L"One");
+        const store::RegistryCalls::Key made = calls.Create(name, one);
         if (made != nullptr) {
             calls.Set(made, L"Name", L"text");
         }
         calls.Close(made);
         calls.Enumerate(one);
-        const RegistryCalls::Key found = calls.Open(name, one);
+        const store::RegistryCalls::Key found = calls.Open(name, one);
         if (found != nullptr) {
             calls.Query(found, L"Name");
             calls.Enumerate(found);
@@ -112,7 +112,7 @@ std::function<void(Transcript&)> ComeAndGo(const std::wstring& name) {
 // Sets a value of the name, reads it again, and sets another whose name differs in letter case.
 std::function<void(Transcript&)> SetAndRead(const std::wstring& name, const std::wstring& otherCase) {
     return [name, otherCase](Transcript& calls) {
-        const RegistryCalls::Key one = calls.Create(L"One");
+        const store::RegistryCalls::Key one = calls.Create(L"One");
         calls.Query(one, name);
         calls.Set(one, name, L"first");
         calls.Query(one, otherCase);
@@ -154,7 +154,7 @@ const std::vector<Case>& Cases() {
         {"LongValueName", SetAndRead(std::wstring(1000, L'v'), std::wstring(1000, L'V'))},
         {"KeyInOtherCase",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One");
+             const store::RegistryCalls::Key one = calls.Create(L"One");
              calls.Close(calls.Create(L"Two\\Three", one));
              calls.Close(calls.Create(L"tWO\\tHREE", one));
              calls.Close(calls.Open(L"TWO\\THREE", one));
@@ -166,7 +166,7 @@ const std::vector<Case>& Cases() {
          }},
         {"KeyInOtherCyrillicCase",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One");
+             const store::RegistryCalls::Key one = calls.Create(L"One");
              calls.Close(calls.Create(L"\x041F\x043E\x0447\x0442\x0430 \x0401", one));
              calls.Close(calls.Open(L"\x043F\x041E\x0427\x0422\x0410 \x0451", one));
              calls.Close(calls.Create(L"\x043F\x041E\x0427\x0422\x0410 \x0451", one));
@@ -175,7 +175,7 @@ const std::vector<Case>& Cases() {
          }},
         {"NamesThatDifferInMoreThanCase",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One");
+             const store::RegistryCalls::Key one = calls.Create(L"One");
              calls.Close(calls.Create(L"\x0401", one));
              calls.Close(calls.Open(L"\x0415", one));
              calls.Close(calls.Open(L"\x00D7", one));
@@ -185,7 +185,7 @@ const std::vector<Case>& Cases() {
          }},
         {"CapacityOfEnumeration",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One");
+             const store::RegistryCalls::Key one = calls.Create(L"One");
              calls.Close(calls.Create(L"abc", one));
              calls.Enumerate(one, 4);
              calls.Enumerate(one, 3);
@@ -193,7 +193,7 @@ const std::vector<Case>& Cases() {
          }},
         {"KeyWithSubkeysIsNotDeleted",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One");
+             const store::RegistryCalls::Key one = calls.Create(L"One");
              calls.Close(calls.Create(L"Two\\Three", one));
              calls.Delete(L"Two", one);
              calls.Delete(L"Two\\Three", one);
@@ -203,8 +203,8 @@ const std::vector<Case>& Cases() {
          }},
         {"DeletedKeyThatIsStillOpen",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One");
-             const RegistryCalls::Key two = calls.Create(L"Two", one);
+             const store::RegistryCalls::Key one = calls.Create(L"One");
+             const store::RegistryCalls::Key two = calls.Create(L"Two", one);
              calls.Set(two, L"Name", L"text");
              calls.Delete(L"Two", one);
              calls.Query(two, L"Name");
@@ -220,7 +220,7 @@ const std::vector<Case>& Cases() {
          }},
         {"DeletingByAnEmptyName",
          [](Transcript& calls) {
-             const RegistryCalls::Key one = calls.Create(L"One\\Two");
+             const store::RegistryCalls::Key one = calls.Create(L"One\\Two");
              calls.Delete(L"", one);
              calls.Close(one);
              calls.Close(calls.Open(L"One\\Two"));
@@ -234,7 +234,7 @@ class MemoryRegistryIsLikeTheSystems : public ::testing::TestWithParam<Case> {};
 
 TEST_P(MemoryRegistryIsLikeTheSystems, CallByCall) {
     const OwnRegistryRoot root;
-    WindowsRegistryCalls systemCalls;
+    store::WindowsRegistryCalls systemCalls;
     Transcript system(systemCalls);
     GetParam().run(system);
 
@@ -251,4 +251,4 @@ INSTANTIATE_TEST_SUITE_P(Names, MemoryRegistryIsLikeTheSystems, ::testing::Value
                          [](const auto& row) { return row.param.name; });
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -137,4 +137,4 @@ RegistrySnapshot OwnRegistryRoot::Snapshot() const {
     return snapshot;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

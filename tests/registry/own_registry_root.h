@@ -10,7 +10,7 @@
 
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// While it lives, HKEY_CURRENT_USER of this process is an empty key of its own, which goes with it. The key
 /// is not a volatile one, because under such a key the system refuses the lasting keys that the program
@@ -39,4 +39,4 @@ class OwnRegistryRoot {
     HKEY key_ = nullptr;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

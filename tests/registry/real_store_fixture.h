@@ -5,20 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "config/load_configuration.h"
-#include "config/registry_access.h"
-#include "config/registry_calls_windows.h"
-#include "config/save_configuration.h"
+#include "store/registry/load_configuration.h"
+#include "store/registry/registry_access.h"
+#include "store/registry/registry_calls.h"
+#include "store/registry/save_configuration.h"
 #include "tests/registry/own_registry_root.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A configuration in memory above the system's registry, under a root of the test's own.
 class RealStore : public ::testing::Test {
   protected:
-    [[nodiscard]] bool Load() { return LoadConfiguration(state, access, reports.reporter, nullptr); }
-    void Save() { SaveConfiguration(state, restored, access, reports.reporter, nullptr); }
+    [[nodiscard]] bool Load() { return store::LoadConfiguration(state, access, reports.reporter, nullptr); }
+    void Save() { store::SaveConfiguration(state, restored, access, reports.reporter, nullptr); }
 
     [[nodiscard]] std::vector<std::wstring> ReportTexts() const {
         std::vector<std::wstring> texts;
@@ -30,14 +30,14 @@ class RealStore : public ::testing::Test {
 
     OwnRegistryRoot root;
     ReporterFixture reports;
-    WindowsRegistryCalls calls;
-    RegistryAccess access{calls, reports.reporter};
-    ConfigurationState state;
-    WindowRectangle restored;
+    store::WindowsRegistryCalls calls;
+    store::RegistryAccess access{calls, reports.reporter};
+    store::ConfigurationState state;
+    store::WindowRectangle restored;
 };
 
 // Written out here, as other programs know them.
 inline const std::wstring kCatalogue = L"SOFTWARE\\HOLVAN\\tarn\\Profiles";
 inline const std::wstring kProgram = L"SOFTWARE\\HOLVAN\\tarntray";
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

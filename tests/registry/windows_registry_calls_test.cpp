@@ -1,4 +1,4 @@
-#include "config/registry_calls_windows.h"
+#include "store/registry/registry_calls.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 #include "tests/registry/own_registry_root.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 constexpr std::uint32_t kAccess = 0x2001F;
@@ -14,37 +14,37 @@ constexpr std::uint32_t kAccess = 0x2001F;
 class RealCalls : public ::testing::Test {
   protected:
     void TearDown() override {
-        for (const RegistryCalls::Key key : opened_) {
+        for (const store::RegistryCalls::Key key : opened_) {
             EXPECT_EQ(calls.Close(key), 0U);
         }
     }
 
-    RegistryCalls::Key OpenKey(const std::wstring& path) {
-        RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key OpenKey(const std::wstring& path) {
+        store::RegistryCalls::Key key = nullptr;
         EXPECT_EQ(calls.Open(nullptr, path, kAccess, nullptr, key), 0U);
         opened_.push_back(key);
         return key;
     }
 
     OwnRegistryRoot root;
-    WindowsRegistryCalls calls;
+    store::WindowsRegistryCalls calls;
 
   private:
-    std::vector<RegistryCalls::Key> opened_;
+    std::vector<store::RegistryCalls::Key> opened_;
 };
 
 TEST_F(RealCalls, OpenGivesNotFoundAndLeavesTheKey) {
     int untouched = 0;
-    RegistryCalls::Key key = &untouched;
+    store::RegistryCalls::Key key = &untouched;
     EXPECT_EQ(calls.Open(nullptr, L"None", kAccess, nullptr, key), 2U);
     EXPECT_EQ(key, &untouched);
 }
 
 TEST_F(RealCalls, CreateMakesTheWholePathAndOpensItTheNextTime) {
     for (int round = 0; round < 2; ++round) {
-        RegistryCalls::Key key = nullptr;
+        store::RegistryCalls::Key key = nullptr;
         ASSERT_EQ(calls.Create(nullptr, L"One\\Two", kAccess, nullptr, key), 0U);
-        EXPECT_EQ(calls.Set(key, L"Name", kTypeText, L"x", 4), 0U);
+        EXPECT_EQ(calls.Set(key, L"Name", store::kTypeText, L"x", 4), 0U);
         EXPECT_EQ(calls.Close(key), 0U);
     }
     EXPECT_EQ(root.Find(L"One\\Two", L"Name"), Text(L"x"));
@@ -52,14 +52,14 @@ TEST_F(RealCalls, CreateMakesTheWholePathAndOpensItTheNextTime) {
 
 TEST_F(RealCalls, SubkeysAreOpenedUnderTheirParent) {
     root.PutKey(L"One\\Two");
-    RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key key = nullptr;
     ASSERT_EQ(calls.Open(OpenKey(L"One"), L"Two", kAccess, nullptr, key), 0U);
     EXPECT_EQ(calls.Close(key), 0U);
 }
 
 TEST_F(RealCalls, EnumerateEndsWith259AndWantsRoomForTheNul) {
     root.PutKey(L"One\\abc");
-    const RegistryCalls::Key key = OpenKey(L"One");
+    const store::RegistryCalls::Key key = OpenKey(L"One");
     std::wstring name;
     EXPECT_EQ(calls.EnumerateSubkey(key, 0, 4, name), 0U);
     EXPECT_EQ(name, L"abc");
@@ -76,12 +76,12 @@ TEST_F(RealCalls, ANameOf255CharactersIsGivenWhole) {
 }
 
 TEST_F(RealCalls, QueryGivesTypeSizeAndData) {
-    root.Put(L"One", L"Name", Bytes(kTypeBinary, {1, 2, 3}));
-    const RegistryCalls::Key key = OpenKey(L"One");
+    root.Put(L"One", L"Name", Bytes(store::kTypeBinary, {1, 2, 3}));
+    const store::RegistryCalls::Key key = OpenKey(L"One");
     std::uint32_t type = 0;
     std::uint32_t size = 0;
     EXPECT_EQ(calls.Query(key, L"Name", nullptr, 0, type, size), 0U);
-    EXPECT_EQ(type, kTypeBinary);
+    EXPECT_EQ(type, store::kTypeBinary);
     EXPECT_EQ(size, 3U);
     std::array<std::uint8_t, 3> data{};
     size = 0;
@@ -95,7 +95,7 @@ TEST_F(RealCalls, QueryGivesTypeSizeAndData) {
 
 TEST_F(RealCalls, DeleteRefusesAKeyWithSubkeys) {
     root.PutKey(L"One\\Two\\Three");
-    const RegistryCalls::Key key = OpenKey(L"One");
+    const store::RegistryCalls::Key key = OpenKey(L"One");
     EXPECT_NE(calls.Delete(key, L"Two", 0, nullptr), 0U);
     EXPECT_EQ(calls.Delete(key, L"Two\\Three", 0, nullptr), 0U);
     EXPECT_EQ(calls.Delete(key, L"Two", 0, nullptr), 0U);
@@ -103,10 +103,10 @@ TEST_F(RealCalls, DeleteRefusesAKeyWithSubkeys) {
 }
 
 TEST_F(RealCalls, TransactedCallsGive1WhereTheSystemLacksThem) {
-    WindowsRegistryCalls lacking(L"ntdll.dll");
+    store::WindowsRegistryCalls lacking(L"ntdll.dll");
     root.PutKey(L"One");
     int transaction = 0;
-    RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key key = nullptr;
     EXPECT_EQ(lacking.Open(nullptr, L"One", kAccess, &transaction, key), 1U);
     EXPECT_EQ(lacking.Create(nullptr, L"One", kAccess, &transaction, key), 1U);
     EXPECT_EQ(lacking.Delete(nullptr, L"One", 0, &transaction), 1U);
@@ -115,7 +115,7 @@ TEST_F(RealCalls, TransactedCallsGive1WhereTheSystemLacksThem) {
 }
 
 TEST_F(RealCalls, DeleteDoesWithoutTheExtendedOneWhereTheSystemLacksIt) {
-    WindowsRegistryCalls lacking(L"ntdll.dll");
+    store::WindowsRegistryCalls lacking(L"ntdll.dll");
     root.PutKey(L"One");
     EXPECT_EQ(lacking.Delete(nullptr, L"One", 0, nullptr), 0U);
     EXPECT_TRUE(root.SubkeyNames(L"").empty());
@@ -123,10 +123,10 @@ TEST_F(RealCalls, DeleteDoesWithoutTheExtendedOneWhereTheSystemLacksIt) {
 
 TEST_F(RealCalls, TransactedCallsRefuseWhatIsNoTransaction) {
     root.PutKey(L"One");
-    RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key key = nullptr;
     EXPECT_NE(calls.Open(nullptr, L"One", kAccess, INVALID_HANDLE_VALUE, key), 0U);
     EXPECT_EQ(key, nullptr);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "res/ids.h"
-#include "toolkit/icon.h"
+#include "toolkit/system/icon.h"
 
 namespace {
 
@@ -76,7 +76,7 @@ struct Picture {
 // The picture that the system makes of an icon resource at one size; 0 wide where there is none.
 Picture LoadPicture(const wchar_t* resource, int sizePixels) {
     Picture picture;
-    const toolkit::UniqueIcon icon(static_cast<HICON>(LoadImageW(
+    const corvane::toolkit::UniqueIcon icon(static_cast<HICON>(LoadImageW(
         GetModuleHandleW(nullptr), resource, IMAGE_ICON, sizePixels, sizePixels, LR_DEFAULTCOLOR)));
     ICONINFO info = {};
     if (!icon || !GetIconInfo(icon.get(), &info))

@@ -53,7 +53,7 @@ std::vector<std::uint8_t> ReadFileBytes(const std::wstring& path) {
 
 TEST(LocalStore, AllValidCertificatesOfTheFolderAreFoundTheExpiredOneIsNot) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     ASSERT_EQ(library.Search(context, 0, nullptr, found), 0U);
     EXPECT_THAT(OwnersOf(found), UnorderedElementsAreArray(LocalOwners()));
@@ -64,7 +64,7 @@ TEST(LocalStore, AllValidCertificatesOfTheFolderAreFoundTheExpiredOneIsNot) {
 
 TEST(LocalStore, TheUsageByteTellsEncryptionFromSigning) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     ASSERT_EQ(library.Search(context, 0x100, "CN=Erik Sandberg", found), 0U);
     EXPECT_EQ(found[0].usage & kEncryptionMask, 0U) << "signatures only";
@@ -78,7 +78,7 @@ TEST(LocalStore, TheUsageByteTellsEncryptionFromSigning) {
 
 TEST(LocalStore, TwoCertificatesOfOneOwnerHaveTheirOwnSerials) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     ASSERT_EQ(library.Search(context, 4, "CN=Helen Marsh,OU=Settlement,O=Northgate Clearing,C=GB", found),
               0U);
@@ -88,7 +88,7 @@ TEST(LocalStore, TwoCertificatesOfOneOwnerHaveTheirOwnSerials) {
 
 TEST(LocalStore, ASerialReadsAsTheCertificateHoldsIt) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     ASSERT_EQ(library.Search(context, 0, "CN=Oliver Trent", found), 0U);
     std::vector<std::uint8_t> encoded = found[0].serial;
@@ -105,7 +105,7 @@ TEST(LocalStore, FilesThatAreNoCertificatesArePassedOver) {
     std::ofstream(ToCodePage(library.Certificates() + L"local\\broken.cer")) << "no certificate";
     std::ofstream(ToCodePage(library.Certificates() + L"local\\empty.pem")) << "";
     std::ofstream(ToCodePage(library.Certificates() + L"local\\notes.txt")) << "notes";
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     ASSERT_EQ(library.Search(context, 0, nullptr, found), 0U);
     EXPECT_EQ(found.size(), LocalOwners().size());
@@ -124,7 +124,7 @@ TEST(LocalStore, CertificatesOfTheUsersStoresAreFoundAndThoseOfTheFolderNotDoubl
                   FALSE);
         CertCloseStore(store, 0);
     }
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     ASSERT_EQ(library.Search(context, 0, "O=Lindholm Freight", found), 0U);
     EXPECT_THAT(OwnersOf(found), UnorderedElementsAre("CN=Maja Nyberg,O=Lindholm Freight,C=SE",
@@ -134,10 +134,10 @@ TEST(LocalStore, CertificatesOfTheUsersStoresAreFoundAndThoseOfTheFolderNotDoubl
 
 TEST(NetworkStore, OnlySearchesWithItsFlagFindItsCertificates) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     for (const std::uint32_t flags : {0U, 0x100U}) {
-        EXPECT_EQ(library.Search(context, flags, "CN=Maja*", found), kStatusNothingFound);
+        EXPECT_EQ(library.Search(context, flags, "CN=Maja*", found), provider::kStatusNothingFound);
     }
     for (const std::uint32_t flags : {0x4U, 0x104U, 0xE04U, 0xF04U}) {
         EXPECT_EQ(library.Search(context, flags, "CN=Maja*", found), 0U);
@@ -150,7 +150,7 @@ TEST(NetworkStore, OnlySearchesWithItsFlagFindItsCertificates) {
 
 TEST(NetworkStore, LettersOfEitherCaseMatchCyrillicOnesToo) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     const std::string sample = ToCodePage(L"cn=\u0441\u043E\u043A\u043E\u043B*");
     EXPECT_EQ(library.Search(context, 0xE04, sample.c_str(), found), 0U);
@@ -163,16 +163,16 @@ TEST(NetworkStore, AMissingFolderIsANetworkStoreThatDoesNotAnswer) {
     LoadedStandIn library;
     const std::wstring folder = library.Certificates() + L"network";
     ASSERT_NE(MoveFileW(folder.c_str(), (folder + L"_away").c_str()), FALSE);
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     std::vector<FoundCertificate> found;
     const std::uint32_t status = library.Search(context, 0xE04, "CN=QQQ,C=RU", found);
     EXPECT_NE(status, 0U);
-    EXPECT_NE(status, kStatusNothingFound);
+    EXPECT_NE(status, provider::kStatusNothingFound);
     const std::vector<FoundError> errors = library.PopErrors(context);
     ASSERT_EQ(errors.size(), 2U);
     EXPECT_EQ(errors[1].data, ToCodePage(folder));
     ASSERT_NE(MoveFileW((folder + L"_away").c_str(), folder.c_str()), FALSE);
-    EXPECT_EQ(library.Search(context, 0xE04, "CN=QQQ,C=RU", found), kStatusNothingFound);
+    EXPECT_EQ(library.Search(context, 0xE04, "CN=QQQ,C=RU", found), provider::kStatusNothingFound);
 }
 
 }  // namespace

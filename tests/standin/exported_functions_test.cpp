@@ -23,7 +23,7 @@ TEST(ExportedFunctions, EightAreExportedAndNothingElse) {
 
 TEST(ExportedFunctions, AnUnknownCsProfileIsRefusedWithAText) {
     LoadedStandIn library;
-    ProviderContext context = 1;
+    provider::ProviderContext context = 1;
     const std::uint32_t status = library.Functions().initialize("Nobody", 0x80000040, &context);
     EXPECT_NE(status & 0x20000000U, 0U) << "a code of the provider";
     EXPECT_EQ(context, 0U);
@@ -41,7 +41,7 @@ TEST(ExportedFunctions, EveryCsProfileOfTheCatalogueOpens) {
     library.AddCsProfile(L"Profile03", L"\u0410\u0440\u0445\u0438\u0432");
     for (const std::string& name : {std::string("Clearing"), std::string("Partner exchange"),
                                     ToCodePage(L"\u0410\u0440\u0445\u0438\u0432")}) {
-        ProviderContext context = 0;
+        provider::ProviderContext context = 0;
         EXPECT_EQ(library.Functions().initialize(name.c_str(), 0x80000040, &context), 0U) << name;
         EXPECT_EQ(library.Functions().uninitialize(context), 0U);
     }
@@ -50,20 +50,20 @@ TEST(ExportedFunctions, EveryCsProfileOfTheCatalogueOpens) {
 TEST(ExportedFunctions, WithoutACatalogueNoCsProfileOpens) {
     LoadedStandIn library;
     RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\HOLVAN");
-    ProviderContext context = 1;
+    provider::ProviderContext context = 1;
     EXPECT_NE(library.Functions().initialize("Clearing", 0x80000040, &context), 0U);
     EXPECT_NE(library.Functions().initialize("", 0x80000040, &context), 0U);
 }
 
 TEST(ExportedFunctions, ADoubleReleaseIsRefusedInsteadOfCrashing) {
     LoadedStandIn library;
-    const ProviderFunctions& provider = library.Functions();
-    const ProviderContext context = library.Open();
-    CertQuery query;
+    const provider::ProviderFunctions& provider = library.Functions();
+    const provider::ProviderContext context = library.Open();
+    provider::CertQuery query;
     query.fieldsWanted = 0x84;
-    CertFindResult result;
+    provider::CertFindResult result;
     ASSERT_EQ(provider.findCert(context, &query, &result), 0U);
-    CertFindResult copy = result;
+    provider::CertFindResult copy = result;
     EXPECT_EQ(provider.freeFindResult(context, &result), 0U);
     EXPECT_NE(provider.freeFindResult(context, &copy), 0U);
     std::array<char, 8> foreign = {};

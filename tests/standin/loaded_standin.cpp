@@ -135,24 +135,24 @@ void LoadedStandIn::AddCsProfile(const wchar_t* subkey, const wchar_t* name) {
     RegCloseKey(key);
 }
 
-ProviderContext LoadedStandIn::Open(std::uint32_t flags) {
-    ProviderContext context = 0;
+provider::ProviderContext LoadedStandIn::Open(std::uint32_t flags) {
+    provider::ProviderContext context = 0;
     EXPECT_EQ(functions_.initialize("Clearing", flags, &context), 0U);
     return context;
 }
 
-std::uint32_t LoadedStandIn::Search(ProviderContext context, std::uint32_t flags, const char* pattern,
-                                    std::vector<FoundCertificate>& found) {
-    CertQuery query;
+std::uint32_t LoadedStandIn::Search(provider::ProviderContext context, std::uint32_t flags,
+                                    const char* pattern, std::vector<FoundCertificate>& found) {
+    provider::CertQuery query;
     query.searchFlags = flags;
     query.matchMode = pattern == nullptr ? 0 : 4;
     query.ownerPattern = pattern;
     query.fieldsWanted = 0x28084;
-    CertFindResult result;
+    provider::CertFindResult result;
     const std::uint32_t status = functions_.findCert(context, &query, &result);
     found.clear();
     for (std::uint32_t index = 0; index < result.count; ++index) {
-        const CertEntry& entry = result.entries[index];
+        const provider::CertEntry& entry = result.entries[index];
         found.push_back(
             {entry.owner, entry.issuer, entry.usage, {entry.serial, entry.serial + entry.serialLength}});
     }
@@ -160,17 +160,17 @@ std::uint32_t LoadedStandIn::Search(ProviderContext context, std::uint32_t flags
     return status;
 }
 
-std::vector<FoundError> LoadedStandIn::PopErrors(ProviderContext context) {
+std::vector<FoundError> LoadedStandIn::PopErrors(provider::ProviderContext context) {
     std::vector<FoundError> errors;
-    XsigBlob text;
-    XsigBlob file;
-    XsigBlob data;
+    provider::XsigBlob text;
+    provider::XsigBlob file;
+    provider::XsigBlob data;
     std::uint32_t line = 0;
     while (functions_.getErrorLine(context, &text, &file, &line, &data) == 0) {
         errors.push_back({{text.data, text.length}, {data.data, data.length}});
         EXPECT_EQ(std::string(file.data, file.length), "standin_provider.cpp");
         EXPECT_GT(line, 0U);
-        for (const XsigBlob& blob : {text, file, data}) {
+        for (const provider::XsigBlob& blob : {text, file, data}) {
             EXPECT_EQ(functions_.freeMem(0, blob.data), 0U);
         }
     }

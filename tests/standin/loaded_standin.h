@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "certs/provider/provider_functions.h"
+#include "provider/provider_functions.h"
 
 namespace corvane::standin {
 
@@ -44,26 +44,26 @@ class LoadedStandIn {
     /// The folder "certificates" beside the library, with a trailing backslash.
     [[nodiscard]] const std::wstring& Certificates() const { return certificates_; }
     [[nodiscard]] HMODULE Module() const { return module_; }
-    [[nodiscard]] const ProviderFunctions& Functions() const { return functions_; }
+    [[nodiscard]] const provider::ProviderFunctions& Functions() const { return functions_; }
 
     /// Adds a CS profile to the catalogue.
     void AddCsProfile(const wchar_t* subkey, const wchar_t* name);
 
     /// Opens a cryptocontext for "Clearing".
-    [[nodiscard]] ProviderContext Open(std::uint32_t flags = 0x80000040);
+    [[nodiscard]] provider::ProviderContext Open(std::uint32_t flags = 0x80000040);
 
     /// The status of a search for all fields; match mode 4 where there is a pattern.
-    std::uint32_t Search(ProviderContext context, std::uint32_t flags, const char* pattern,
+    std::uint32_t Search(provider::ProviderContext context, std::uint32_t flags, const char* pattern,
                          std::vector<FoundCertificate>& found);
 
     /// Pops and releases the whole error stack.
-    [[nodiscard]] std::vector<FoundError> PopErrors(ProviderContext context);
+    [[nodiscard]] std::vector<FoundError> PopErrors(provider::ProviderContext context);
 
   private:
     std::wstring folder_;
     std::wstring certificates_;
     HMODULE module_ = nullptr;
-    ProviderFunctions functions_ = {};
+    provider::ProviderFunctions functions_ = {};
     HKEY userKey_ = nullptr;
 };
 

@@ -42,7 +42,7 @@ std::vector<std::wstring> NumberedValues(const std::wstring& text, wchar_t lette
 
 TEST(WorkedExample, EveryRecipientIsFoundWithACertificateForEncryption) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     const std::vector<std::wstring> recipients = NumberedValues(ReadWorkedExample(), L'C');
     EXPECT_GE(recipients.size(), 9U);
     for (const std::wstring& recipient : recipients) {
@@ -57,7 +57,7 @@ TEST(WorkedExample, EveryRecipientIsFoundWithACertificateForEncryption) {
 
 TEST(WorkedExample, EverySignerIsFound) {
     LoadedStandIn library;
-    const ProviderContext context = library.Open();
+    const provider::ProviderContext context = library.Open();
     const std::vector<std::wstring> signers = NumberedValues(ReadWorkedExample(), L'S');
     EXPECT_GE(signers.size(), 9U);
     for (const std::wstring& signer : signers) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -115,4 +115,4 @@ MemoryFiles::OpenedFile* MemoryFiles::EnterWith(Handle file, FileOperation opera
     return code == 0 ? opened : nullptr;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

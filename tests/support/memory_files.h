@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/file_calls.h"
+#include "toolkit/files/file_calls.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// The kinds of file calls.
 enum class FileOperation { kCreate, kOpen, kSize, kRead, kWrite, kClose, kCheckExists };
@@ -88,4 +88,4 @@ class MemoryFiles : public toolkit::FileCalls {
     std::size_t misuses_ = 0;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

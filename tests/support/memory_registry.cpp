@@ -5,7 +5,7 @@
 #include <sstream>
 #include <utility>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -180,13 +180,14 @@ std::uint32_t MemoryRegistry::Resolve(Key parent, const std::wstring& path,
     for (const std::wstring& name : SplitPath(path)) {
         found = found->FindSubkey(name);
         if (!found) {
-            return kCodeNotFound;
+            return store::kCodeNotFound;
         }
     }
     return 0;
 }
 
-RegistryCalls::Key MemoryRegistry::Remember(std::shared_ptr<StoredKey> stored, const std::wstring& path) {
+store::RegistryCalls::Key MemoryRegistry::Remember(std::shared_ptr<StoredKey> stored,
+                                                   const std::wstring& path) {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): a key is a number that nobody looks behind.
     const Key key = reinterpret_cast<Key>(++lastKey_);
     opened_[key] = {std::move(stored), path};
@@ -227,7 +228,7 @@ std::uint32_t MemoryRegistry::Create(Key parent, const std::wstring& path, std::
     }
     std::shared_ptr<StoredKey> created;
     call->code = Resolve(parent, path, created);
-    if (call->code != 0 && call->code != kCodeNotFound) {
+    if (call->code != 0 && call->code != store::kCodeNotFound) {
         return call->code;
     }
     call->code = 0;
@@ -295,10 +296,10 @@ std::uint32_t MemoryRegistry::EnumerateSubkey(Key key, std::uint32_t index, std:
         return call->code = kCodeKeyDeleted;
     }
     if (index >= stored->subkeys.size()) {
-        return call->code = kCodeNoMoreItems;
+        return call->code = store::kCodeNoMoreItems;
     }
     if (stored->subkeys[index]->name.size() >= capacityChars) {
-        return call->code = kCodeMoreData;
+        return call->code = store::kCodeMoreData;
     }
     name = stored->subkeys[index]->name;
     call->name = name;
@@ -324,7 +325,7 @@ std::uint32_t MemoryRegistry::Query(Key key, const std::wstring& name, void* dat
     }
     const StoredData* const found = stored->FindValue(name);
     if (found == nullptr) {
-        return call->code = kCodeNotFound;
+        return call->code = store::kCodeNotFound;
     }
     type = found->type;
     sizeBytes = static_cast<std::uint32_t>(found->bytes.size());
@@ -338,7 +339,7 @@ std::uint32_t MemoryRegistry::Query(Key key, const std::wstring& name, void* dat
         return 0;
     }
     if (sizeBytes > capacityBytes) {
-        return call->code = kCodeMoreData;
+        return call->code = store::kCodeMoreData;
     }
     std::copy(found->bytes.begin(), found->bytes.end(), static_cast<std::uint8_t*>(data));
     return 0;
@@ -454,4 +455,4 @@ std::string Describe(const RegistryCall& call) {
     return text.str();
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

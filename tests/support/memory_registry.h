@@ -10,10 +10,10 @@
 #include <string_view>
 #include <vector>
 
-#include "config/registry_calls.h"
+#include "store/registry/registry_calls.h"
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// The kinds of registry calls. A query that asks only for type and size is a kind of its own.
 enum class RegistryOperation { kOpen, kCreate, kDelete, kClose, kEnumerate, kQuerySize, kQuery, kSet };
@@ -25,7 +25,7 @@ struct RegistryCall {
     std::wstring name;     ///< The value's name, or the name that an enumeration gave.
     std::uint32_t code = 0;
     std::uint32_t access = 0;  ///< Of an open or create the access mask, of a delete the view bits.
-    RegistryCalls::Transaction transaction = nullptr;
+    store::RegistryCalls::Transaction transaction = nullptr;
     StoredData written;  ///< What a set wrote.
 };
 
@@ -33,7 +33,7 @@ struct RegistryCall {
 /// to fail; each call is kept in a log, each open key is counted. Names are found whatever their case and
 /// keep the case in which they were made; odd names and paths come to what they come to in the system's
 /// registry, which a test in tests/registry compares call by call.
-class MemoryRegistry : public RegistryCalls {
+class MemoryRegistry : public store::RegistryCalls {
   public:
     MemoryRegistry();
     ~MemoryRegistry() override;
@@ -150,4 +150,4 @@ class MemoryRegistry : public RegistryCalls {
 /// The text of a kind of call, for failure messages.
 [[nodiscard]] std::string Describe(const RegistryCall& call);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

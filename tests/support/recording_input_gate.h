@@ -1,8 +1,8 @@
 #pragma once
 
-#include "toolkit/input_gate.h"
+#include "toolkit/system/input_gate.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A gate that shuts nobody out and tells whether it is shut.
 class RecordingInputGate : public toolkit::InputGate {
@@ -18,4 +18,4 @@ class RecordingInputGate : public toolkit::InputGate {
     int depth_ = 0;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

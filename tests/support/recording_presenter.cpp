@@ -1,6 +1,6 @@
 #include "tests/support/recording_presenter.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 int RecordingPresenter::Show(toolkit::WindowHandle owner, const std::wstring& text, const std::wstring& title,
                              std::uint32_t style) {
@@ -26,4 +26,4 @@ std::wstring RecordingPresenter::OnlyText() const {
                               : L"(" + std::to_wstring(boxes_.size()) + L" boxes were shown)";
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/message_presenter.h"
+#include "toolkit/system/message_presenter.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A message box as it was asked for.
 struct ShownBox {
@@ -51,4 +51,4 @@ class RecordingPresenter : public toolkit::MessagePresenter {
     std::set<toolkit::WindowHandle> liveWindows_;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

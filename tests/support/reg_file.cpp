@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "config/registry_calls.h"
+#include "store/registry/registry_calls.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -151,7 +151,7 @@ StoredData ParseData(std::wstring_view rest, std::wstring_view line) {
         return Number(ParseHexadecimal(rest.substr(kNumber.size()), line));
     }
     if (rest.starts_with(kBytes)) {
-        return ParseHexadecimalBytes(kTypeBinary, rest.substr(kBytes.size()), line);
+        return ParseHexadecimalBytes(store::kTypeBinary, rest.substr(kBytes.size()), line);
     }
     const std::size_t end = rest.find(L"):");
     if (!rest.starts_with(kTypedBytes) || end == std::wstring_view::npos) {
@@ -198,4 +198,4 @@ std::string ReadWholeFile(const char* path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// The keys and values of a registry file ("Windows Registry Editor Version 5.00"), UTF-16 or UTF-8, whose
 /// keys are all under HKEY_CURRENT_USER. Keys and values are written, never deleted. Throws
@@ -15,4 +15,4 @@ namespace corvane::testing {
 /// The bytes of the file at `path`; throws std::runtime_error where it cannot be read.
 [[nodiscard]] std::string ReadWholeFile(const char* path);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -4,28 +4,28 @@
 #include <sstream>
 #include <utility>
 
-#include "config/registry_calls.h"
+#include "store/registry/registry_calls.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 StoredData Bytes(std::uint32_t type, std::vector<std::uint8_t> bytes) {
     return {type, std::move(bytes)};
 }
 
 StoredData Number(std::uint32_t number) {
-    return {kTypeNumber,
+    return {store::kTypeNumber,
             {static_cast<std::uint8_t>(number & 0xFFU), static_cast<std::uint8_t>((number >> 8U) & 0xFFU),
              static_cast<std::uint8_t>((number >> 16U) & 0xFFU), static_cast<std::uint8_t>(number >> 24U)}};
 }
 
 StoredData Text(std::wstring_view text) {
-    StoredData data{kTypeText, CharacterBytes(text)};
+    StoredData data{store::kTypeText, CharacterBytes(text)};
     data.bytes.resize(data.bytes.size() + 2);
     return data;
 }
 
 StoredData MultiText(const std::vector<std::wstring>& list) {
-    StoredData data{kTypeTextList, {}};
+    StoredData data{store::kTypeTextList, {}};
     for (const std::wstring& element : list) {
         const std::vector<std::uint8_t> bytes = CharacterBytes(element);
         data.bytes.insert(data.bytes.end(), bytes.begin(), bytes.end());
@@ -107,4 +107,4 @@ std::string Printable(std::wstring_view text) {
     return printable;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

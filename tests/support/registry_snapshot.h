@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A value as it is stored.
 struct StoredData {
@@ -43,4 +43,4 @@ void PrintTo(const StoredData& data, std::ostream* out);
 /// For failure messages: characters outside ASCII as \uXXXX.
 [[nodiscard]] std::string Printable(std::wstring_view text);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

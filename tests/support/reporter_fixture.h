@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/reporting/error_reporter.h"
+#include "reporting/error_reporter.h"
 #include "tests/support/recording_presenter.h"
 #include "tests/support/scripted_provider.h"
 #include "tests/support/scripted_system_messages.h"
 #include "tests/support/test_system_text.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// An error reporter with everything that it needs, all of it the test's own. The code page is the Cyrillic
 /// one unless another is wanted. One at a time, because of the provider.
@@ -17,7 +17,7 @@ struct ReporterFixture {
     ScriptedSystemMessages messages;
     ScriptedProvider provider;
     TestSystemText text;
-    ErrorReporter reporter{presenter, messages, provider, text};
+    reporting::ErrorReporter reporter{presenter, messages, provider, text};
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

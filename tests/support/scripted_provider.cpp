@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -31,26 +31,35 @@ ScriptedProvider::~ScriptedProvider() {
     currentProvider = nullptr;
 }
 
-const ProviderFunctions* ScriptedProvider::Functions() {
-    lastFailure_ = isMissing_ ? ProviderBindFailure{kModuleNotFound, "tarn1.dll"} : ProviderBindFailure{};
+const provider::ProviderFunctions* ScriptedProvider::Functions() {
+    lastFailure_ = isMissing_ ? provider::ProviderBindFailure{kModuleNotFound, "tarn1.dll"}
+                              : provider::ProviderBindFailure{};
     return isMissing_ ? nullptr : &functions_;
 }
 
-ProviderFunctions ScriptedProvider::Table() {
-    ProviderFunctions table{};
-    table.initialize = [](const char*, std::uint32_t, ProviderContext*) { return RefuseUnexpected(); };
-    table.uninitialize = [](ProviderContext) { return RefuseUnexpected(); };
-    table.control = [](ProviderContext, std::uint32_t, XsigBlob*) { return RefuseUnexpected(); };
-    table.findCert = [](ProviderContext, CertQuery*, CertFindResult*) { return RefuseUnexpected(); };
-    table.freeFindResult = [](ProviderContext, CertFindResult*) { return RefuseUnexpected(); };
+provider::ProviderFunctions ScriptedProvider::Table() {
+    provider::ProviderFunctions table{};
+    table.initialize = [](const char*, std::uint32_t, provider::ProviderContext*) {
+        return RefuseUnexpected();
+    };
+    table.uninitialize = [](provider::ProviderContext) { return RefuseUnexpected(); };
+    table.control = [](provider::ProviderContext, std::uint32_t, provider::XsigBlob*) {
+        return RefuseUnexpected();
+    };
+    table.findCert = [](provider::ProviderContext, provider::CertQuery*, provider::CertFindResult*) {
+        return RefuseUnexpected();
+    };
+    table.freeFindResult = [](provider::ProviderContext, provider::CertFindResult*) {
+        return RefuseUnexpected();
+    };
     table.getErrorText = [](std::uint32_t status, char* buffer, std::uint32_t capacity) {
         return currentProvider->GetErrorText(status, buffer, capacity);
     };
-    table.getErrorLine = [](ProviderContext context, XsigBlob* text, XsigBlob* file, std::uint32_t* line,
-                            XsigBlob* data) {
+    table.getErrorLine = [](provider::ProviderContext context, provider::XsigBlob* text,
+                            provider::XsigBlob* file, std::uint32_t* line, provider::XsigBlob* data) {
         return currentProvider->GetErrorLine(context, text, file, line, data);
     };
-    table.freeMem = [](ProviderContext context, void* memory) {
+    table.freeMem = [](provider::ProviderContext context, void* memory) {
         return currentProvider->FreeMem(context, memory);
     };
     return table;
@@ -76,8 +85,9 @@ std::uint32_t ScriptedProvider::GetErrorText(std::uint32_t status, char* buffer,
     return 1;
 }
 
-std::uint32_t ScriptedProvider::GetErrorLine(ProviderContext context, XsigBlob* text, XsigBlob* file,
-                                             std::uint32_t* line, XsigBlob* data) {
+std::uint32_t ScriptedProvider::GetErrorLine(provider::ProviderContext context, provider::XsigBlob* text,
+                                             provider::XsigBlob* file, std::uint32_t* line,
+                                             provider::XsigBlob* data) {
     ++errorLineCalls_;
     std::deque<ScriptedError>& stack = errorStacks_[context];
     if (stack.empty()) {
@@ -99,7 +109,7 @@ std::uint32_t ScriptedProvider::GetErrorLine(ProviderContext context, XsigBlob* 
     return 0;
 }
 
-std::uint32_t ScriptedProvider::FreeMem(ProviderContext context, void* memory) {
+std::uint32_t ScriptedProvider::FreeMem(provider::ProviderContext context, void* memory) {
     const auto found = std::find_if(textsOut_.begin(), textsOut_.end(),
                                     [memory](const HandedOutText& text) { return text.Memory() == memory; });
     if (found == textsOut_.end()) {
@@ -111,7 +121,7 @@ std::uint32_t ScriptedProvider::FreeMem(ProviderContext context, void* memory) {
     return 0;
 }
 
-void ScriptedProvider::HandOut(const std::optional<std::string>& text, XsigBlob& blob) {
+void ScriptedProvider::HandOut(const std::optional<std::string>& text, provider::XsigBlob& blob) {
     blob = {};
     if (!text) {
         return;
@@ -120,4 +130,4 @@ void ScriptedProvider::HandOut(const std::optional<std::string>& text, XsigBlob&
     blob.data = textsOut_.emplace_back(*text).Memory();
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

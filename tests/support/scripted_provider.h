@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "certs/provider/provider_library.h"
+#include "provider/provider_library.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// One entry of a scripted error stack. A text that is none arrives as a null pointer.
 struct ScriptedError {
@@ -24,7 +24,7 @@ struct ScriptedError {
 
 /// A text that came back through the freeing function.
 struct ReleasedText {
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     std::string text;
 
     bool operator==(const ReleasedText&) const = default;
@@ -35,7 +35,7 @@ struct ReleasedText {
 /// counted until it comes back.
 ///
 /// The library's functions are plain functions, so one instance lives at a time; a second one throws.
-class ScriptedProvider : public ProviderLibrary {
+class ScriptedProvider : public provider::ProviderLibrary {
   public:
     ScriptedProvider();
     ScriptedProvider(const ScriptedProvider&) = delete;
@@ -44,8 +44,8 @@ class ScriptedProvider : public ProviderLibrary {
     ScriptedProvider& operator=(ScriptedProvider&&) = delete;
     ~ScriptedProvider() override;
 
-    [[nodiscard]] const ProviderFunctions* Functions() override;
-    [[nodiscard]] const ProviderBindFailure& LastFailure() const override { return lastFailure_; }
+    [[nodiscard]] const provider::ProviderFunctions* Functions() override;
+    [[nodiscard]] const provider::ProviderBindFailure& LastFailure() const override { return lastFailure_; }
 
     /// From now on the library cannot be bound: code 126, "tarn1.dll".
     void MakeMissing() { isMissing_ = true; }
@@ -54,7 +54,7 @@ class ScriptedProvider : public ProviderLibrary {
     void SetErrorText(std::uint32_t status, std::string text) { errorTexts_[status] = std::move(text); }
 
     /// Puts one more entry at the end of the error stack of `context`.
-    void PushError(ProviderContext context, ScriptedError error) {
+    void PushError(provider::ProviderContext context, ScriptedError error) {
         errorStacks_[context].push_back(std::move(error));
     }
     /// From now on reading an entry does not take it from its stack, so that no stack that has one ends.
@@ -89,22 +89,22 @@ class ScriptedProvider : public ProviderLibrary {
         std::size_t length_;
     };
 
-    static ProviderFunctions Table();
+    static provider::ProviderFunctions Table();
     static std::uint32_t RefuseUnexpected();
 
     std::uint32_t GetErrorText(std::uint32_t status, char* buffer, std::uint32_t capacity);
-    std::uint32_t GetErrorLine(ProviderContext context, XsigBlob* text, XsigBlob* file, std::uint32_t* line,
-                               XsigBlob* data);
-    std::uint32_t FreeMem(ProviderContext context, void* memory);
-    void HandOut(const std::optional<std::string>& text, XsigBlob& blob);
+    std::uint32_t GetErrorLine(provider::ProviderContext context, provider::XsigBlob* text,
+                               provider::XsigBlob* file, std::uint32_t* line, provider::XsigBlob* data);
+    std::uint32_t FreeMem(provider::ProviderContext context, void* memory);
+    void HandOut(const std::optional<std::string>& text, provider::XsigBlob& blob);
 
-    ProviderFunctions functions_ = Table();
-    ProviderBindFailure lastFailure_;
+    provider::ProviderFunctions functions_ = Table();
+    provider::ProviderBindFailure lastFailure_;
     bool isMissing_ = false;
     bool popsErrors_ = true;
     bool bringsTextsAtTheEnd_ = false;
     std::map<std::uint32_t, std::string> errorTexts_;
-    std::map<ProviderContext, std::deque<ScriptedError>> errorStacks_;
+    std::map<provider::ProviderContext, std::deque<ScriptedError>> errorStacks_;
     std::list<HandedOutText> textsOut_;
     std::vector<ReleasedText> released_;
     std::vector<std::uint32_t> askedCapacities_;
@@ -113,4 +113,4 @@ class ScriptedProvider : public ProviderLibrary {
     std::size_t unexpectedCalls_ = 0;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

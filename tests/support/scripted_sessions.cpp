@@ -6,14 +6,14 @@
 #include <stdexcept>
 #include <utility>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
 ScriptedSessions* currentSessions = nullptr;
 
-bool IsRestZero(const CertQuery& query) {
-    CertQuery named{};
+bool IsRestZero(const provider::CertQuery& query) {
+    provider::CertQuery named{};
     named.searchFlags = query.searchFlags;
     named.matchMode = query.matchMode;
     named.ownerPattern = query.ownerPattern;
@@ -21,8 +21,8 @@ bool IsRestZero(const CertQuery& query) {
     return std::memcmp(&named, &query, sizeof query) == 0;
 }
 
-CertEntry EntryOf(const ScriptedCertificate& certificate) {
-    CertEntry entry;
+provider::CertEntry EntryOf(const ScriptedCertificate& certificate) {
+    provider::CertEntry entry;
     entry.owner = certificate.owner ? certificate.owner->c_str() : nullptr;
     entry.usage = certificate.usage;
     entry.issuer = certificate.issuer ? certificate.issuer->c_str() : nullptr;
@@ -46,23 +46,27 @@ ScriptedSessions::~ScriptedSessions() {
     currentSessions = nullptr;
 }
 
-const ProviderFunctions* ScriptedSessions::Functions() {
-    const ProviderFunctions* const errors = errors_.Functions();
+const provider::ProviderFunctions* ScriptedSessions::Functions() {
+    const provider::ProviderFunctions* const errors = errors_.Functions();
     if (errors == nullptr) {
         return nullptr;
     }
     functions_ = *errors;
-    functions_.initialize = [](const char* name, std::uint32_t flags, ProviderContext* context) {
+    functions_.initialize = [](const char* name, std::uint32_t flags, provider::ProviderContext* context) {
         return currentSessions->Initialize(name, flags, context);
     };
-    functions_.uninitialize = [](ProviderContext context) { return currentSessions->Uninitialize(context); };
-    functions_.control = [](ProviderContext context, std::uint32_t code, XsigBlob* buffer) {
+    functions_.uninitialize = [](provider::ProviderContext context) {
+        return currentSessions->Uninitialize(context);
+    };
+    functions_.control = [](provider::ProviderContext context, std::uint32_t code,
+                            provider::XsigBlob* buffer) {
         return currentSessions->Control(context, code, buffer);
     };
-    functions_.findCert = [](ProviderContext context, CertQuery* query, CertFindResult* result) {
+    functions_.findCert = [](provider::ProviderContext context, provider::CertQuery* query,
+                             provider::CertFindResult* result) {
         return currentSessions->Find(context, *query, *result);
     };
-    functions_.freeFindResult = [](ProviderContext context, CertFindResult* result) {
+    functions_.freeFindResult = [](provider::ProviderContext context, provider::CertFindResult* result) {
         return currentSessions->FreeResult(context, *result);
     };
     return &functions_;
@@ -81,14 +85,14 @@ std::uint32_t ScriptedSessions::Enter(const std::string& name, std::uint32_t sta
     return failure == failures_.end() ? status : failure->second;
 }
 
-std::uint32_t ScriptedSessions::EnterWith(ProviderContext context, const std::string& name,
+std::uint32_t ScriptedSessions::EnterWith(provider::ProviderContext context, const std::string& name,
                                           std::uint32_t status) {
     misuses_ += open_.contains(context) ? 0U : 1U;
     return Enter(name, status);
 }
 
 std::uint32_t ScriptedSessions::Initialize(const char* csProfileName, std::uint32_t flags,
-                                           ProviderContext* context) {
+                                           provider::ProviderContext* context) {
     const std::uint32_t status = Enter("initialize", initializeStatus);
     initializations_.push_back({csProfileName, flags});
     if (status == 0) {
@@ -98,14 +102,15 @@ std::uint32_t ScriptedSessions::Initialize(const char* csProfileName, std::uint3
     return status;
 }
 
-std::uint32_t ScriptedSessions::Uninitialize(ProviderContext context) {
+std::uint32_t ScriptedSessions::Uninitialize(provider::ProviderContext context) {
     const std::uint32_t status = EnterWith(context, "uninitialize", uninitializeStatus);
     closed_.push_back(context);
     open_.erase(context);
     return status;
 }
 
-std::uint32_t ScriptedSessions::Control(ProviderContext context, std::uint32_t code, XsigBlob* buffer) {
+std::uint32_t ScriptedSessions::Control(provider::ProviderContext context, std::uint32_t code,
+                                        provider::XsigBlob* buffer) {
     const std::uint32_t status = EnterWith(context, "control", controlStatus);
     controls_.push_back(
         {context, code, buffer->length,
@@ -115,8 +120,8 @@ std::uint32_t ScriptedSessions::Control(ProviderContext context, std::uint32_t c
     return status;
 }
 
-std::uint32_t ScriptedSessions::Find(ProviderContext context, const CertQuery& query,
-                                     CertFindResult& result) {
+std::uint32_t ScriptedSessions::Find(provider::ProviderContext context, const provider::CertQuery& query,
+                                     provider::CertFindResult& result) {
     const std::uint32_t status = EnterWith(context, "find", findStatus);
     searches_.push_back(
         {context, query.searchFlags, query.matchMode,
@@ -139,7 +144,8 @@ std::uint32_t ScriptedSessions::Find(ProviderContext context, const CertQuery& q
     return status;
 }
 
-std::uint32_t ScriptedSessions::FreeResult(ProviderContext context, CertFindResult& result) {
+std::uint32_t ScriptedSessions::FreeResult(provider::ProviderContext context,
+                                           provider::CertFindResult& result) {
     log.emplace_back("free result");
     misuses_ += open_.contains(context) ? 0U : 1U;
     if (result.entries != nullptr) {
@@ -149,4 +155,4 @@ std::uint32_t ScriptedSessions::FreeResult(ProviderContext context, CertFindResu
     return 0;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -11,7 +11,7 @@
 
 #include "tests/support/scripted_provider.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A certificate of a test's making. A text that is none arrives as a null pointer.
 struct ScriptedCertificate {
@@ -23,7 +23,7 @@ struct ScriptedCertificate {
 
 /// A search as it reached the library.
 struct FindCall {
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     std::uint32_t searchFlags = 0;
     std::uint32_t matchMode = 0;
     std::optional<std::string> ownerPattern;
@@ -43,7 +43,7 @@ struct InitializeCall {
 
 /// A control call as it reached the library.
 struct ControlCall {
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     std::uint32_t code = 0;
     std::uint32_t capacity = 0;
     bool isBufferZero = true;
@@ -54,7 +54,7 @@ struct ControlCall {
 /// The part of a provider library that opens cryptocontexts, searches and loads, above a ScriptedProvider
 /// that has the error texts and stacks. Any call can be told to fail; each is kept, and what is handed out is
 /// counted until it comes back. One lives at a time.
-class ScriptedSessions : public ProviderLibrary {
+class ScriptedSessions : public provider::ProviderLibrary {
   public:
     explicit ScriptedSessions(ScriptedProvider& errors);
     ScriptedSessions(const ScriptedSessions&) = delete;
@@ -63,11 +63,13 @@ class ScriptedSessions : public ProviderLibrary {
     ScriptedSessions& operator=(ScriptedSessions&&) = delete;
     ~ScriptedSessions() override;
 
-    [[nodiscard]] const ProviderFunctions* Functions() override;
-    [[nodiscard]] const ProviderBindFailure& LastFailure() const override { return errors_.LastFailure(); }
+    [[nodiscard]] const provider::ProviderFunctions* Functions() override;
+    [[nodiscard]] const provider::ProviderBindFailure& LastFailure() const override {
+        return errors_.LastFailure();
+    }
 
     /// The context that the first successful opening gives; each later one is one more.
-    static constexpr ProviderContext kFirstContext = 0x1122334455667788;
+    static constexpr provider::ProviderContext kFirstContext = 0x1122334455667788;
 
     /// What every search finds that succeeds, unless `answer` is set.
     std::vector<ScriptedCertificate> certificates;
@@ -100,7 +102,7 @@ class ScriptedSessions : public ProviderLibrary {
     /// the test adds.
     std::vector<std::string> log;
     [[nodiscard]] const std::vector<InitializeCall>& Initializations() const { return initializations_; }
-    [[nodiscard]] const std::vector<ProviderContext>& Closed() const { return closed_; }
+    [[nodiscard]] const std::vector<provider::ProviderContext>& Closed() const { return closed_; }
     [[nodiscard]] const std::vector<FindCall>& Searches() const { return searches_; }
     [[nodiscard]] const std::vector<ControlCall>& Controls() const { return controls_; }
     /// How many calls there were that FailCall counts.
@@ -114,33 +116,35 @@ class ScriptedSessions : public ProviderLibrary {
 
   private:
     struct Result {
-        std::vector<CertEntry> entries;
+        std::vector<provider::CertEntry> entries;
         std::vector<ScriptedCertificate> certificates;
     };
 
     std::uint32_t Enter(const std::string& name, std::uint32_t status);
-    std::uint32_t EnterWith(ProviderContext context, const std::string& name, std::uint32_t status);
-    std::uint32_t Initialize(const char* csProfileName, std::uint32_t flags, ProviderContext* context);
-    std::uint32_t Uninitialize(ProviderContext context);
-    std::uint32_t Control(ProviderContext context, std::uint32_t code, XsigBlob* buffer);
-    std::uint32_t Find(ProviderContext context, const CertQuery& query, CertFindResult& result);
-    std::uint32_t FreeResult(ProviderContext context, CertFindResult& result);
+    std::uint32_t EnterWith(provider::ProviderContext context, const std::string& name, std::uint32_t status);
+    std::uint32_t Initialize(const char* csProfileName, std::uint32_t flags,
+                             provider::ProviderContext* context);
+    std::uint32_t Uninitialize(provider::ProviderContext context);
+    std::uint32_t Control(provider::ProviderContext context, std::uint32_t code, provider::XsigBlob* buffer);
+    std::uint32_t Find(provider::ProviderContext context, const provider::CertQuery& query,
+                       provider::CertFindResult& result);
+    std::uint32_t FreeResult(provider::ProviderContext context, provider::CertFindResult& result);
 
     ScriptedProvider& errors_;
-    ProviderFunctions functions_{};
+    provider::ProviderFunctions functions_{};
     std::map<std::size_t, std::uint32_t> failures_;
     std::size_t firstFailure_ = SIZE_MAX;
     std::uint32_t lastingStatus_ = 0;
     std::vector<InitializeCall> initializations_;
-    std::vector<ProviderContext> closed_;
+    std::vector<provider::ProviderContext> closed_;
     std::vector<FindCall> searches_;
     std::vector<ControlCall> controls_;
-    std::set<ProviderContext> open_;
-    ProviderContext nextContext_ = kFirstContext;
+    std::set<provider::ProviderContext> open_;
+    provider::ProviderContext nextContext_ = kFirstContext;
     std::map<const void*, std::unique_ptr<Result>> results_;
     std::size_t resultsHandedOut_ = 0;
     std::size_t callCount_ = 0;
     std::size_t misuses_ = 0;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

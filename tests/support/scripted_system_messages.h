@@ -6,13 +6,13 @@
 #include <set>
 #include <string>
 
-#include "app/reporting/system_messages.h"
+#include "reporting/system_messages.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// Message tables of a test's making. The system's table has "System text 5" for code 5 and so on for every
 /// code of which nothing else was said; the internet module's has nothing but what was put in.
-class ScriptedSystemMessages : public SystemMessages {
+class ScriptedSystemMessages : public reporting::SystemMessages {
   public:
     [[nodiscard]] std::optional<std::wstring> FromSystem(std::uint32_t code) const override {
         if (const auto found = systemTexts_.find(code); found != systemTexts_.end()) {
@@ -40,4 +40,4 @@ class ScriptedSystemMessages : public SystemMessages {
     std::set<std::uint32_t> hasNoSystemText_;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

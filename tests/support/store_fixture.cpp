@@ -1,6 +1,6 @@
 #include "tests/support/store_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 std::vector<std::wstring> StoreFixture::ReportTexts() const {
     std::vector<std::wstring> texts;
@@ -18,4 +18,4 @@ std::wstring ReportText(const std::wstring& operation, std::uint32_t code) {
     return operation + L".\r\nError 0x" + digits + L" - System text " + std::to_wstring(code) + L".";
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/system_text.h"
+#include "toolkit/text/system_text.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// The ANSI code pages that the tests stand on, named by their number.
 enum class CodePage { kShiftJis = 932, kCyrillic = 1251, kLatin = 1252, kUtf8 = 65001 };
@@ -28,4 +28,4 @@ class TestSystemText : public toolkit::SystemText {
     CodePage codePage_;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <type_traits>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -154,4 +154,4 @@ std::wstring TestSystemText::LowerCase(std::wstring_view text) const {
     return lower;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include "tests/support/test_system_text.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 std::string TestSystemText::Narrow(std::wstring_view text) const {
     // Without this flag "Ā" would become a plain "A" where the native half says "?".
@@ -38,4 +38,4 @@ std::wstring TestSystemText::LowerCase(std::wstring_view text) const {
     return lower;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

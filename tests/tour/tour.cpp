@@ -42,7 +42,7 @@ void Close(const driver::Window& dialog) {
     dialog.Post(WM_CLOSE);
     dialog.WaitUntilGone();
     owner.WaitUntilEnabled();
-    corvane::SettleDialog(owner);
+    corvane::test::SettleDialog(owner);
 }
 
 /// The row with the longest text in a column: the one that has most to show.
@@ -59,23 +59,24 @@ int FullestRow(const driver::ListView& list, int column) {
 // Nothing of what is done here is confirmed in the end, so the configuration stays as it is.
 void ShowRuleEditor(const driver::Program& editor, const driver::Window& main) {
     main.PostMenuCommand(IDM_ADD_RULE);
-    const driver::Window rule = corvane::WaitForDialogWith(editor, main, IDC_RULE_OPERATION_COMBO);
+    const driver::Window rule = corvane::test::WaitForDialogWith(editor, main, IDC_RULE_OPERATION_COMBO);
     Show("rule_editor", rule);
 
     rule.Control(IDC_RULE_CERT_BUTTON).PostClick();
-    const driver::Window recipients = corvane::WaitForDialogWith(editor, rule, IDC_SELECTION_CHOSEN_LIST);
-    corvane::SearchLocalStore(recipients);
+    const driver::Window recipients =
+        corvane::test::WaitForDialogWith(editor, rule, IDC_SELECTION_CHOSEN_LIST);
+    corvane::test::SearchLocalStore(recipients);
     // Those whose names every code page can write.
     recipients.Control(IDC_SELECTION_FILTER_EDIT).SetText(L"northgate");
-    corvane::SettleDialog(recipients);
-    corvane::TakeOwners(recipients, {kPerson});
+    corvane::test::SettleDialog(recipients);
+    corvane::test::TakeOwners(recipients, {kPerson});
     Show("recipients", recipients);
     Close(recipients);
 
-    corvane::ChooseEntry(rule, IDC_RULE_OPERATION_COMBO, L"Verify attached signature");
+    corvane::test::ChooseEntry(rule, IDC_RULE_OPERATION_COMBO, L"Verify attached signature");
     rule.Control(IDC_RULE_CERT_BUTTON).PostClick();
-    const driver::Window lists = corvane::WaitForDialogWith(editor, rule, IDC_SIGNER_LISTS_EDIT_BUTTON);
-    corvane::AddSignerListByDialog(editor, lists, {L"Settlement desk", {kPerson}});
+    const driver::Window lists = corvane::test::WaitForDialogWith(editor, rule, IDC_SIGNER_LISTS_EDIT_BUTTON);
+    corvane::test::AddSignerListByDialog(editor, lists, {L"Settlement desk", {kPerson}});
     Show("signer_lists", lists);
     Close(lists);
     Close(rule);

@@ -8,7 +8,7 @@
 #include "tests/driver/probe.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 /// One command, given while row 2 (of rows 0 to 5) is the only selected one and the rule list has the focus.
@@ -228,4 +228,4 @@ TEST_F(FocusAndSelection, ARefillScrollsTheListOnlyWhenItMayDraw) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

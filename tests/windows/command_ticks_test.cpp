@@ -7,7 +7,7 @@
 
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 /// A command that leaves the ticked rule in the list, given while the list has the focus.
@@ -219,4 +219,4 @@ TEST_F(Ticks, BesideARuleWithoutOperationWaitUntilTheListLosesTheFocus) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

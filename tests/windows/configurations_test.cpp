@@ -5,7 +5,7 @@
 #include "tests/driver/tool_tips.h"
 #include "tests/windows/profile_editor_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::RegistryData;
@@ -357,4 +357,4 @@ TEST_F(Configurations, AnExtensionOfSpacesKeepsItsDialogOpenWithoutAMessage) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include "tests/windows/profile_editor_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -258,4 +258,4 @@ TEST_F(CsProfileList, AnEntryThatIsDeletedAndAddedAgainRedirectsNoRule) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,7 +1,7 @@
 #include "tests/driver/failure.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 /// The commands whose editors the user gives up: nothing may have changed, on the screen or in store.
@@ -117,4 +117,4 @@ TEST_F(GivenUpEditors, ConfigurationsByItsHiddenButton) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

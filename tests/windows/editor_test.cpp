@@ -11,7 +11,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::Window;
 
@@ -127,4 +127,4 @@ std::wstring ReportText(const std::wstring& operation, unsigned code, const std:
     return operation + L".\r\nError " + number.data() + L" - " + description + L"." + detail;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -13,7 +13,7 @@
 #include "tests/driver/registry.h"
 #include "tests/windows/sample_configuration.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// The path of the program under test: what CORVANE_EDITOR names, else corvane.exe beside the test program.
 [[nodiscard]] std::wstring EditorPath();
@@ -95,4 +95,4 @@ inline constexpr wchar_t kUnsavedQuestion[] = L"Some changes has not been saved.
 [[nodiscard]] std::wstring ReportText(const std::wstring& operation, unsigned code,
                                       const std::wstring& detail = L"");
 
-}  // namespace corvane
+}  // namespace corvane::test

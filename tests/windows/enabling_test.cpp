@@ -2,7 +2,7 @@
 #include "tests/driver/probe.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 const std::vector<int> kControlsOfAProfile = {
@@ -84,4 +84,4 @@ TEST_F(Enabling, NothingDependsOnTheSelectionOfRules) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,7 +1,7 @@
 #include "tests/driver/probe.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 /// The ways out of the main window.
@@ -298,4 +298,4 @@ TEST_F(TabOrder, VisitsEveryControlInReadingOrder) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

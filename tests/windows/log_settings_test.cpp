@@ -3,7 +3,7 @@
 #include "tests/driver/file_dialog.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class LogSettings : public EditorTest {
@@ -220,4 +220,4 @@ TEST_F(LogSettings, GivingUpThePickerKeepsThePath) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

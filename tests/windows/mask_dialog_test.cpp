@@ -6,7 +6,7 @@
 
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -295,4 +295,4 @@ TEST_F(MaskDialog, EscapeGivesUpAndEnterConfirms) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

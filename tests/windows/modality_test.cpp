@@ -5,7 +5,7 @@
 #include "tests/driver/failure.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -120,4 +120,4 @@ TEST_F(Modality, ADialogOfADialogLeavesEveryWindowBehindItDisabled) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -8,7 +8,7 @@
 #include "tests/driver/failure.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::Texts;
 using driver::Window;
@@ -183,4 +183,4 @@ std::map<std::wstring, Texts> ProfileEditorTest::StoredLists(const std::wstring&
     return lists;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// Comes back when everything that was posted to the dialog of this edit so far has been handled.
 void SettleDialogOf(const driver::Window& edit);
@@ -80,4 +80,4 @@ class ProfileEditorTest : public EditorTest {
     [[nodiscard]] static std::map<std::wstring, driver::Texts> StoredLists(const std::wstring& profile);
 };
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -10,7 +10,7 @@
 #include "tests/driver/icon.h"
 #include "tests/driver/tool_tips.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::RegistryData;
@@ -524,4 +524,4 @@ TEST_F(ProfileEditor, ListsOfUnequalLengthAreSavedOfOneLength) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

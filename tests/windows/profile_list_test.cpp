@@ -3,7 +3,7 @@
 
 #include <commctrl.h>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -177,4 +177,4 @@ TEST_F(ProfileList, AddingWithoutAnyCsProfileIsRefused) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

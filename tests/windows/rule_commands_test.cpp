@@ -1,6 +1,6 @@
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -226,4 +226,4 @@ TEST_F(RuleKeys, OtherKeysDeleteNothing) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include "tests/driver/waiting.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class RightClick : public EditorTest {
@@ -209,4 +209,4 @@ TEST_F(DescriptionBox, KeepsASmallestSize) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 #include "tests/journey/certificate_steps.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::RegistryData;
@@ -114,4 +114,4 @@ TEST_F(RuleCertificates, ACsProfileThatTheProviderDoesNotKnowIsReportedAndNothin
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/driver/failure.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::RegistryData;
@@ -310,4 +310,4 @@ TEST_F(RuleEditorCommit, TheTabKeyFollowsTheReadingOrder) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

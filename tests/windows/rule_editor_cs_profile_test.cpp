@@ -4,7 +4,7 @@
 
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::RegistryData;
@@ -94,4 +94,4 @@ TEST_F(CsProfileGuard, GoingToTheAcceptedOneAsksNothing) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

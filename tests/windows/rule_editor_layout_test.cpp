@@ -12,7 +12,7 @@
 #include "tests/driver/tool_tips.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -422,4 +422,4 @@ TEST_F(RuleEditorLayout, AProfileWithoutCsProfilesHasNoneToChoose) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

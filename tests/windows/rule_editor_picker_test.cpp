@@ -5,7 +5,7 @@
 #include "tests/driver/file_dialog.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -189,4 +189,4 @@ TEST_F(MissingDialogs, AreReportedByTheMainWindowAndTheLogSettings) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

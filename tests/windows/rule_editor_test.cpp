@@ -11,7 +11,7 @@
 #include "tests/driver/tool_tips.h"
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::Texts;
 using driver::Window;
@@ -300,4 +300,4 @@ std::map<std::wstring, driver::RegistryValues> RuleEditorTest::SaveAndRead(int n
     return driver::ReadRegistryTree(RuleKey(L"alpha", number));
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// Folders that every Windows has.
 inline constexpr wchar_t kInFolder[] = L"C:\\windows";
@@ -80,4 +80,4 @@ class RuleEditorTest : public EditorTest {
     [[nodiscard]] std::map<std::wstring, driver::RegistryValues> SaveAndRead(int number);
 };
 
-}  // namespace corvane
+}  // namespace corvane::test

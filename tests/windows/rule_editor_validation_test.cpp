@@ -4,7 +4,7 @@
 
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -217,4 +217,4 @@ TEST_F(RuleEditorNumbers, TypingGoesOnBehindTheCorrection) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 
 #include "tests/driver/waiting.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -208,4 +208,4 @@ TEST_F(CheckBoxes, UnderAFilterThatShowsAllAsTheyAreStillSwitchOthersOn) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -9,7 +9,7 @@
 #include "tests/driver/waiting.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -260,4 +260,4 @@ TEST_F(RulesFile, ImportingTwiceAppendsTwice) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,6 +1,6 @@
 #include "tests/windows/sample_configuration.h"
 
-namespace corvane {
+namespace corvane::test {
 
 using driver::Texts;
 using driver::WriteRegistryValue;
@@ -141,4 +141,4 @@ std::vector<std::uint32_t> StoredSwitches(const std::wstring& profile) {
     return switches;
 }
 
-}  // namespace corvane
+}  // namespace corvane::test

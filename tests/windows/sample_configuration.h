@@ -7,7 +7,7 @@
 
 #include "tests/driver/registry.h"
 
-namespace corvane {
+namespace corvane::test {
 
 /// The keys, below the maker's.
 inline constexpr wchar_t kProgramKey[] = L"tarntray";
@@ -52,4 +52,4 @@ void WriteRule(const std::wstring& profile, int number, const StoredRule& rule);
 [[nodiscard]] driver::Texts StoredRuleTexts(const std::wstring& profile, const std::wstring& value);
 [[nodiscard]] std::vector<std::uint32_t> StoredSwitches(const std::wstring& profile);
 
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 
 #include "tests/windows/profile_editor_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -159,4 +159,4 @@ TEST_F(EditorAtSessionEnd, MainWindowAnswersForItsOwnChangesWhateverTheEditorHas
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 #include "tests/driver/tool_tips.h"
 #include "tests/windows/editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Texts;
@@ -262,4 +262,4 @@ TEST_F(FirstStart, WithoutTheProvidersKeyReportsItAndEnds) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

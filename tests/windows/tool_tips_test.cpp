@@ -3,7 +3,7 @@
 #include "tests/windows/profile_editor_fixture.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::ToolTipUnderTheMouse;
@@ -42,4 +42,4 @@ TEST_F(ToolTipsOfTheProfileEditor, AppearWhereTheMouseRests) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,7 +7,7 @@
 #include "tests/windows/profile_editor_fixture.h"
 #include "tests/windows/rule_editor_test.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using driver::Window;
@@ -283,4 +283,4 @@ TEST_F(ProfileTyping, ADigitTypedIntoAnEmptiedLogSizeFollowsTheSmallestOne) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

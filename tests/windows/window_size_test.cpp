@@ -9,7 +9,7 @@
 
 #include <commctrl.h>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 /// The place of each control in the main window, by id.
@@ -340,4 +340,4 @@ TEST_F(About, IgnoresTheLowFourBitsThatTheSystemKeepsForItself) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "toolkit/handles.h"
+#include "toolkit/system/handles.h"
 
 namespace scriptable {
 
@@ -24,7 +24,7 @@ class CallLog {
     }
 
   private:
-    toolkit::UniqueKernelHandle file_;
+    corvane::toolkit::UniqueKernelHandle file_;
 };
 
 }  // namespace scriptable

@@ -8,7 +8,7 @@ namespace scriptable {
 namespace {
 
 // More than 32 bits, so that a caller that keeps half of a handle is found out.
-constexpr corvane::ProviderContext kContextBase = 0x7000000000000000;
+constexpr corvane::provider::ProviderContext kContextBase = 0x7000000000000000;
 // A test that forgets its event shall fail, not hang.
 constexpr DWORD kLongestHoldMilliseconds = 120000;
 
@@ -19,7 +19,7 @@ std::string Hex(std::uint32_t number) {
 }
 
 void WaitForEvent(const LibraryScript::Hold& hold) {
-    const toolkit::UniqueKernelHandle event(OpenEventA(SYNCHRONIZE, FALSE, hold.eventName.c_str()));
+    const corvane::toolkit::UniqueKernelHandle event(OpenEventA(SYNCHRONIZE, FALSE, hold.eventName.c_str()));
     if (!event) {
         return;
     }
@@ -41,13 +41,13 @@ ScriptText TextAt(const char* text) {
     return text == nullptr ? ScriptText() : ScriptText(text);
 }
 
-bool IsRestZero(const corvane::CertQuery& query) {
-    corvane::CertQuery rest = query;
+bool IsRestZero(const corvane::provider::CertQuery& query) {
+    corvane::provider::CertQuery rest = query;
     rest.searchFlags = 0;
     rest.matchMode = 0;
     rest.ownerPattern = nullptr;
     rest.fieldsWanted = 0;
-    static constexpr corvane::CertQuery kZero{};
+    static constexpr corvane::provider::CertQuery kZero{};
     return std::memcmp(&rest, &kZero, sizeof rest) == 0;
 }
 
@@ -79,13 +79,13 @@ std::uint32_t ScriptableLibrary::Leave(const std::string& call, std::uint32_t st
     return status;
 }
 
-unsigned ScriptableLibrary::ContextNumber(corvane::ProviderContext context) const {
+unsigned ScriptableLibrary::ContextNumber(corvane::provider::ProviderContext context) const {
     return context > kContextBase && context <= kContextBase + contextCount_
                ? static_cast<unsigned>(context - kContextBase)
                : 0;
 }
 
-std::string ScriptableLibrary::NameOpen(corvane::ProviderContext context) {
+std::string ScriptableLibrary::NameOpen(corvane::provider::ProviderContext context) {
     if (!open_.contains(context)) {
         ++wrongCount_;
         return " context=unknown";
@@ -94,7 +94,7 @@ std::string ScriptableLibrary::NameOpen(corvane::ProviderContext context) {
 }
 
 std::uint32_t ScriptableLibrary::Initialize(const char* csProfileName, std::uint32_t flags,
-                                            corvane::ProviderContext* context) {
+                                            corvane::provider::ProviderContext* context) {
     const std::uint32_t status = Enter("Initialize");
     if (status == 0) {
         *context = kContextBase + ++contextCount_;
@@ -103,15 +103,15 @@ std::uint32_t ScriptableLibrary::Initialize(const char* csProfileName, std::uint
     return Leave("Initialize name=" + Quoted(TextAt(csProfileName)) + " flags=" + Hex(flags), status);
 }
 
-std::uint32_t ScriptableLibrary::Uninitialize(corvane::ProviderContext context) {
+std::uint32_t ScriptableLibrary::Uninitialize(corvane::provider::ProviderContext context) {
     const std::uint32_t status = Enter("Uninitialize");
     const std::string name = NameOpen(context);
     open_.erase(context);
     return Leave("Uninitialize" + name, status);
 }
 
-std::uint32_t ScriptableLibrary::Control(corvane::ProviderContext context, std::uint32_t code,
-                                         corvane::XsigBlob* buffer) {
+std::uint32_t ScriptableLibrary::Control(corvane::provider::ProviderContext context, std::uint32_t code,
+                                         corvane::provider::XsigBlob* buffer) {
     const std::uint32_t status = Enter("Ctrl");
     const bool isZero =
         std::all_of(buffer->data, buffer->data + buffer->length, [](char c) { return c == 0; });
@@ -132,8 +132,9 @@ const std::vector<ScriptCertificate>& ScriptableLibrary::Found(const ScriptText&
     return kNothing;
 }
 
-std::uint32_t ScriptableLibrary::FindCert(corvane::ProviderContext context, const corvane::CertQuery* query,
-                                          corvane::CertFindResult* result) {
+std::uint32_t ScriptableLibrary::FindCert(corvane::provider::ProviderContext context,
+                                          const corvane::provider::CertQuery* query,
+                                          corvane::provider::CertFindResult* result) {
     const std::uint32_t status = Enter("FindCert");
     const ScriptText pattern = TextAt(query->ownerPattern);
     // A failed search hands out what it has found so far.
@@ -144,15 +145,15 @@ std::uint32_t ScriptableLibrary::FindCert(corvane::ProviderContext context, cons
                  status);
 }
 
-std::uint32_t ScriptableLibrary::FreeFindResult(corvane::ProviderContext context,
-                                                corvane::CertFindResult* result) {
+std::uint32_t ScriptableLibrary::FreeFindResult(corvane::provider::ProviderContext context,
+                                                corvane::provider::CertFindResult* result) {
     const std::uint32_t status = Enter("FreeFindResult");
     const std::string call = "FreeFindResult" + NameOpen(context) + " count=" + std::to_string(result->count);
     wrongCount_ += handedOut_.TakeResult(*result) ? 0U : 1U;
     return Leave(call, status);
 }
 
-std::uint32_t ScriptableLibrary::FreeMem(corvane::ProviderContext context, const void* memory) {
+std::uint32_t ScriptableLibrary::FreeMem(corvane::provider::ProviderContext context, const void* memory) {
     const std::uint32_t status = Enter("FreeMem");
     const std::string call = context == 0 ? "FreeMem context=0" : "FreeMem" + NameOpen(context);
     wrongCount_ += handedOut_.TakeText(memory) ? 0U : 1U;
@@ -170,9 +171,10 @@ std::uint32_t ScriptableLibrary::GetErrorText(std::uint32_t status, char* buffer
                  isKnown ? 1 : 0);
 }
 
-std::uint32_t ScriptableLibrary::GetErrorLine(corvane::ProviderContext context, corvane::XsigBlob* text,
-                                              corvane::XsigBlob* file, std::uint32_t* line,
-                                              corvane::XsigBlob* data) {
+std::uint32_t ScriptableLibrary::GetErrorLine(corvane::provider::ProviderContext context,
+                                              corvane::provider::XsigBlob* text,
+                                              corvane::provider::XsigBlob* file, std::uint32_t* line,
+                                              corvane::provider::XsigBlob* data) {
     const std::string call = context == 0 ? " context=0" : NameOpen(context);
     const unsigned number = ContextNumber(context);
     const std::vector<ScriptError>& stack = script_.errorStacks[number];

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 #include "tests/certificates/scriptable/call_log.h"
 #include "tests/certificates/scriptable/handed_out.h"
 #include "tests/certificates/scriptable/library_script.h"
@@ -28,29 +28,33 @@ class ScriptableLibrary {
     explicit ScriptableLibrary(const std::filesystem::path& folder);
 
     std::uint32_t Initialize(const char* csProfileName, std::uint32_t flags,
-                             corvane::ProviderContext* context);
-    std::uint32_t Uninitialize(corvane::ProviderContext context);
-    std::uint32_t Control(corvane::ProviderContext context, std::uint32_t code, corvane::XsigBlob* buffer);
-    std::uint32_t FindCert(corvane::ProviderContext context, const corvane::CertQuery* query,
-                           corvane::CertFindResult* result);
-    std::uint32_t FreeFindResult(corvane::ProviderContext context, corvane::CertFindResult* result);
-    std::uint32_t FreeMem(corvane::ProviderContext context, const void* memory);
+                             corvane::provider::ProviderContext* context);
+    std::uint32_t Uninitialize(corvane::provider::ProviderContext context);
+    std::uint32_t Control(corvane::provider::ProviderContext context, std::uint32_t code,
+                          corvane::provider::XsigBlob* buffer);
+    std::uint32_t FindCert(corvane::provider::ProviderContext context,
+                           const corvane::provider::CertQuery* query,
+                           corvane::provider::CertFindResult* result);
+    std::uint32_t FreeFindResult(corvane::provider::ProviderContext context,
+                                 corvane::provider::CertFindResult* result);
+    std::uint32_t FreeMem(corvane::provider::ProviderContext context, const void* memory);
     std::uint32_t GetErrorText(std::uint32_t status, char* buffer, std::uint32_t capacity);
-    std::uint32_t GetErrorLine(corvane::ProviderContext context, corvane::XsigBlob* text,
-                               corvane::XsigBlob* file, std::uint32_t* line, corvane::XsigBlob* data);
+    std::uint32_t GetErrorLine(corvane::provider::ProviderContext context, corvane::provider::XsigBlob* text,
+                               corvane::provider::XsigBlob* file, std::uint32_t* line,
+                               corvane::provider::XsigBlob* data);
 
   private:
     std::uint32_t Enter(const std::string& function);
     std::uint32_t Leave(const std::string& call, std::uint32_t status) const;
     [[nodiscard]] const std::vector<ScriptCertificate>& Found(const ScriptText& pattern) const;
-    [[nodiscard]] unsigned ContextNumber(corvane::ProviderContext context) const;
-    std::string NameOpen(corvane::ProviderContext context);
+    [[nodiscard]] unsigned ContextNumber(corvane::provider::ProviderContext context) const;
+    std::string NameOpen(corvane::provider::ProviderContext context);
 
     LibraryScript script_;
     CallLog log_;
     HandedOut handedOut_;
     std::map<std::string, unsigned> callCounts_;
-    std::set<corvane::ProviderContext> open_;
+    std::set<corvane::provider::ProviderContext> open_;
     std::map<unsigned, std::size_t> poppedErrors_;
     unsigned contextCount_ = 0;
     unsigned wrongCount_ = 0;

@@ -1,11 +1,11 @@
-#include "app/check_box_sync.h"
+#include "app/rule_list/rule_ticks.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/core/app/sample_state.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -14,17 +14,17 @@ constexpr int kNoSuchRow = -1;
 constexpr int kUnchecked = 0;
 constexpr int kChecked = 1;
 
-ConfigurationState StateWithSwitches(const NumberList& switches) {
-    ConfigurationState state = StateWithRules(TextList(switches.size(), L"rule"));
+store::ConfigurationState StateWithSwitches(const store::NumberList& switches) {
+    store::ConfigurationState state = StateWithRules(store::TextList(switches.size(), L"rule"));
     for (std::size_t position = 0; position < switches.size(); ++position) {
         state.profiles[0].rules[position].isOn = switches[position];
     }
     return state;
 }
 
-NumberList Switches(const ConfigurationState& state, std::size_t profilePosition = 0) {
-    NumberList switches;
-    for (const Rule& rule : state.profiles[profilePosition].rules) {
+store::NumberList Switches(const store::ConfigurationState& state, std::size_t profilePosition = 0) {
+    store::NumberList switches;
+    for (const store::Rule& rule : state.profiles[profilePosition].rules) {
         switches.push_back(rule.isOn);
     }
     return switches;
@@ -37,80 +37,80 @@ std::function<int(std::size_t)> ListWith(std::vector<int> boxes) {
 }
 
 TEST(SyncCheckBoxes, CopiesTheBoxesAndSetsTheDirtyFlag) {
-    ConfigurationState state = StateWithSwitches({1, 0, 1});
-    SyncCheckBoxes(state, ListWith({kUnchecked, kChecked, kChecked}));
+    store::ConfigurationState state = StateWithSwitches({1, 0, 1});
+    app::SyncCheckBoxes(state, ListWith({kUnchecked, kChecked, kChecked}));
     EXPECT_THAT(Switches(state), ElementsAre(0, 1, 1));
     EXPECT_TRUE(state.isDirty);
 }
 
 TEST(SyncCheckBoxes, BoxesAsTheRulesHaveThemLeaveTheDirtyFlag) {
-    ConfigurationState state = StateWithSwitches({1, 0});
-    SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
+    store::ConfigurationState state = StateWithSwitches({1, 0});
+    app::SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
     EXPECT_FALSE(state.isDirty);
     state.isDirty = true;
-    SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
+    app::SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
     EXPECT_TRUE(state.isDirty);
 }
 
 TEST(SyncCheckBoxes, OneSwitchedOffAloneSetsTheDirtyFlag) {
-    ConfigurationState state = StateWithSwitches({1, 1});
-    SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
+    store::ConfigurationState state = StateWithSwitches({1, 1});
+    app::SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
     EXPECT_THAT(Switches(state), ElementsAre(1, 0));
     EXPECT_TRUE(state.isDirty);
 }
 
 TEST(SyncCheckBoxes, ACheckedRuleWhoseSwitchIsNeither0Nor1Becomes1) {
-    ConfigurationState state = StateWithSwitches({5});
-    SyncCheckBoxes(state, ListWith({kChecked}));
+    store::ConfigurationState state = StateWithSwitches({5});
+    app::SyncCheckBoxes(state, ListWith({kChecked}));
     EXPECT_THAT(Switches(state), ElementsAre(1));
     EXPECT_TRUE(state.isDirty);
 }
 
 // Deliberate: a row that does not exist counts as checked.
 TEST(SyncCheckBoxes, RulesWhoseRowsTheFilterHidesAreSwitchedOn) {
-    ConfigurationState state = StateWithSwitches({1, 1, 0, 0, 1});
-    SyncCheckBoxes(state, ListWith({kUnchecked, kChecked}));
+    store::ConfigurationState state = StateWithSwitches({1, 1, 0, 0, 1});
+    app::SyncCheckBoxes(state, ListWith({kUnchecked, kChecked}));
     EXPECT_THAT(Switches(state), ElementsAre(0, 1, 1, 1, 1));
     EXPECT_TRUE(state.isDirty);
 }
 
 TEST(SyncCheckBoxes, MissingRowsOfRulesThatAreOnChangeNothing) {
-    ConfigurationState state = StateWithSwitches({1, 1, 1});
-    SyncCheckBoxes(state, ListWith({kChecked}));
+    store::ConfigurationState state = StateWithSwitches({1, 1, 1});
+    app::SyncCheckBoxes(state, ListWith({kChecked}));
     EXPECT_THAT(Switches(state), ElementsAre(1, 1, 1));
     EXPECT_FALSE(state.isDirty);
 }
 
 TEST(SyncCheckBoxes, ARuleWithoutOperationIsLeftAlone) {
-    ConfigurationState state = StateWithSwitches({7, 0});
+    store::ConfigurationState state = StateWithSwitches({7, 0});
     state.profiles[0].rules[0].operation.clear();
-    SyncCheckBoxes(state, ListWith({kUnchecked, kUnchecked}));
+    app::SyncCheckBoxes(state, ListWith({kUnchecked, kUnchecked}));
     EXPECT_THAT(Switches(state), ElementsAre(7, 0));
     EXPECT_FALSE(state.isDirty);
 }
 
 // Deliberate: row i stands for rule i, although the rule without operation has no row.
 TEST(SyncCheckBoxes, TheRowsPositionIsTheRulesPositionEvenBehindARuleThatIsNotListed) {
-    ConfigurationState state = StateWithSwitches({0, 0, 0});
+    store::ConfigurationState state = StateWithSwitches({0, 0, 0});
     state.profiles[0].rules[0].operation.clear();
-    SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
+    app::SyncCheckBoxes(state, ListWith({kChecked, kUnchecked}));
     EXPECT_THAT(Switches(state), ElementsAre(0, 0, 1));
 }
 
 TEST(SyncCheckBoxes, EveryProfileOfTheCurrentNameIsTakenAndNoOther) {
-    ConfigurationState state =
+    store::ConfigurationState state =
         StateWith({ProfileWithRules(L"main", {L"a"}), ProfileWithRules(L"other", {L"b"}),
                    ProfileWithRules(L"main", {L"c"})},
                   L"main");
-    SyncCheckBoxes(state, ListWith({kChecked}));
+    app::SyncCheckBoxes(state, ListWith({kChecked}));
     EXPECT_THAT(Switches(state, 0), ElementsAre(1));
     EXPECT_THAT(Switches(state, 1), ElementsAre(0));
     EXPECT_THAT(Switches(state, 2), ElementsAre(1));
 }
 
 TEST(SyncCheckBoxes, WithoutACurrentProfileNameNoBoxIsRead) {
-    ConfigurationState state = StateWith({ProfileWithRules(L"", {L"a"})}, L"");
-    SyncCheckBoxes(state, [](std::size_t row) {
+    store::ConfigurationState state = StateWith({ProfileWithRules(L"", {L"a"})}, L"");
+    app::SyncCheckBoxes(state, [](std::size_t row) {
         ADD_FAILURE() << "The box of row " << row << " was read.";
         return kChecked;
     });
@@ -119,27 +119,27 @@ TEST(SyncCheckBoxes, WithoutACurrentProfileNameNoBoxIsRead) {
 }
 
 TEST(TakeTicks, CopiesTheBoxesIntoTheProfileAndNoOther) {
-    ConfigurationState state =
+    store::ConfigurationState state =
         StateWith({ProfileWithRules(L"main", {L"a"}), ProfileWithRules(L"main", {L"b", L"c"})}, L"main");
-    TakeTicks(state, 1, ListWith({kUnchecked, kChecked}));
+    app::TakeTicks(state, 1, ListWith({kUnchecked, kChecked}));
     EXPECT_THAT(Switches(state, 0), ElementsAre(0));
     EXPECT_THAT(Switches(state, 1), ElementsAre(0, 1));
     EXPECT_TRUE(state.isDirty);
 }
 
 TEST(TakeTicks, OneSwitchedOffAloneSetsTheDirtyFlag) {
-    ConfigurationState state = StateWithSwitches({1, 1});
-    TakeTicks(state, 0, ListWith({kChecked, kUnchecked}));
+    store::ConfigurationState state = StateWithSwitches({1, 1});
+    app::TakeTicks(state, 0, ListWith({kChecked, kUnchecked}));
     EXPECT_THAT(Switches(state), ElementsAre(1, 0));
     EXPECT_TRUE(state.isDirty);
 }
 
 TEST(TakeTicks, BoxesThatShowWhatTheRulesAreChangeNothing) {
-    ConfigurationState state = StateWithSwitches({5, 0});
-    TakeTicks(state, 0, ListWith({kChecked, kUnchecked}));
+    store::ConfigurationState state = StateWithSwitches({5, 0});
+    app::TakeTicks(state, 0, ListWith({kChecked, kUnchecked}));
     EXPECT_THAT(Switches(state), ElementsAre(5, 0));
     EXPECT_FALSE(state.isDirty);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

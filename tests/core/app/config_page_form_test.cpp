@@ -1,13 +1,12 @@
-#include "app/config_page_form.h"
+#include "app/extensions_page/extensions_page_form.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -17,13 +16,13 @@ class ConfigPage : public ::testing::Test {
   protected:
     ConfigPage() { fixture_.presenter.MakeLive(dialog_); }
 
-    static AppSettings Stored() {
-        AppSettings settings;
+    static store::AppSettings Stored() {
+        store::AppSettings settings;
         settings.additionalExtensions = {L"pdf", L"xml"};
         settings.logPath = L"C:\\log";
         return settings;
     }
-    std::optional<ExtensionField> Apply(const corvane::TextList& listed = {L"listed"}) {
+    std::optional<app::ExtensionField> Apply(const corvane::store::TextList& listed = {L"listed"}) {
         return form_.Apply(listed, fixture_.reporter, dialog_);
     }
     bool Confirm() { return form_.Confirm(fixture_.reporter, dialog_); }
@@ -31,16 +30,16 @@ class ConfigPage : public ::testing::Test {
         return form_.DeleteExtension(selected, fixture_.reporter, dialog_);
     }
     [[nodiscard]] ShownBox Box(const wchar_t* text, std::uint32_t style) const {
-        return {dialog_, text, AppTitle, style};
+        return {dialog_, text, reporting::AppTitle, style};
     }
     [[nodiscard]] ShownBox UnsavedQuestion() const {
-        return Box(L"Some changes has not been saved. Exit without saving?", kConfirmationStyle);
+        return Box(L"Some changes has not been saved. Exit without saving?", reporting::kConfirmationStyle);
     }
     [[nodiscard]] const std::vector<ShownBox>& Boxes() const { return fixture_.presenter.Boxes(); }
 
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(7);
     ReporterFixture fixture_;
-    ConfigPageForm form_{Stored()};
+    app::ConfigPageForm form_{Stored()};
 };
 
 TEST_F(ConfigPage, StartsWithTheSettingsInForceUnmodified) {
@@ -73,21 +72,22 @@ TEST_F(ConfigPage, AnExtensionThatIsListedIsDroppedWithoutAMessageAndIsNoChange)
 
 TEST_F(ConfigPage, DeletingWithoutASelectionIsRefused) {
     EXPECT_FALSE(Delete(std::nullopt));
-    EXPECT_THAT(Boxes(), ElementsAre(Box(L"Select list item to delete.", kRefusalStyle)));
+    EXPECT_THAT(Boxes(), ElementsAre(Box(L"Select list item to delete.", reporting::kRefusalStyle)));
     EXPECT_FALSE(form_.IsModified());
 }
 
 TEST_F(ConfigPage, DeletingAsksAndOnlyYesDeletes) {
-    for (const int answer : {kAnswerNo, kAnswerCancel}) {
+    for (const int answer : {reporting::kAnswerNo, reporting::kAnswerCancel}) {
         fixture_.presenter.AnswerNext(answer);
         EXPECT_FALSE(Delete(L"pdf"));
         EXPECT_FALSE(form_.IsModified());
     }
     fixture_.presenter.Clear();
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     EXPECT_TRUE(Delete(L"pdf"));
     EXPECT_TRUE(form_.IsModified());
-    EXPECT_THAT(Boxes(), ElementsAre(Box(L"Delete additional extension 'pdf'?", kConfirmationStyle)));
+    EXPECT_THAT(Boxes(),
+                ElementsAre(Box(L"Delete additional extension 'pdf'?", reporting::kConfirmationStyle)));
 }
 
 TEST_F(ConfigPage, ApplyTakesTheListAndCountsTheChangesAsKept) {
@@ -107,14 +107,15 @@ TEST_F(ConfigPage, ApplyWithoutAChangeDoesNothingNotEvenItsChecks) {
 }
 
 TEST_F(ConfigPage, ApplyRefusesTheFirstOfSixExtensionsThatIsEmpty) {
-    const std::pair<ExtensionField, const wchar_t*> checks[] = {
-        {&AppSettings::signedExtension, L"Please, choose extension for files with attached signature."},
-        {&AppSettings::detachedSignatureExtension,
+    const std::pair<app::ExtensionField, const wchar_t*> checks[] = {
+        {&store::AppSettings::signedExtension,
+         L"Please, choose extension for files with attached signature."},
+        {&store::AppSettings::detachedSignatureExtension,
          L"Please, choose extension for files with detached signature."},
-        {&AppSettings::encryptedExtension, L"Please, choose extension for encrypted files."},
-        {&AppSettings::base64Extension, L"Please, choose extension for b64 files."},
-        {&AppSettings::hashExtension, L"Please, choose extension for hash files."},
-        {&AppSettings::verificationExtension,
+        {&store::AppSettings::encryptedExtension, L"Please, choose extension for encrypted files."},
+        {&store::AppSettings::base64Extension, L"Please, choose extension for b64 files."},
+        {&store::AppSettings::hashExtension, L"Please, choose extension for hash files."},
+        {&store::AppSettings::verificationExtension,
          L"Please, choose extension for files with signature verification report."},
     };
     for (const auto& check : checks) {
@@ -124,7 +125,7 @@ TEST_F(ConfigPage, ApplyRefusesTheFirstOfSixExtensionsThatIsEmpty) {
     for (const auto& [field, message] : checks) {
         fixture_.presenter.Clear();
         EXPECT_EQ(Apply(), std::optional(field));
-        EXPECT_THAT(Boxes(), ElementsAre(Box(message, kRefusalStyle)));
+        EXPECT_THAT(Boxes(), ElementsAre(Box(message, reporting::kRefusalStyle)));
         EXPECT_TRUE(form_.IsModified());
         EXPECT_THAT(form_.settings.additionalExtensions, ElementsAre(L"pdf", L"xml"));
         form_.settings.*field = L"x";
@@ -144,20 +145,20 @@ TEST_F(ConfigPage, ApplyTakesEmptyExtensionsOfArchives) {
 
 TEST_F(ConfigPage, OkAfterChangesAsksAndOnlyYesEnds) {
     form_.OnExtensionEdited();
-    for (const int answer : {kAnswerNo, kAnswerCancel}) {
+    for (const int answer : {reporting::kAnswerNo, reporting::kAnswerCancel}) {
         fixture_.presenter.Clear();
         fixture_.presenter.AnswerNext(answer);
         EXPECT_FALSE(Confirm());
         EXPECT_THAT(Boxes(), ElementsAre(UnsavedQuestion()));
     }
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     EXPECT_TRUE(Confirm());
 }
 
 TEST_F(ConfigPage, OkChecksNothing) {
     form_.settings.signedExtension.clear();
     form_.OnExtensionEdited();
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     EXPECT_TRUE(Confirm());
     EXPECT_THAT(Boxes(), ElementsAre(UnsavedQuestion()));
     EXPECT_EQ(form_.settings.signedExtension, L"");
@@ -170,7 +171,7 @@ TEST_F(ConfigPage, OkKeepsTypedExtensionsAndLosesListChangesThatWereNotApplied) 
     EXPECT_TRUE(form_.AddExtension(false));
     form_.settings.signedExtension = L"typed";
     form_.OnExtensionEdited();
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     EXPECT_TRUE(Confirm());
     EXPECT_EQ(form_.settings.signedExtension, L"typed");
     EXPECT_THAT(form_.settings.additionalExtensions, ElementsAre(L"applied"));
@@ -179,16 +180,16 @@ TEST_F(ConfigPage, OkKeepsTypedExtensionsAndLosesListChangesThatWereNotApplied) 
 TEST_F(ConfigPage, TheOtherSettingsStayAsTheyWere) {
     form_.OnExtensionEdited();
     Apply({L"a"});
-    AppSettings expected = Stored();
+    store::AppSettings expected = Stored();
     expected.additionalExtensions = {L"a"};
     EXPECT_EQ(form_.settings, expected);
 }
 
 TEST(ConfigPageTexts, AreTheDialogs) {
-    EXPECT_STREQ(kConfigPageTitle, L"Configurations");
-    EXPECT_STREQ(kConfigPageExitText, L"Exit");
-    EXPECT_STREQ(kConfigPageApplyText, L"Apply");
+    EXPECT_STREQ(app::kConfigPageTitle, L"Configurations");
+    EXPECT_STREQ(app::kConfigPageExitText, L"Exit");
+    EXPECT_STREQ(app::kConfigPageApplyText, L"Apply");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

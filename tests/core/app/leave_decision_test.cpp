@@ -1,13 +1,12 @@
-#include "app/leave_decision.h"
+#include "reporting/unsaved_changes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/unsaved_changes.h"
+#include "reporting/message_styles.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -15,7 +14,7 @@ using ::testing::IsEmpty;
 
 TEST(MayLeave, WithoutChangesNothingIsAsked) {
     ReporterFixture fixture;
-    EXPECT_TRUE(MayLeave(false, fixture.reporter, nullptr));
+    EXPECT_TRUE(reporting::MayLeave(false, fixture.reporter, nullptr));
     EXPECT_THAT(fixture.presenter.Boxes(), IsEmpty());
 }
 
@@ -24,11 +23,11 @@ TEST(MayLeave, WithChangesAsksWithNoAsTheDefaultAndLeavesOnYes) {
     const toolkit::WindowHandle window = RecordingPresenter::Window(3);
     fixture.presenter.MakeLive(window);
     fixture.presenter.AnswerNext(6);
-    EXPECT_TRUE(MayLeave(true, fixture.reporter, window));
+    EXPECT_TRUE(reporting::MayLeave(true, fixture.reporter, window));
     EXPECT_THAT(fixture.presenter.Boxes(),
                 ElementsAre(ShownBox{.owner = window,
                                      .text = L"Some changes has not been saved. Exit without saving?",
-                                     .title = AppTitle,
+                                     .title = reporting::AppTitle,
                                      .style = 0x124}));
 }
 
@@ -36,14 +35,14 @@ TEST(MayLeave, AnyAnswerButYesKeepsTheWindowOpen) {
     for (const int answer : {7, 2, 1, 0}) {
         ReporterFixture fixture;
         fixture.presenter.AnswerNext(answer);
-        EXPECT_FALSE(MayLeave(true, fixture.reporter, nullptr)) << "answer " << answer;
+        EXPECT_FALSE(reporting::MayLeave(true, fixture.reporter, nullptr)) << "answer " << answer;
     }
 }
 
 TEST(ReasonAgainstEnd, IsToldOnlyWhereSomethingWouldBeLost) {
-    EXPECT_STREQ(ReasonAgainstEnd(true), L"Some changes has not been saved.");
-    EXPECT_EQ(ReasonAgainstEnd(false), nullptr);
+    EXPECT_STREQ(reporting::ReasonAgainstEnd(true), L"Some changes has not been saved.");
+    EXPECT_EQ(reporting::ReasonAgainstEnd(false), nullptr);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,14 +1,13 @@
-#include "app/log_settings_form.h"
+#include "app/log_settings/log_settings_form.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -33,15 +32,15 @@ class LogSettings : public ::testing::Test {
         return {.owner = dialog_,
                 .text = L"Opening file " + path + L".\r\nError 0x" + number + L" - System text " + number +
                         L".Bad Log path.",
-                .title = AppTitle,
-                .style = kErrorStyle};
+                .title = reporting::AppTitle,
+                .style = reporting::kErrorStyle};
     }
 
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(7);
     ReporterFixture fixture_;
     MemoryFiles files_;
-    LogSettingsForm form_{L"C:\\old", 4000};
-    std::optional<LogSettingsField> fieldToMend_;  ///< What the last OK left to be mended.
+    app::LogSettingsForm form_{L"C:\\old", 4000};
+    std::optional<app::LogSettingsField> fieldToMend_;  ///< What the last OK left to be mended.
 };
 
 TEST_F(LogSettings, StartWithTheSettingsInForce) {
@@ -135,7 +134,7 @@ TEST_F(LogSettings, OkRefusesAPathThatDoesNotExist) {
     EXPECT_FALSE(Confirm());
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_EQ(form_.editedPath, L"D:\\log");
-    EXPECT_EQ(fieldToMend_, LogSettingsField::kPath);
+    EXPECT_EQ(fieldToMend_, app::LogSettingsField::kPath);
     EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(L"D:\\log", 5)));
 }
 
@@ -154,7 +153,7 @@ TEST_F(LogSettings, OkRefusesARelativePathEvenIfItExists) {
         form_.editedPath = path;
         fixture_.presenter.Clear();
         EXPECT_FALSE(Confirm()) << path;
-        EXPECT_EQ(fieldToMend_, LogSettingsField::kPath);
+        EXPECT_EQ(fieldToMend_, app::LogSettingsField::kPath);
         EXPECT_EQ(form_.LogPath(), L"C:\\old");
         EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(path, 3)));
     }
@@ -174,7 +173,7 @@ TEST_F(LogSettings, OkRefusesASizeBelow400InTheDialogsOwnBox) {
     EXPECT_FALSE(Confirm());
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_EQ(form_.logFileSize, 399);
-    EXPECT_EQ(fieldToMend_, LogSettingsField::kSize);
+    EXPECT_EQ(fieldToMend_, app::LogSettingsField::kSize);
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{.owner = dialog_,
                                               .text = L"Log files size must be bigger than 400 KB.",
                                               .title = L"QENT automized client Velmaris",
@@ -204,15 +203,15 @@ TEST_F(LogSettings, AFolderOutsideAsciiIsNamedInTheReport) {
 }
 
 TEST(LogSettingsTexts, AreTheDialogs) {
-    EXPECT_STREQ(kLogSettingsTitle, L"Log path");
-    EXPECT_STREQ(kLogFolderButtonText, L"Log path");
-    EXPECT_STREQ(kLogSettingsExitText, L"Exit");
-    EXPECT_STREQ(kLogSizeLabelText, L"Log files size (KB.):");
+    EXPECT_STREQ(app::kLogSettingsTitle, L"Log path");
+    EXPECT_STREQ(app::kLogFolderButtonText, L"Log path");
+    EXPECT_STREQ(app::kLogSettingsExitText, L"Exit");
+    EXPECT_STREQ(app::kLogSizeLabelText, L"Log files size (KB.):");
 }
 
 TEST(LogSettingsInput, DiffersByPathAndBySize) {
-    const LogSettingsForm opened(L"D:\\log", 4000);
-    LogSettingsForm form = opened;
+    const app::LogSettingsForm opened(L"D:\\log", 4000);
+    app::LogSettingsForm form = opened;
     EXPECT_TRUE(form.HasSameInput(opened));
     form.editedPath = L"D:\\other";
     EXPECT_FALSE(form.HasSameInput(opened));
@@ -222,4 +221,4 @@ TEST(LogSettingsInput, DiffersByPathAndBySize) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "app/rule_filter.h"
+#include "app/rule_list/rule_row.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include "tests/core/app/sample_state.h"
 #include "tests/support/test_system_text.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -28,12 +28,12 @@ class CountingText : public TestSystemText {
     mutable int calls_ = 0;
 };
 
-std::vector<Rule> RulesDescribed(const TextList& descriptions) {
+std::vector<store::Rule> RulesDescribed(const store::TextList& descriptions) {
     return ProfileWithRules(L"p", descriptions).rules;
 }
 
-std::vector<std::size_t> Listed(const TextList& descriptions, const std::wstring& searchText) {
-    return ListedRules(RulesDescribed(descriptions), searchText, TestSystemText(CodePage::kCyrillic));
+std::vector<std::size_t> Listed(const store::TextList& descriptions, const std::wstring& searchText) {
+    return app::ListedRules(RulesDescribed(descriptions), searchText, TestSystemText(CodePage::kCyrillic));
 }
 
 TEST(ListedRules, WithoutSearchTextEveryRuleIsListedInOrder) {
@@ -46,21 +46,21 @@ TEST(ListedRules, OfNoRulesIsEmpty) {
 }
 
 TEST(ListedRules, ARuleWithoutOperationIsNotListedAndTheOthersKeepTheirPositions) {
-    std::vector<Rule> rules = RulesDescribed({L"a", L"b", L"c", L"d"});
+    std::vector<store::Rule> rules = RulesDescribed({L"a", L"b", L"c", L"d"});
     rules[1].operation.clear();
-    EXPECT_THAT(ListedRules(rules, L"", TestSystemText(CodePage::kCyrillic)), ElementsAre(0, 2, 3));
+    EXPECT_THAT(app::ListedRules(rules, L"", TestSystemText(CodePage::kCyrillic)), ElementsAre(0, 2, 3));
 }
 
 TEST(ListedRules, ARuleWithoutOperationIsNotListedEvenIfItsDescriptionMatches) {
-    std::vector<Rule> rules = RulesDescribed({L"match", L"match", L"other", L"match"});
+    std::vector<store::Rule> rules = RulesDescribed({L"match", L"match", L"other", L"match"});
     rules[0].operation.clear();
-    EXPECT_THAT(ListedRules(rules, L"MATCH", TestSystemText(CodePage::kCyrillic)), ElementsAre(1, 3));
+    EXPECT_THAT(app::ListedRules(rules, L"MATCH", TestSystemText(CodePage::kCyrillic)), ElementsAre(1, 3));
 }
 
 TEST(ListedRules, AnOperationThatIsNoCodeIsListedAllTheSame) {
-    std::vector<Rule> rules = RulesDescribed({L"a"});
+    std::vector<store::Rule> rules = RulesDescribed({L"a"});
     rules[0].operation = L"none such";
-    EXPECT_THAT(ListedRules(rules, L"", TestSystemText(CodePage::kCyrillic)), ElementsAre(0));
+    EXPECT_THAT(app::ListedRules(rules, L"", TestSystemText(CodePage::kCyrillic)), ElementsAre(0));
 }
 
 TEST(ListedRules, TheSearchIsAPlainSubstringTestThatIgnoresCase) {
@@ -79,11 +79,11 @@ TEST(ListedRules, CyrillicTextIsFoundWhateverItsCase) {
 }
 
 TEST(ListedRules, OnlyTheDescriptionIsSearched) {
-    std::vector<Rule> rules = RulesDescribed({L"plain"});
+    std::vector<store::Rule> rules = RulesDescribed({L"plain"});
     rules[0].inputFolder = L"C:\\wanted";
     rules[0].masks = {L"wanted"};
     rules[0].csProfile = L"wanted";
-    EXPECT_THAT(ListedRules(rules, L"wanted", TestSystemText(CodePage::kCyrillic)), IsEmpty());
+    EXPECT_THAT(app::ListedRules(rules, L"wanted", TestSystemText(CodePage::kCyrillic)), IsEmpty());
 }
 
 TEST(ListedRules, ADescriptionAsLongAsTheSearchTextMatchesWhole) {
@@ -91,24 +91,24 @@ TEST(ListedRules, ADescriptionAsLongAsTheSearchTextMatchesWhole) {
 }
 
 TEST(ListedRules, OverTenThousandRulesTheSearchTextIsUpperCasedOnce) {
-    const std::vector<Rule> rules(10000, RuleDescribed(L"Договор поставки"));
+    const std::vector<store::Rule> rules(10000, RuleDescribed(L"Договор поставки"));
     const CountingText text;
-    EXPECT_EQ(ListedRules(rules, L"ПОСТАВ", text).size(), 10000U);
+    EXPECT_EQ(app::ListedRules(rules, L"ПОСТАВ", text).size(), 10000U);
     EXPECT_EQ(text.Calls(), 10001);
 }
 
 TEST(ListedRules, DescriptionsThatAreTooShortToMatchCostNothing) {
-    const std::vector<Rule> rules(10000, RuleDescribed(L"short"));
+    const std::vector<store::Rule> rules(10000, RuleDescribed(L"short"));
     const CountingText text;
-    EXPECT_THAT(ListedRules(rules, L"longer", text), IsEmpty());
+    EXPECT_THAT(app::ListedRules(rules, L"longer", text), IsEmpty());
     EXPECT_EQ(text.Calls(), 1);
 }
 
 TEST(ListedRules, WithoutSearchTextNothingIsUpperCased) {
     const CountingText text;
-    EXPECT_EQ(ListedRules(RulesDescribed({L"a", L"b"}), L"", text).size(), 2U);
+    EXPECT_EQ(app::ListedRules(RulesDescribed({L"a", L"b"}), L"", text).size(), 2U);
     EXPECT_EQ(text.Calls(), 0);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -2,16 +2,16 @@
 
 #include <gtest/gtest.h>
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 TEST(StartTexts, TellThatTheEditorRunsAlready) {
-    EXPECT_EQ(AlreadyStartedText(), L"QENT AC Velmaris - configuration allready started");
+    EXPECT_EQ(app::AlreadyStartedText(), L"QENT AC Velmaris - configuration allready started");
 }
 
 TEST(StartTexts, NameTheMutexInTheReport) {
-    EXPECT_STREQ(kCreateMutexOperation, "Create programm process mutex");
+    EXPECT_STREQ(app::kCreateMutexOperation, "Create programm process mutex");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

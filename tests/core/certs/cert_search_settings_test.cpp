@@ -1,12 +1,12 @@
-#include "certs/cert_search_settings.h"
+#include "certificates/session/cryptocontext.h"
 
 #include <gtest/gtest.h>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 TEST(SearchSettings, TakeEveryFieldOfTheCsProfile) {
-    CsProfile csProfile;
+    store::CsProfile csProfile;
     csProfile.name = L"main";
     csProfile.timeStampServer = L"http://tsp";
     csProfile.autoUseTimeStamp = 1;
@@ -17,7 +17,7 @@ TEST(SearchSettings, TakeEveryFieldOfTheCsProfile) {
     csProfile.notLoadCrl = 6;
     csProfile.notUseDirectory = 7;
     csProfile.useAuthorityAccess = 8;
-    CertSearchSettings expected;
+    certificates::CertSearchSettings expected;
     expected.timeStampServer = L"http://tsp";
     expected.autoUseTimeStamp = 1;
     expected.autoVerifyTimeStamp = 2;
@@ -28,13 +28,13 @@ TEST(SearchSettings, TakeEveryFieldOfTheCsProfile) {
     expected.notUseDirectory = 7;
     expected.useAuthorityAccess = 8;
     expected.signerMode = 0;
-    EXPECT_EQ(SearchSettingsOf(csProfile, CertificateUse::kRecipients), expected);
+    EXPECT_EQ(certificates::SearchSettingsOf(csProfile, certificates::CertificateUse::kRecipients), expected);
     expected.signerMode = 1;
-    EXPECT_EQ(SearchSettingsOf(csProfile, CertificateUse::kSigners), expected);
+    EXPECT_EQ(certificates::SearchSettingsOf(csProfile, certificates::CertificateUse::kSigners), expected);
 }
 
 TEST(SearchSettings, AreForSignersWithoutAGroupFolderUnlessSaid) {
-    const CertSearchSettings settings;
+    const certificates::CertSearchSettings settings;
     EXPECT_EQ(settings.signerMode, 1);
     EXPECT_EQ(settings.groupFolder, L"");
     EXPECT_EQ(settings.reportWithContext, 0);
@@ -55,21 +55,21 @@ TEST(InitialisationFlags, EachSettingHasItsBit) {
         {7, 0, 0, 0, 0x80000060}, {0, -1, 0, 0, 0x80000440},
     };
     for (const FlagsCase& testCase : cases) {
-        CertSearchSettings settings;
+        certificates::CertSearchSettings settings;
         settings.notCopyToLocal = testCase.notCopyToLocal;
         settings.useAuthorityAccess = testCase.useAuthorityAccess;
         settings.notUseDirectory = testCase.notUseDirectory;
         settings.notLoadCrl = testCase.notLoadCrl;
-        EXPECT_EQ(InitialisationFlags(settings), testCase.flags);
+        EXPECT_EQ(certificates::InitialisationFlags(settings), testCase.flags);
     }
 }
 
 TEST(InitialisationFlags, WithoutNetworkStoreAndCrlTheyAre80000045) {
-    CertSearchSettings settings;
+    certificates::CertSearchSettings settings;
     settings.notUseDirectory = 1;
     settings.notLoadCrl = 1;
-    EXPECT_EQ(InitialisationFlags(settings), 0x80000045U);
+    EXPECT_EQ(certificates::InitialisationFlags(settings), 0x80000045U);
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

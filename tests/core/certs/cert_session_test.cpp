@@ -1,12 +1,11 @@
-#include "certs/cert_session.h"
+#include "certificates/session/cert_session.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -22,15 +21,16 @@ class CertSessionTest : public CertsFixture {
         profile_.crlUpdatePeriods = {24, 24};
     }
 
-    std::optional<CertSession> Open(std::size_t index = 0, CertificateUse use = CertificateUse::kRecipients) {
-        return OpenCertSession(owner_, profile_, index, use, waitWindow_, services_);
+    std::optional<certificates::CertSession> Open(
+        std::size_t index = 0, certificates::CertificateUse use = certificates::CertificateUse::kRecipients) {
+        return certificates::OpenCertSession(owner_, profile_, index, use, waitWindow_, services_);
     }
 
-    Profile profile_;
+    store::Profile profile_;
 };
 
 TEST_F(CertSessionTest, OpensBehindTheWaitWindow) {
-    const std::optional<CertSession> session = Open();
+    const std::optional<certificates::CertSession> session = Open();
     ASSERT_TRUE(session);
     EXPECT_EQ(session->context.Get(), ScriptedSessions::kFirstContext);
     EXPECT_THAT(sessions_.log, ElementsAre("show wait window", "initialize", "destroy wait window"));
@@ -48,7 +48,7 @@ TEST_F(CertSessionTest, PassesTheNarrowNameAndTheFlagsOfTheSelectedCsProfile) {
 }
 
 TEST_F(CertSessionTest, WithoutNetworkStoreAndCrlNothingElseIsCalled) {
-    const std::optional<CertSession> session = Open();
+    const std::optional<certificates::CertSession> session = Open();
     ASSERT_TRUE(session);
     EXPECT_THAT(sessions_.Initializations(), ElementsAre(InitializeCall{"first", 0x80000045}));
     EXPECT_EQ(sessions_.CallCount(), 1U);
@@ -58,9 +58,11 @@ TEST_F(CertSessionTest, WithoutNetworkStoreAndCrlNothingElseIsCalled) {
 
 TEST_F(CertSessionTest, TheSettingsAreThoseOfTheCsProfileAndTheUse) {
     profile_.timeStampServers = {L"tsp"};
-    EXPECT_EQ(Open()->settings, SearchSettingsOf(CsProfileAt(profile_, 0), CertificateUse::kRecipients));
-    EXPECT_EQ(Open(0, CertificateUse::kSigners)->settings,
-              SearchSettingsOf(CsProfileAt(profile_, 0), CertificateUse::kSigners));
+    EXPECT_EQ(Open()->settings, certificates::SearchSettingsOf(store::CsProfileAt(profile_, 0),
+                                                               certificates::CertificateUse::kRecipients));
+    EXPECT_EQ(Open(0, certificates::CertificateUse::kSigners)->settings,
+              certificates::SearchSettingsOf(store::CsProfileAt(profile_, 0),
+                                             certificates::CertificateUse::kSigners));
 }
 
 TEST_F(CertSessionTest, IsClosedWithItsEnd) {
@@ -79,7 +81,7 @@ TEST_F(CertSessionTest, AFailedInitializationIsShownInAnErrorBoxWithTheStackOfCo
                                          L"XSIG error 0xE0000005 - No such profile.\r\n\r\n"
                                          L"XSIG stek, error number 1\r\nError: Bad name\r\nFile: init.c\r\n"
                                          L"Data: first\r\n",
-                                         L"", WarningMode::kError}));
+                                         L"", certificates::WarningMode::kError}));
     EXPECT_THAT(sessions_.log,
                 ElementsAre("show wait window", "initialize", "destroy wait window", "warning"));
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -99,7 +101,7 @@ TEST_F(CertSessionTest, AMissingLibraryIsReportedOnceWithTheSystemsCodeAndNoWind
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{owner_,
                                               L"Loading crypto provider library (tarn1.dll).\r\n"
                                               L"Error 0x7E - System text 126.",
-                                              AppTitle, kErrorStyle}));
+                                              reporting::AppTitle, reporting::kErrorStyle}));
     EXPECT_THAT(sessions_.log, IsEmpty());
     EXPECT_FALSE(Open());
     EXPECT_EQ(Boxes().size(), 2U);
@@ -107,7 +109,7 @@ TEST_F(CertSessionTest, AMissingLibraryIsReportedOnceWithTheSystemsCodeAndNoWind
 
 TEST_F(CertSessionTest, AnAnsweringNetworkStoreMayBeSearched) {
     profile_.notUseDirectory = {0};
-    const std::optional<CertSession> session = Open();
+    const std::optional<certificates::CertSession> session = Open();
     ASSERT_TRUE(session);
     EXPECT_TRUE(session->isNetworkStoreAvailable);
     EXPECT_THAT(sessions_.log,
@@ -117,8 +119,8 @@ TEST_F(CertSessionTest, AnAnsweringNetworkStoreMayBeSearched) {
 TEST_F(CertSessionTest, GoesOnWithoutANetworkStoreIfTheUserWants) {
     profile_.notUseDirectory = {0};
     sessions_.findStatus = 0xE0700001;
-    Reports().presenter.AnswerNext(kAnswerOk);
-    const std::optional<CertSession> session = Open();
+    Reports().presenter.AnswerNext(reporting::kAnswerOk);
+    const std::optional<certificates::CertSession> session = Open();
     ASSERT_TRUE(session);
     EXPECT_FALSE(session->isNetworkStoreAvailable);
 }
@@ -127,7 +129,7 @@ TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheNetworkStore) {
     profile_.notUseDirectory = {0};
     profile_.notLoadCrl = {0};
     sessions_.findStatus = 0xE0700001;
-    Reports().presenter.AnswerNext(kAnswerCancel);
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
     EXPECT_FALSE(Open());
     EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
     EXPECT_THAT(sessions_.Controls(), IsEmpty());
@@ -137,7 +139,7 @@ TEST_F(CertSessionTest, AFailureToCloseAfterAStopIsReported) {
     profile_.notUseDirectory = {0};
     sessions_.findStatus = 0xE0700001;
     sessions_.uninitializeStatus = 6;
-    Reports().presenter.AnswerNext(kAnswerCancel);
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
     EXPECT_FALSE(Open());
     ASSERT_EQ(Boxes().size(), 2U);
     EXPECT_EQ(Boxes()[1].text, L"Cryptocontext uninitialization.\r\nError 0x6 - System text 6.");
@@ -168,7 +170,7 @@ TEST_F(CertSessionTest, IsClosedWhenTheUserStopsAtTheRevocationLists) {
     profile_.notLoadCrl = {0};
     sessions_.controlStatus = 0xE0700001;
     sessions_.controlText = "no route";
-    Reports().presenter.AnswerNext(kAnswerCancel);
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
     EXPECT_FALSE(Open());
     EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
 }
@@ -187,7 +189,7 @@ TEST_F(CertSessionTest, TheUserIsKeptOutOfEveryCallOfTheProvider) {
 }
 
 TEST_F(CertSessionTest, TheUserIsKeptOutAsLongAsTheWaitWindowStands) {
-    class Watcher : public WaitWindow {
+    class Watcher : public certificates::WaitWindow {
       public:
         explicit Watcher(const RecordingInputGate& input) : input_(input) {}
         void Show(toolkit::WindowHandle /*parent*/, const std::wstring& /*text*/) override {
@@ -200,7 +202,8 @@ TEST_F(CertSessionTest, TheUserIsKeptOutAsLongAsTheWaitWindowStands) {
       private:
         const RecordingInputGate& input_;
     } watcher(input_);
-    ASSERT_TRUE(OpenCertSession(owner_, profile_, 0, CertificateUse::kSigners, watcher, services_));
+    ASSERT_TRUE(certificates::OpenCertSession(owner_, profile_, 0, certificates::CertificateUse::kSigners,
+                                              watcher, services_));
     EXPECT_TRUE(watcher.wasShutAtShow);
     EXPECT_TRUE(watcher.wasShutAtDestroy);
 }
@@ -210,7 +213,7 @@ TEST_F(CertSessionTest, WhatTheUserHasToAnswerFindsTheGateOpen) {
     sessions_.findStatus = 0xE0700001;
     bool wasShut = true;
     warnings_.onShow = [&] { wasShut = input_.IsShut(); };
-    Reports().presenter.AnswerNext(kAnswerOk);
+    Reports().presenter.AnswerNext(reporting::kAnswerOk);
     ASSERT_TRUE(Open());
     EXPECT_FALSE(wasShut);
 }
@@ -235,7 +238,7 @@ TEST_F(CertSessionTest, ASecondOneIsNotBegunBehindAWarning) {
     profile_.notUseDirectory = {0};
     sessions_.findStatus = 0xE0700001;
     warnings_.onShow = [&] { EXPECT_FALSE(Open()); };
-    Reports().presenter.AnswerNext(kAnswerCancel);
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
     EXPECT_FALSE(Open());
     EXPECT_EQ(sessions_.Initializations().size(), 1U);
     EXPECT_EQ(warnings_.warnings.size(), 1U);
@@ -249,12 +252,12 @@ TEST_F(CertSessionTest, AfterAFailureTheNextOneIsBegun) {
 }
 
 TEST_F(CertSessionTest, ListsThatAreTooShortGiveTheirDefaults) {
-    profile_ = Profile();
-    const std::optional<CertSession> session = Open(5);
+    profile_ = store::Profile();
+    const std::optional<certificates::CertSession> session = Open(5);
     ASSERT_TRUE(session);
     EXPECT_THAT(sessions_.Initializations(), ElementsAre(InitializeCall{"", 0x80000044}));
     EXPECT_FALSE(session->isNetworkStoreAvailable);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

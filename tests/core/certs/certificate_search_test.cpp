@@ -1,12 +1,11 @@
-#include "certs/certificate_search.h"
+#include "certificates/search/certificate_search.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -18,41 +17,41 @@ class CertificateSearch : public CertsFixture {
         settings_.signerMode = 0;
         Reports().provider.PushError(ScriptedSessions::kFirstContext, {"Detail", "f.c", 7, "d"});
         Reports().provider.SetErrorText(kFailure, "Store broken.");
-        Reports().provider.SetErrorText(kStatusNothingFound, "Nothing found.");
+        Reports().provider.SetErrorText(provider::kStatusNothingFound, "Nothing found.");
     }
 
     static constexpr std::uint32_t kFailure = 0xE0700001;
 
     [[nodiscard]] ShownBox Report(const std::wstring& text) const {
-        return {owner_, text, AppTitle, kErrorStyle};
+        return {owner_, text, reporting::AppTitle, reporting::kErrorStyle};
     }
 
-    CertSearchSettings settings_;
-    corvane::TextList owners_{L"left over"};
-    corvane::TextList issuers_{L"left over"};
-    corvane::TextList serials_{L"left over"};
+    certificates::CertSearchSettings settings_;
+    corvane::store::TextList owners_{L"left over"};
+    corvane::store::TextList issuers_{L"left over"};
+    corvane::store::TextList serials_{L"left over"};
 };
 
 class FindAllLocalTest : public CertificateSearch {
   protected:
-    bool Find() { return FindAllLocal(owner_, settings_, context_, Reporter(), owners_); }
-    Cryptocontext context_ = OpenContext();
+    bool Find() { return certificates::FindAllLocal(owner_, settings_, context_, Reporter(), owners_); }
+    certificates::Cryptocontext context_ = OpenContext();
 };
 
 class FindByPatternTest : public CertificateSearch {
   protected:
     bool Find(const std::wstring& pattern = L"CN=Iva*") {
-        return FindByPattern(owner_, settings_, context_, pattern, Reporter(), owners_);
+        return certificates::FindByPattern(owner_, settings_, context_, pattern, Reporter(), owners_);
     }
-    Cryptocontext context_ = OpenContext();
+    certificates::Cryptocontext context_ = OpenContext();
 };
 
 class FindByOwnerTest : public CertificateSearch {
   protected:
     bool Find(const std::wstring& owner = L"CN=Ann") {
-        return FindByOwner(owner_, settings_, context_, owner, Reporter(), issuers_, serials_);
+        return certificates::FindByOwner(owner_, settings_, context_, owner, Reporter(), issuers_, serials_);
     }
-    Cryptocontext context_ = OpenContext();
+    certificates::Cryptocontext context_ = OpenContext();
 };
 
 TEST_F(FindAllLocalTest, AsksForAllRecipients) {
@@ -127,7 +126,7 @@ TEST_F(FindAllLocalTest, AFailureIsReportedWithTheErrorStackWhereTheSettingsSayS
 }
 
 TEST_F(FindAllLocalTest, ThatNothingWasFoundIsAFailureToo) {
-    sessions_.findStatus = kStatusNothingFound;
+    sessions_.findStatus = provider::kStatusNothingFound;
     EXPECT_FALSE(Find());
     EXPECT_THAT(Boxes(), ElementsAre(Report(L"Searching of all certificate in local store.\r\n"
                                             L"XSIG error 0xE0700046 - Nothing found.")));
@@ -186,7 +185,7 @@ TEST_F(FindByPatternTest, OnlyTheExactStarBecomesAnAttributePattern) {
 }
 
 TEST_F(FindByPatternTest, ThatNothingWasFoundIsNoFailure) {
-    sessions_.findStatus = kStatusNothingFound;
+    sessions_.findStatus = provider::kStatusNothingFound;
     EXPECT_TRUE(Find());
     EXPECT_THAT(owners_, IsEmpty());
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -281,10 +280,10 @@ TEST_F(FindByOwnerTest, AFailureIsReportedWithTheOwner) {
 }
 
 TEST_F(FindByOwnerTest, ThatNothingWasFoundIsAFailureToo) {
-    sessions_.findStatus = kStatusNothingFound;
+    sessions_.findStatus = provider::kStatusNothingFound;
     EXPECT_FALSE(Find());
     EXPECT_EQ(Boxes().size(), 1U);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

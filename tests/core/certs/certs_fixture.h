@@ -7,33 +7,33 @@
 #include <string>
 #include <vector>
 
-#include "certs/cert_services.h"
-#include "certs/cryptocontext.h"
-#include "certs/wait_window.h"
+#include "certificates/session/cert_services.h"
+#include "certificates/session/cryptocontext.h"
+#include "certificates/session/wait_window.h"
 #include "tests/support/memory_registry.h"
 #include "tests/support/recording_input_gate.h"
 #include "tests/support/reporter_fixture.h"
 #include "tests/support/scripted_sessions.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A warning box as it was asked for.
 struct ShownWarning {
     toolkit::WindowHandle owner = nullptr;
     std::wstring text;
     std::wstring title;
-    WarningMode mode = WarningMode::kWarning;
+    certificates::WarningMode mode = certificates::WarningMode::kWarning;
 
     bool operator==(const ShownWarning&) const = default;
 };
 
 /// Keeps every warning instead of showing it, and tells the log of the provider when.
-class RecordingWarnings : public WarningPresenter {
+class RecordingWarnings : public certificates::WarningPresenter {
   public:
     explicit RecordingWarnings(std::vector<std::string>& log) : log_(log) {}
 
     void Show(toolkit::WindowHandle owner, const std::wstring& text, const std::wstring& title,
-              WarningMode mode) override {
+              certificates::WarningMode mode) override {
         log_.emplace_back("warning");
         warnings.push_back({owner, text, title, mode});
         if (onShow) {
@@ -51,7 +51,7 @@ class RecordingWarnings : public WarningPresenter {
 };
 
 /// Tells the log when the wait window comes and goes.
-class RecordingWaitWindow : public WaitWindow {
+class RecordingWaitWindow : public certificates::WaitWindow {
   public:
     explicit RecordingWaitWindow(std::vector<std::string>& log) : log_(log) {}
 
@@ -70,7 +70,7 @@ class RecordingWaitWindow : public WaitWindow {
 };
 
 /// A clock that stands.
-class SetClock : public Clock {
+class SetClock : public certificates::Clock {
   public:
     [[nodiscard]] std::int64_t SecondsSince1970() const override { return seconds; }
 
@@ -97,13 +97,13 @@ class CertsFixture : public ::testing::Test {
     }
 
     ReporterFixture& Reports() { return reports_; }
-    ErrorReporter& Reporter() { return reports_.reporter; }
+    reporting::ErrorReporter& Reporter() { return reports_.reporter; }
     [[nodiscard]] const std::vector<ShownBox>& Boxes() const { return reports_.presenter.Boxes(); }
 
     // A context that is open already, as most of the code finds it.
-    Cryptocontext OpenContext() {
-        const ProviderFunctions& provider = *sessions_.Functions();
-        ProviderContext context = 0;
+    certificates::Cryptocontext OpenContext() {
+        const provider::ProviderFunctions& provider = *sessions_.Functions();
+        provider::ProviderContext context = 0;
         EXPECT_EQ(provider.initialize("any", 0, &context), 0U);
         return {provider, context, reports_.reporter, owner_, input_};
     }
@@ -118,10 +118,11 @@ class CertsFixture : public ::testing::Test {
     MemoryRegistry registry_;
     SetClock clock_;
     RecordingInputGate input_;
-    SessionOpening opening_;
+    certificates::SessionOpening opening_;
     RecordingWarnings warnings_{sessions_.log};
     RecordingWaitWindow waitWindow_{sessions_.log};
-    CertServices services_{sessions_, reports_.reporter, warnings_, registry_, clock_, input_, opening_};
+    certificates::CertServices services_{sessions_, reports_.reporter, warnings_, registry_, clock_,
+                                         input_,    opening_};
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,13 +1,12 @@
-#include "certs/crl_update.h"
+#include "certificates/store_checks/crl_update.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
-#include "config/registry_access.h"
+#include "reporting/message_styles.h"
+#include "store/registry/registry_access.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -23,8 +22,8 @@ class CrlUpdate : public CertsFixture {
     }
 
     bool Update() {
-        const Cryptocontext context = OpenContext();
-        return UpdateCrlIfDue(owner_, csProfile_, context, services_);
+        const certificates::Cryptocontext context = OpenContext();
+        return certificates::UpdateCrlIfDue(owner_, csProfile_, context, services_);
     }
 
     void Store(const std::vector<std::wstring>& entries) {
@@ -32,15 +31,15 @@ class CrlUpdate : public CertsFixture {
     }
 
     // What the list holds, read back by the access layer.
-    corvane::TextList Stored() {
-        corvane::TextList entries;
-        RegistryAccess access(registry_, Reporter());
+    corvane::store::TextList Stored() {
+        corvane::store::TextList entries;
+        store::RegistryAccess access(registry_, Reporter());
         EXPECT_EQ(access.OpenKey(kProgramKeyPath), 0U);
         EXPECT_TRUE(access.ReadStringList(L"LastCrlUpdate", entries, nullptr));
         return entries;
     }
 
-    CsProfile csProfile_;
+    store::CsProfile csProfile_;
 };
 
 TEST_F(CrlUpdate, LoadsTheListsIntoAnEmptyBufferOf1024Bytes) {
@@ -109,19 +108,20 @@ TEST_F(CrlUpdate, AKeyThatCannotBeOpenedStops) {
                                               L"Create (open) register key "
                                               L"HKEY_CURRENT_USER\\SOFTWARE\\HOLVAN\\tarntray.\r\n"
                                               L"Error 0x5 - System text 5.",
-                                              AppTitle, kErrorStyle}));
+                                              reporting::AppTitle, reporting::kErrorStyle}));
     EXPECT_THAT(sessions_.Controls(), IsEmpty());
 }
 
 TEST_F(CrlUpdate, AKeyThatIsMissingStopsAndIsNotMade) {
     MemoryRegistry empty;
-    const CertServices services{sessions_, Reporter(), warnings_, empty, clock_, input_, opening_};
-    const Cryptocontext context = OpenContext();
-    EXPECT_FALSE(UpdateCrlIfDue(owner_, csProfile_, context, services));
+    const certificates::CertServices services{sessions_, Reporter(), warnings_, empty,
+                                              clock_,    input_,     opening_};
+    const certificates::Cryptocontext context = OpenContext();
+    EXPECT_FALSE(certificates::UpdateCrlIfDue(owner_, csProfile_, context, services));
     EXPECT_FALSE(empty.HasKey(kProgramKeyPath));
     ASSERT_EQ(empty.Calls().size(), 1U);
     EXPECT_EQ(empty.Calls()[0].operation, RegistryOperation::kOpen);
-    EXPECT_EQ(empty.Calls()[0].access, kReadWriteAccess);
+    EXPECT_EQ(empty.Calls()[0].access, store::kReadWriteAccess);
 }
 
 TEST_F(CrlUpdate, AValueOfAnotherTypeIsReportedAndCountsAsEmpty) {
@@ -179,17 +179,17 @@ TEST_F(CrlUpdate, AFailureIsExplainedWithTheDiagnosisInsteadOfTheErrorStack) {
                 ElementsAre(ShownWarning{nullptr,
                                          L"Connetion to CRL distribution point.\r\n"
                                          L"XSIG error 0xE0700001 - No route.\r\n\r\nhttp://a \x041E\x0448",
-                                         L"", WarningMode::kWarning}));
+                                         L"", certificates::WarningMode::kWarning}));
     EXPECT_THAT(Boxes(),
                 ElementsAre(ShownBox{owner_, L"No route (0xE0700001).\r\nContinue without loading CRL?",
-                                     AppTitle, kContinueStyle}));
+                                     reporting::AppTitle, reporting::kContinueStyle}));
     EXPECT_EQ(Reports().provider.ErrorLineCalls(), 0U);
 }
 
 TEST_F(CrlUpdate, CancelStopsButTheTimeIsRecorded) {
     sessions_.controlStatus = 0xE0700001;
     sessions_.controlText = "x";
-    Reports().presenter.AnswerNext(kAnswerCancel);
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
     EXPECT_FALSE(Update());
     EXPECT_THAT(Stored(), ElementsAre(L"main;;1600000000"));
 }
@@ -205,11 +205,11 @@ TEST_F(CrlUpdate, ADiagnosisThatFillsTheBufferEndsWithIt) {
 TEST_F(CrlUpdate, TheKeyIsClosedBeforeTheUserIsAsked) {
     sessions_.controlStatus = 0xE0700001;
     sessions_.controlText = "x";
-    class Watcher : public WarningPresenter {
+    class Watcher : public certificates::WarningPresenter {
       public:
         explicit Watcher(MemoryRegistry& registry) : registry_(registry) {}
         void Show(toolkit::WindowHandle /*owner*/, const std::wstring& /*text*/,
-                  const std::wstring& /*title*/, WarningMode /*mode*/) override {
+                  const std::wstring& /*title*/, certificates::WarningMode /*mode*/) override {
             openKeys = registry_.OpenKeys();
         }
         std::size_t openKeys = 99;
@@ -217,11 +217,12 @@ TEST_F(CrlUpdate, TheKeyIsClosedBeforeTheUserIsAsked) {
       private:
         MemoryRegistry& registry_;
     } watcher(registry_);
-    const CertServices services{sessions_, Reporter(), watcher, registry_, clock_, input_, opening_};
-    const Cryptocontext context = OpenContext();
-    EXPECT_TRUE(UpdateCrlIfDue(owner_, csProfile_, context, services));
+    const certificates::CertServices services{sessions_, Reporter(), watcher, registry_,
+                                              clock_,    input_,     opening_};
+    const certificates::Cryptocontext context = OpenContext();
+    EXPECT_TRUE(certificates::UpdateCrlIfDue(owner_, csProfile_, context, services));
     EXPECT_EQ(watcher.openKeys, 0U);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

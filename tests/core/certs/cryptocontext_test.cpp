@@ -1,15 +1,14 @@
-#include "certs/cryptocontext.h"
+#include "certificates/session/cryptocontext.h"
 
 #include <gmock/gmock.h>
 
 #include <optional>
 #include <utility>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -18,14 +17,14 @@ using ::testing::IsEmpty;
 class CryptocontextTest : public CertsFixture {};
 
 TEST_F(CryptocontextTest, IsClosedOnceWithItsEnd) {
-    { const Cryptocontext context = OpenContext(); }
+    { const certificates::Cryptocontext context = OpenContext(); }
     EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
     EXPECT_EQ(sessions_.OpenContexts(), 0U);
 }
 
 TEST_F(CryptocontextTest, ClosedBeforeItsEndItIsClosedOnce) {
     {
-        Cryptocontext context = OpenContext();
+        certificates::Cryptocontext context = OpenContext();
         context.Close();
         EXPECT_EQ(context.Get(), 0U);
         context.Close();
@@ -35,9 +34,9 @@ TEST_F(CryptocontextTest, ClosedBeforeItsEndItIsClosedOnce) {
 
 TEST_F(CryptocontextTest, MovedItIsClosedOnceByTheNewOwner) {
     {
-        std::optional<Cryptocontext> moved;
+        std::optional<certificates::Cryptocontext> moved;
         {
-            Cryptocontext context = OpenContext();
+            certificates::Cryptocontext context = OpenContext();
             moved.emplace(std::move(context));
         }
         EXPECT_THAT(sessions_.Closed(), IsEmpty());
@@ -48,7 +47,7 @@ TEST_F(CryptocontextTest, MovedItIsClosedOnceByTheNewOwner) {
 
 TEST_F(CryptocontextTest, DroppedItStaysOpen) {
     {
-        Cryptocontext context = OpenContext();
+        certificates::Cryptocontext context = OpenContext();
         context.Drop();
         EXPECT_EQ(context.Get(), 0U);
     }
@@ -57,7 +56,7 @@ TEST_F(CryptocontextTest, DroppedItStaysOpen) {
 }
 
 TEST_F(CryptocontextTest, NoneIsNotClosed) {
-    { const Cryptocontext none(*sessions_.Functions(), 0, Reporter(), owner_, input_); }
+    { const certificates::Cryptocontext none(*sessions_.Functions(), 0, Reporter(), owner_, input_); }
     EXPECT_THAT(sessions_.Closed(), IsEmpty());
 }
 
@@ -66,16 +65,16 @@ TEST_F(CryptocontextTest, ACloseThatFailsIsReportedWithoutItsErrorStackAndCounts
     Reports().provider.SetErrorText(0xE0700010, "Card removed.");
     Reports().provider.PushError(ScriptedSessions::kFirstContext, {"not asked for", "f", 1, "d"});
     {
-        Cryptocontext context = OpenContext();
+        certificates::Cryptocontext context = OpenContext();
         context.Close();
         EXPECT_EQ(context.Get(), 0U);
     }
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{owner_,
                                               L"Cryptocontext uninitialization.\r\n"
                                               L"XSIG error 0xE0700010 - Card removed.",
-                                              AppTitle, kErrorStyle}));
+                                              reporting::AppTitle, reporting::kErrorStyle}));
     EXPECT_EQ(Reports().provider.ErrorLineCalls(), 0U);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

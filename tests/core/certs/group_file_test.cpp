@@ -1,14 +1,12 @@
-#include "certs/group_file.h"
+#include "certificates/group_file/group_file.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
-#include "certs/group_file_text.h"
+#include "reporting/message_styles.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -16,8 +14,8 @@ using ::testing::IsEmpty;
 
 constexpr wchar_t kPath[] = L"C:\\groups\\friends.grx";
 
-TextList Parse(std::string_view bytes) {
-    return ParseGroupFile(bytes, TestSystemText(CodePage::kCyrillic));
+store::TextList Parse(std::string_view bytes) {
+    return certificates::ParseGroupFile(bytes, TestSystemText(CodePage::kCyrillic));
 }
 
 class GroupFile : public ::testing::Test {
@@ -28,11 +26,11 @@ class GroupFile : public ::testing::Test {
     }
 
     bool Load(const std::wstring& path = kPath) {
-        return LoadGroupFile(form_, path, files_, reports_.reporter, dialog_);
+        return certificates::LoadGroupFile(form_, path, files_, reports_.reporter, dialog_);
     }
-    bool Save() { return SaveGroupFile(form_, kPath, files_, reports_.reporter, dialog_); }
-    [[nodiscard]] TextList Shown() const {
-        TextList owners;
+    bool Save() { return certificates::SaveGroupFile(form_, kPath, files_, reports_.reporter, dialog_); }
+    [[nodiscard]] store::TextList Shown() const {
+        store::TextList owners;
         for (std::size_t i = 0; i < form_.FoundRowCount(); ++i) {
             owners.emplace_back(form_.FoundRow(i).owner);
         }
@@ -43,8 +41,8 @@ class GroupFile : public ::testing::Test {
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(8);
     ReporterFixture reports_;
     MemoryFiles files_;
-    CertSearchSettings settings_;
-    RecipientSelectionForm form_{settings_, {}, reports_.text};
+    certificates::CertSearchSettings settings_;
+    certificates::RecipientSelectionForm form_{settings_, {}, reports_.text};
 };
 
 TEST(ParseGroupFile, TakesTheLinesThatCrLfEnds) {
@@ -93,20 +91,20 @@ TEST(ParseGroupFile, TenMegabytesWithoutAndWithLines) {
 
 TEST(FormatGroupFile, EndsEveryLineWithCrLf) {
     const TestSystemText text(CodePage::kCyrillic);
-    EXPECT_EQ(FormatGroupFile({L"CN=Ann", L"CN=\x0411"}, text), "CN=Ann\r\nCN=\xC1\r\n");
-    EXPECT_EQ(FormatGroupFile({}, text), "");
+    EXPECT_EQ(certificates::FormatGroupFile({L"CN=Ann", L"CN=\x0411"}, text), "CN=Ann\r\nCN=\xC1\r\n");
+    EXPECT_EQ(certificates::FormatGroupFile({}, text), "");
 }
 
 TEST(FormatGroupFile, CharactersOutsideTheCodePageAreLost) {
     const TestSystemText text(CodePage::kLatin);
-    EXPECT_EQ(FormatGroupFile({L"CN=\x0411\x00E9"}, text), "CN=?\xE9\r\n");
+    EXPECT_EQ(certificates::FormatGroupFile({L"CN=\x0411\x00E9"}, text), "CN=?\xE9\r\n");
 }
 
 TEST(FormatGroupFile, WhatItWritesIsReadBack) {
-    const TextList owners = {L"CN=\x0418\x0432\x0430\x043D,C=RU", L"CN=Ann"};
+    const store::TextList owners = {L"CN=\x0418\x0432\x0430\x043D,C=RU", L"CN=Ann"};
     for (const CodePage codePage : {CodePage::kCyrillic, CodePage::kUtf8, CodePage::kShiftJis}) {
         const TestSystemText text(codePage);
-        EXPECT_EQ(ParseGroupFile(FormatGroupFile(owners, text), text), owners);
+        EXPECT_EQ(certificates::ParseGroupFile(certificates::FormatGroupFile(owners, text), text), owners);
     }
 }
 
@@ -147,7 +145,7 @@ TEST_F(GroupFile, AMissingFileIsReportedAndTheListsStay) {
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{dialog_,
                                               L"Opening file C:\\groups\\friends.grx.\r\n"
                                               L"Error 0x2 - System text 2.",
-                                              AppTitle, kErrorStyle}));
+                                              reporting::AppTitle, reporting::kErrorStyle}));
     EXPECT_EQ(form_.lastGroupPath, kPath) << "the user chose it";
 }
 
@@ -194,40 +192,43 @@ TEST_F(GroupFile, AReadOnlyFileIsReportedAsNotCreated) {
 
 TEST_F(GroupFile, WithNobodyCheckedNothingIsSaved) {
     form_.AddFound({L"CN=B"});
-    EXPECT_FALSE(MaySaveGroup(form_, reports_.reporter, dialog_));
+    EXPECT_FALSE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_));
     settings_.signerMode = 1;
-    EXPECT_FALSE(MaySaveGroup(form_, reports_.reporter, dialog_));
-    EXPECT_THAT(Boxes(), ElementsAre(ShownBox{dialog_, L"No users selected.", AppTitle, 0x30},
-                                     ShownBox{dialog_, L"No signers selected.", AppTitle, 0x30}));
+    EXPECT_FALSE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_));
+    EXPECT_THAT(Boxes(), ElementsAre(ShownBox{dialog_, L"No users selected.", reporting::AppTitle, 0x30},
+                                     ShownBox{dialog_, L"No signers selected.", reporting::AppTitle, 0x30}));
     form_.CheckFound(0, true);
-    EXPECT_TRUE(MaySaveGroup(form_, reports_.reporter, dialog_));
+    EXPECT_TRUE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_));
     form_.SetFilter(L"x");
-    EXPECT_FALSE(MaySaveGroup(form_, reports_.reporter, dialog_)) << "who is hidden is not checked";
+    EXPECT_FALSE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_))
+        << "who is hidden is not checked";
 }
 
 TEST_F(GroupFile, TheOffersHaveTheFilterOfGroupFiles) {
-    EXPECT_EQ(OfferToOpenGroup(form_).filter, L"User groups files (*.grx)|*.grx|All files (*.*)|*.*||");
-    EXPECT_EQ(OfferToSaveGroup(form_).filter, L"User groups files (*.grx)|*.grx|All files (*.*)|*.*||");
+    EXPECT_EQ(certificates::OfferToOpenGroup(form_).filter,
+              L"User groups files (*.grx)|*.grx|All files (*.*)|*.*||");
+    EXPECT_EQ(certificates::OfferToSaveGroup(form_).filter,
+              L"User groups files (*.grx)|*.grx|All files (*.*)|*.*||");
 }
 
 TEST_F(GroupFile, OpeningStartsInTheGroupFolderAndThenWithTheLastPath) {
     settings_.groupFolder = L"D:\\groups\\";
-    EXPECT_EQ(OfferToOpenGroup(form_).fileName, L"");
-    EXPECT_EQ(OfferToOpenGroup(form_).folder, L"D:\\groups\\");
+    EXPECT_EQ(certificates::OfferToOpenGroup(form_).fileName, L"");
+    EXPECT_EQ(certificates::OfferToOpenGroup(form_).folder, L"D:\\groups\\");
     form_.lastGroupPath = kPath;
-    EXPECT_EQ(OfferToOpenGroup(form_).fileName, kPath);
-    EXPECT_EQ(OfferToOpenGroup(form_).folder, L"");
+    EXPECT_EQ(certificates::OfferToOpenGroup(form_).fileName, kPath);
+    EXPECT_EQ(certificates::OfferToOpenGroup(form_).folder, L"");
 }
 
 TEST_F(GroupFile, SavingStartsWithANewGroupInTheGroupFolderAndThenWithTheLastPath) {
-    EXPECT_EQ(OfferToSaveGroup(form_).fileName, L"New group.grx");
+    EXPECT_EQ(certificates::OfferToSaveGroup(form_).fileName, L"New group.grx");
     settings_.groupFolder = L"D:\\groups\\/\\";
-    EXPECT_EQ(OfferToSaveGroup(form_).fileName, L"D:\\groups\\New group.grx");
+    EXPECT_EQ(certificates::OfferToSaveGroup(form_).fileName, L"D:\\groups\\New group.grx");
     settings_.groupFolder = L"\\/";
-    EXPECT_EQ(OfferToSaveGroup(form_).fileName, L"New group.grx");
+    EXPECT_EQ(certificates::OfferToSaveGroup(form_).fileName, L"New group.grx");
     form_.lastGroupPath = kPath;
-    EXPECT_EQ(OfferToSaveGroup(form_).fileName, kPath);
+    EXPECT_EQ(certificates::OfferToSaveGroup(form_).fileName, kPath);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,12 +1,11 @@
-#include "certs/network_store_check.h"
+#include "certificates/store_checks/network_store_check.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -14,16 +13,17 @@ using ::testing::IsEmpty;
 
 class NetworkStore : public CertsFixture {
   protected:
-    NetworkStoreCheck Check() {
-        const Cryptocontext context = OpenContext();
-        const NetworkStoreCheck check = CheckNetworkStore(owner_, context, Reporter(), warnings_);
+    certificates::NetworkStoreCheck Check() {
+        const certificates::Cryptocontext context = OpenContext();
+        const certificates::NetworkStoreCheck check =
+            certificates::CheckNetworkStore(owner_, context, Reporter(), warnings_);
         sessions_.log.emplace_back("checked");
         return check;
     }
 };
 
 TEST_F(NetworkStore, IsAskedForANameThatNeedNotExist) {
-    EXPECT_EQ(Check(), NetworkStoreCheck::kAvailable);
+    EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kAvailable);
     EXPECT_THAT(sessions_.Searches(),
                 ElementsAre(FindCall{ScriptedSessions::kFirstContext, 0xE04, 0, "CN=QQQ,C=RU", 4, true}));
     EXPECT_THAT(sessions_.log, ElementsAre("initialize", "find", "free result", "checked", "uninitialize"));
@@ -31,14 +31,14 @@ TEST_F(NetworkStore, IsAskedForANameThatNeedNotExist) {
 
 TEST_F(NetworkStore, ThatFindsNothingAnswers) {
     sessions_.findStatus = 0xE0700046;
-    EXPECT_EQ(Check(), NetworkStoreCheck::kAvailable);
+    EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kAvailable);
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(warnings_.warnings, IsEmpty());
 }
 
 TEST_F(NetworkStore, WhateverTheProbeFindsIsGivenBack) {
     sessions_.certificates = {Certificate("CN=QQQ,C=RU")};
-    EXPECT_EQ(Check(), NetworkStoreCheck::kAvailable);
+    EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kAvailable);
     EXPECT_EQ(sessions_.ResultsHandedOut(), 1U);
 }
 
@@ -46,7 +46,7 @@ TEST_F(NetworkStore, AFailedProbeGivesItsResultBackBeforeAnythingIsShown) {
     sessions_.findStatus = 0xE0700001;
     sessions_.failedSearchesHandOut = true;
     sessions_.certificates = {Certificate("CN=QQQ,C=RU")};
-    EXPECT_EQ(Check(), NetworkStoreCheck::kGoOnWithout);
+    EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kGoOnWithout);
     EXPECT_EQ(sessions_.ResultsHandedOut(), 1U);
     EXPECT_THAT(sessions_.log,
                 ElementsAre("initialize", "find", "free result", "warning", "checked", "uninitialize"));
@@ -56,23 +56,23 @@ TEST_F(NetworkStore, ThatDoesNotAnswerIsExplainedAndTheUserGoesOnWithoutIt) {
     sessions_.findStatus = 0xE0700001;
     Reports().provider.SetErrorText(0xE0700001, "No answer.\r\n");
     Reports().provider.PushError(ScriptedSessions::kFirstContext, {"Timeout", "net.c", 3, "ldap"});
-    Reports().presenter.AnswerNext(kAnswerOk);
-    EXPECT_EQ(Check(), NetworkStoreCheck::kGoOnWithout);
+    Reports().presenter.AnswerNext(reporting::kAnswerOk);
+    EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kGoOnWithout);
     EXPECT_THAT(warnings_.warnings,
                 ElementsAre(ShownWarning{nullptr,
                                          L"Conneting to network store (NCS).\r\n"
                                          L"XSIG error 0xE0700001 - No answer.\r\n\r\n"
                                          L"XSIG stek, error number 1\r\nError: Timeout\r\nFile: net.c\r\n"
                                          L"Data: ldap\r\n",
-                                         L"", WarningMode::kWarning}));
+                                         L"", certificates::WarningMode::kWarning}));
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{owner_, L"No answer (0xE0700001).\r\nContinue without NCS?",
-                                              AppTitle, kContinueStyle}));
+                                              reporting::AppTitle, reporting::kContinueStyle}));
 }
 
 TEST_F(NetworkStore, CancelStops) {
     sessions_.findStatus = 0x80070005;
-    Reports().presenter.AnswerNext(kAnswerCancel);
-    EXPECT_EQ(Check(), NetworkStoreCheck::kStop);
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
+    EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kStop);
 }
 
 TEST_F(NetworkStore, StatusesOfEveryFamilyAreNamedRight) {
@@ -86,11 +86,11 @@ TEST_F(NetworkStore, StatusesOfEveryFamilyAreNamedRight) {
     for (const auto& [status, text] : cases) {
         warnings_.warnings.clear();
         sessions_.findStatus = status;
-        EXPECT_EQ(Check(), NetworkStoreCheck::kGoOnWithout);
+        EXPECT_EQ(Check(), certificates::NetworkStoreCheck::kGoOnWithout);
         ASSERT_EQ(warnings_.warnings.size(), 1U);
         EXPECT_EQ(warnings_.warnings[0].text, L"Conneting to network store (NCS).\r\n" + text + L"\r\n\r\n");
     }
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,21 +1,20 @@
-#include "certs/provider_call_message.h"
+#include "certificates/session/provider_call_message.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
-#include "app/reporting/provider_error_stack.h"
+#include "reporting/message_styles.h"
+#include "reporting/provider_error_stack.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 
 class ErrorStackText : public CertsFixture {
   protected:
-    std::wstring Format(ProviderContext context) {
-        return FormatErrorStack(*sessions_.Functions(), context, Reporter().Text());
+    std::wstring Format(provider::ProviderContext context) {
+        return certificates::FormatErrorStack(*sessions_.Functions(), context, Reporter().Text());
     }
 };
 
@@ -76,47 +75,50 @@ TEST_F(ErrorStackText, AStackThatNeverEndsIsLeftAtTheBound) {
     Reports().provider.PushError(5, {"t", "f", 1, "d"});
     Reports().provider.NeverPopErrors();
     const std::wstring text = Format(5);
-    EXPECT_EQ(Reports().provider.ErrorLineCalls(), kMostProviderErrors);
-    EXPECT_TRUE(text.ends_with(L"error number " + std::to_wstring(kMostProviderErrors) +
+    EXPECT_EQ(Reports().provider.ErrorLineCalls(), reporting::kMostProviderErrors);
+    EXPECT_TRUE(text.ends_with(L"error number " + std::to_wstring(reporting::kMostProviderErrors) +
                                L"\r\nError: t\r\nFile: f\r\nData: d\r\n"));
 }
 
 TEST_F(ProviderMessage, SaysWhatWasAttemptedTheStatusTheDescriptionAndTheDetails) {
-    EXPECT_EQ(ProviderCallMessage(L"Opening", 0xE0000005, L"No access", L"details"),
+    EXPECT_EQ(certificates::ProviderCallMessage(L"Opening", 0xE0000005, L"No access", L"details"),
               L"Opening.\r\nXSIG error 0xE0000005 - No access.\r\n\r\ndetails");
 }
 
 TEST_F(ProviderMessage, WithoutDetailsEndsInABlankLine) {
-    EXPECT_EQ(ProviderCallMessage(L"Opening", 0x80070005, L"No access", L""),
+    EXPECT_EQ(certificates::ProviderCallMessage(L"Opening", 0x80070005, L"No access", L""),
               L"Opening.\r\nError 0x80070005 - No access.\r\n\r\n");
 }
 
 TEST_F(ProviderMessage, TheStatusOfAllOnesIsAPlainErrorAndABadParameter) {
-    EXPECT_EQ(DescribeStatus(Reporter(), 0xFFFFFFFF), L"Bad parameter");
-    EXPECT_EQ(ProviderCallMessage(L"O", 0xFFFFFFFF, DescribeStatus(Reporter(), 0xFFFFFFFF), L""),
+    EXPECT_EQ(certificates::DescribeStatus(Reporter(), 0xFFFFFFFF), L"Bad parameter");
+    EXPECT_EQ(certificates::ProviderCallMessage(L"O", 0xFFFFFFFF,
+                                                certificates::DescribeStatus(Reporter(), 0xFFFFFFFF), L""),
               L"O.\r\nError 0xFFFFFFFF - Bad parameter.\r\n\r\n");
 }
 
 TEST_F(ProviderMessage, ASystemCodeHasTheSystemsDescription) {
     Reports().messages.SetSystemText(0x80070005, L"Access is denied.\r\n");
-    EXPECT_EQ(DescribeStatus(Reporter(), 0x80070005), L"Access is denied");
+    EXPECT_EQ(certificates::DescribeStatus(Reporter(), 0x80070005), L"Access is denied");
 }
 
 TEST_F(ProviderMessage, AProviderCodeHasTheProvidersDescriptionWithoutAnyStack) {
     Reports().provider.SetErrorText(0xE0000005, "No key.");
-    EXPECT_EQ(DescribeStatus(Reporter(), 0xE0000005), L"No key");
-    EXPECT_EQ(DescribeStatus(Reporter(), 0xE0000006), L"Error description not found");
+    EXPECT_EQ(certificates::DescribeStatus(Reporter(), 0xE0000005), L"No key");
+    EXPECT_EQ(certificates::DescribeStatus(Reporter(), 0xE0000006), L"Error description not found");
     EXPECT_EQ(Reports().provider.ErrorLineCalls(), 0U);
 }
 
 TEST_F(ProviderMessage, AskingToContinueOffersOkAndCancel) {
-    Reports().presenter.AnswerNext(kAnswerOk);
-    EXPECT_TRUE(AskToContinue(Reporter(), owner_, L"%s (0x%X).\r\nGo on?", L"No net %d", 0xE0000005));
-    Reports().presenter.AnswerNext(kAnswerCancel);
-    EXPECT_FALSE(AskToContinue(Reporter(), owner_, L"%s (0x%X).\r\nGo on?", L"No net", 5));
-    EXPECT_THAT(Boxes(), ElementsAre(ShownBox{owner_, L"No net %d (0xE0000005).\r\nGo on?", AppTitle, 0x31},
-                                     ShownBox{owner_, L"No net (0x5).\r\nGo on?", AppTitle, 0x31}));
+    Reports().presenter.AnswerNext(reporting::kAnswerOk);
+    EXPECT_TRUE(
+        certificates::AskToContinue(Reporter(), owner_, L"%s (0x%X).\r\nGo on?", L"No net %d", 0xE0000005));
+    Reports().presenter.AnswerNext(reporting::kAnswerCancel);
+    EXPECT_FALSE(certificates::AskToContinue(Reporter(), owner_, L"%s (0x%X).\r\nGo on?", L"No net", 5));
+    EXPECT_THAT(Boxes(),
+                ElementsAre(ShownBox{owner_, L"No net %d (0xE0000005).\r\nGo on?", reporting::AppTitle, 0x31},
+                            ShownBox{owner_, L"No net (0x5).\r\nGo on?", reporting::AppTitle, 0x31}));
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

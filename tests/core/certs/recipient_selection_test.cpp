@@ -1,11 +1,11 @@
-#include "certs/recipient_selection.h"
+#include "certificates/selection/recipient_selection.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/certs/certs_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -22,11 +22,14 @@ class Selection : public CertsFixture {
         };
     }
 
-    [[nodiscard]] SelectionPlace Place() { return {owner_, profile_, 0, waitWindow_, services_}; }
+    [[nodiscard]] certificates::SelectionPlace Place() {
+        return {owner_, profile_, 0, waitWindow_, services_};
+    }
 
     // A user who confirms what the dialog starts with.
-    SelectionRun Confirming(const std::wstring& listName = {}) {
-        return [this, listName](RecipientSelectionForm& form, const Cryptocontext& context) {
+    certificates::SelectionRun Confirming(const std::wstring& listName = {}) {
+        return [this, listName](certificates::RecipientSelectionForm& form,
+                                const certificates::Cryptocontext& context) {
             sessions_.log.emplace_back("dialog");
             wasForSigners_ = form.IsForSigners();
             wasNetworkStoreAvailable_ = form.IsNetworkStoreAvailable();
@@ -37,18 +40,19 @@ class Selection : public CertsFixture {
             form.AddFound({L"CN=New"});
             form.CheckAllFound(true);
             EXPECT_EQ(form.AddChecked(), L"");
-            return form.Confirm(context, Reporter(), owner_) == SelectionOutcome::kAccepted;
+            return form.Confirm(context, Reporter(), owner_) == certificates::SelectionOutcome::kAccepted;
         };
     }
-    SelectionRun Cancelling() {
-        return [this](RecipientSelectionForm& /*form*/, const Cryptocontext& /*context*/) {
+    certificates::SelectionRun Cancelling() {
+        return [this](certificates::RecipientSelectionForm& /*form*/,
+                      const certificates::Cryptocontext& /*context*/) {
             sessions_.log.emplace_back("dialog");
             return false;
         };
     }
 
-    Profile profile_;
-    SignerListsForm lists_{{{L"one", {L"CN=A"}}, {L"two", {L"CN=B"}}}};
+    store::Profile profile_;
+    certificates::SignerListsForm lists_{{{L"one", {L"CN=A"}}, {L"two", {L"CN=B"}}}};
     bool wasForSigners_ = false;
     bool wasNetworkStoreAvailable_ = true;
     std::wstring title_;
@@ -56,7 +60,8 @@ class Selection : public CertsFixture {
 
 TEST_F(Selection, ChosenRecipientsComeBackAndTheContextIsClosed) {
     {
-        const std::optional<ChosenRecipients> chosen = ChooseRecipients(Place(), {L"CN=A"}, Confirming());
+        const std::optional<certificates::ChosenRecipients> chosen =
+            certificates::ChooseRecipients(Place(), {L"CN=A"}, Confirming());
         ASSERT_TRUE(chosen);
         EXPECT_THAT(chosen->owners, ElementsAre(L"CN=A", L"CN=New"));
         EXPECT_THAT(sessions_.Closed(), IsEmpty()) << "closed before the choice could be kept";
@@ -69,16 +74,16 @@ TEST_F(Selection, ChosenRecipientsComeBackAndTheContextIsClosed) {
 }
 
 TEST_F(Selection, ACancelledChoiceOfRecipientsDropsTheContextUnclosed) {
-    EXPECT_FALSE(ChooseRecipients(Place(), {L"CN=A"}, Cancelling()));
+    EXPECT_FALSE(certificates::ChooseRecipients(Place(), {L"CN=A"}, Cancelling()));
     EXPECT_THAT(sessions_.Closed(), IsEmpty());
     EXPECT_EQ(sessions_.OpenContexts(), 1U);
 }
 
 TEST_F(Selection, WithoutAContextNoDialogIsShown) {
     sessions_.initializeStatus = 0xE0700001;
-    EXPECT_FALSE(ChooseRecipients(Place(), {L"CN=A"}, Confirming()));
-    EXPECT_FALSE(AddSignerList(lists_, Place(), Confirming(L"three")));
-    EXPECT_FALSE(EditSignerList(lists_, 0, Place(), Confirming(L"three")));
+    EXPECT_FALSE(certificates::ChooseRecipients(Place(), {L"CN=A"}, Confirming()));
+    EXPECT_FALSE(certificates::AddSignerList(lists_, Place(), Confirming(L"three")));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 0, Place(), Confirming(L"three")));
     EXPECT_THAT(sessions_.log, ::testing::Not(::testing::Contains("dialog")));
     EXPECT_EQ(lists_.Lists().size(), 2U);
     EXPECT_EQ(warnings_.warnings.size(), 3U);
@@ -87,7 +92,8 @@ TEST_F(Selection, WithoutAContextNoDialogIsShown) {
 TEST_F(Selection, AFailureToCloseIsReportedAndTheChoiceHolds) {
     sessions_.uninitializeStatus = 6;
     {
-        const std::optional<ChosenRecipients> chosen = ChooseRecipients(Place(), {}, Confirming());
+        const std::optional<certificates::ChosenRecipients> chosen =
+            certificates::ChooseRecipients(Place(), {}, Confirming());
         ASSERT_TRUE(chosen);
         EXPECT_THAT(chosen->owners, ElementsAre(L"CN=New"));
         EXPECT_THAT(Boxes(), IsEmpty());
@@ -98,46 +104,48 @@ TEST_F(Selection, AFailureToCloseIsReportedAndTheChoiceHolds) {
 
 TEST_F(Selection, ANewSignerListIsAppended) {
     {
-        const std::optional<CertSession> session = AddSignerList(lists_, Place(), Confirming(L"three"));
+        const std::optional<certificates::CertSession> session =
+            certificates::AddSignerList(lists_, Place(), Confirming(L"three"));
         EXPECT_TRUE(session);
         EXPECT_THAT(sessions_.Closed(), IsEmpty()) << "closed before the list could be shown";
     }
     EXPECT_TRUE(wasForSigners_);
     EXPECT_EQ(title_, L"Add list");
-    EXPECT_THAT(lists_.Lists(), ElementsAre(SignerGroup{L"one", {L"CN=A"}}, SignerGroup{L"two", {L"CN=B"}},
-                                            SignerGroup{L"three", {L"CN=New"}}));
+    EXPECT_THAT(lists_.Lists(),
+                ElementsAre(store::SignerGroup{L"one", {L"CN=A"}}, store::SignerGroup{L"two", {L"CN=B"}},
+                            store::SignerGroup{L"three", {L"CN=New"}}));
     EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
     EXPECT_EQ(sessions_.Searches()[0].searchFlags, 0x100U) << "signers, without the network store";
 }
 
 TEST_F(Selection, AnEditedSignerListIsReplacedInPlace) {
-    EXPECT_TRUE(EditSignerList(lists_, 0, Place(), Confirming()));
+    EXPECT_TRUE(certificates::EditSignerList(lists_, 0, Place(), Confirming()));
     EXPECT_EQ(title_, L"Edit list");
-    EXPECT_THAT(lists_.Lists(),
-                ElementsAre(SignerGroup{L"one", {L"CN=A", L"CN=New"}}, SignerGroup{L"two", {L"CN=B"}}));
-    EXPECT_TRUE(EditSignerList(lists_, 0, Place(), Confirming(L"renamed")));
+    EXPECT_THAT(lists_.Lists(), ElementsAre(store::SignerGroup{L"one", {L"CN=A", L"CN=New"}},
+                                            store::SignerGroup{L"two", {L"CN=B"}}));
+    EXPECT_TRUE(certificates::EditSignerList(lists_, 0, Place(), Confirming(L"renamed")));
     EXPECT_EQ(lists_.Lists()[0].name, L"renamed");
 }
 
 TEST_F(Selection, ASignerListMayNotTakeTheNameOfAnotherOne) {
-    EXPECT_FALSE(EditSignerList(lists_, 0, Place(), Confirming(L"two")));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 0, Place(), Confirming(L"two")));
     EXPECT_EQ(lists_.Lists()[0].name, L"one");
     ASSERT_EQ(Boxes().size(), 1U);
     EXPECT_EQ(Boxes()[0].text, L"List with this name already exists");
 }
 
 TEST_F(Selection, ACancelledSignerListClosesTheContext) {
-    EXPECT_FALSE(AddSignerList(lists_, Place(), Cancelling()));
-    EXPECT_FALSE(EditSignerList(lists_, 1, Place(), Cancelling()));
+    EXPECT_FALSE(certificates::AddSignerList(lists_, Place(), Cancelling()));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 1, Place(), Cancelling()));
     EXPECT_THAT(sessions_.Closed(),
                 ElementsAre(ScriptedSessions::kFirstContext, ScriptedSessions::kFirstContext + 1));
     EXPECT_EQ(lists_.Lists().size(), 2U);
 }
 
 TEST_F(Selection, AListThatIsNotThereIsNotEdited) {
-    EXPECT_FALSE(EditSignerList(lists_, 2, Place(), Confirming()));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 2, Place(), Confirming()));
     EXPECT_THAT(sessions_.log, IsEmpty());
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

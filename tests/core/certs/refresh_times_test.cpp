@@ -1,10 +1,10 @@
-#include "certs/refresh_times.h"
+#include "certificates/store_checks/crl_update.h"
 
 #include <gmock/gmock.h>
 
 #include <limits>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -12,8 +12,8 @@ using ::testing::ElementsAre;
 constexpr std::int64_t kNow = 1'600'000'020;  // A whole minute.
 constexpr std::int64_t kDay = 86'400;         // Seconds.
 
-bool IsDue(const TextList& entries, std::int32_t periodHours = 24, std::int64_t now = kNow) {
-    return FindRefreshState(entries, L"main", periodHours, now).isDue;
+bool IsDue(const store::TextList& entries, std::int32_t periodHours = 24, std::int64_t now = kNow) {
+    return certificates::FindRefreshState(entries, L"main", periodHours, now).isDue;
 }
 
 std::wstring Entry(std::int64_t seconds) {
@@ -21,7 +21,7 @@ std::wstring Entry(std::int64_t seconds) {
 }
 
 TEST(RefreshState, WithoutAnEntryItIsDue) {
-    const RefreshState state = FindRefreshState({}, L"main", 24, kNow);
+    const certificates::RefreshState state = certificates::FindRefreshState({}, L"main", 24, kNow);
     EXPECT_TRUE(state.isDue);
     EXPECT_EQ(state.entry, std::nullopt);
 }
@@ -44,21 +44,23 @@ TEST(RefreshState, ATimeInTheFutureIsNotDue) {
 }
 
 TEST(RefreshState, NamesAreComparedExactly) {
-    const TextList entries = {L"Main;;1600000000", L"main ;;1600000000", L"mai;;1600000000"};
-    const RefreshState state = FindRefreshState(entries, L"main", 24, kNow);
+    const store::TextList entries = {L"Main;;1600000000", L"main ;;1600000000", L"mai;;1600000000"};
+    const certificates::RefreshState state = certificates::FindRefreshState(entries, L"main", 24, kNow);
     EXPECT_TRUE(state.isDue);
     EXPECT_EQ(state.entry, std::nullopt);
 }
 
 TEST(RefreshState, AnEntryWithoutSeparatorNeverMatches) {
-    EXPECT_EQ(FindRefreshState({L"main", L"main;1600000000", L"main:;;1600000000"}, L"main", 24, kNow).entry,
-              std::nullopt);
+    EXPECT_EQ(
+        certificates::FindRefreshState({L"main", L"main;1600000000", L"main:;;1600000000"}, L"main", 24, kNow)
+            .entry,
+        std::nullopt);
 }
 
 TEST(RefreshState, TextThatIsNoNumberIsTimeZero) {
     for (const wchar_t* entry : {L"main;;", L"main;;soon", L"main;;;1600000000", L"main;;;;1600000000",
                                  L"main;;0x7FFFFFFF", L"main;;-", L"main;;+ 1600000000"}) {
-        const RefreshState state = FindRefreshState({entry}, L"main", 24, kNow);
+        const certificates::RefreshState state = certificates::FindRefreshState({entry}, L"main", 24, kNow);
         EXPECT_TRUE(state.isDue);
         EXPECT_EQ(state.entry, 0U);
     }
@@ -72,8 +74,8 @@ TEST(RefreshState, SpacesASignAndWhatFollowsTheNumberAreRead) {
 }
 
 TEST(RefreshState, TheLastMatchingEntryIsReplacedAndOneYoungEntryIsEnough) {
-    const TextList entries = {L"other;;1", Entry(kNow), Entry(5), L"main"};
-    const RefreshState state = FindRefreshState(entries, L"main", 24, kNow);
+    const store::TextList entries = {L"other;;1", Entry(kNow), Entry(5), L"main"};
+    const certificates::RefreshState state = certificates::FindRefreshState(entries, L"main", 24, kNow);
     EXPECT_FALSE(state.isDue);
     EXPECT_EQ(state.entry, 2U);
 }
@@ -97,26 +99,26 @@ TEST(RefreshState, AClockBefore1970Counts) {
 }
 
 TEST(RefreshState, AnEmptyNameHasAnEntryOfItsOwn) {
-    EXPECT_EQ(FindRefreshState({L"main;;5", L";;5"}, L"", 24, kNow).entry, 1U);
+    EXPECT_EQ(certificates::FindRefreshState({L"main;;5", L";;5"}, L"", 24, kNow).entry, 1U);
 }
 
 TEST(RecordRefresh, ReplacesInPlace) {
-    TextList entries = {L"a;;1", L"main;;2", L"b;;3"};
-    RecordRefresh(entries, 1, L"main", kNow);
+    store::TextList entries = {L"a;;1", L"main;;2", L"b;;3"};
+    certificates::RecordRefresh(entries, 1, L"main", kNow);
     EXPECT_THAT(entries, ElementsAre(L"a;;1", L"main;;1600000020", L"b;;3"));
 }
 
 TEST(RecordRefresh, AppendsWhereThereWasNone) {
-    TextList entries = {L"a;;1"};
-    RecordRefresh(entries, std::nullopt, L"%s", 4'294'967'297);
+    store::TextList entries = {L"a;;1"};
+    certificates::RecordRefresh(entries, std::nullopt, L"%s", 4'294'967'297);
     EXPECT_THAT(entries, ElementsAre(L"a;;1", L"%s;;4294967297"));
 }
 
 TEST(RecordRefresh, ATimeBefore1970HasItsSign) {
-    TextList entries;
-    RecordRefresh(entries, std::nullopt, L"main", -61);
+    store::TextList entries;
+    certificates::RecordRefresh(entries, std::nullopt, L"main", -61);
     EXPECT_THAT(entries, ElementsAre(L"main;;-61"));
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,20 +1,19 @@
-#include "certs/signer_lists_form.h"
+#include "certificates/signer_lists/signer_lists_form.h"
 
 #include <gmock/gmock.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const SignerGroup kChiefs{L"chiefs", {L"CN=A", L"CN=B"}};
-const SignerGroup kClerks{L"clerks", {L"CN=C"}};
-const SignerGroup kNobody{L"nobody", {}};
+const store::SignerGroup kChiefs{L"chiefs", {L"CN=A", L"CN=B"}};
+const store::SignerGroup kClerks{L"clerks", {L"CN=C"}};
+const store::SignerGroup kNobody{L"nobody", {}};
 
 class SignerLists : public ::testing::Test {
   protected:
@@ -25,12 +24,12 @@ class SignerLists : public ::testing::Test {
         return form_.Delete(positions, reports_.reporter, dialog_);
     }
     [[nodiscard]] ShownBox Question(const std::wstring& text) const {
-        return {dialog_, text, AppTitle, 0x134};
+        return {dialog_, text, reporting::AppTitle, 0x134};
     }
 
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(6);
     ReporterFixture reports_;
-    SignerListsForm form_{{kChiefs, kClerks, kNobody}};
+    certificates::SignerListsForm form_{{kChiefs, kClerks, kNobody}};
 };
 
 TEST_F(SignerLists, ARowHasTheNameAndTheSigners) {
@@ -41,7 +40,7 @@ TEST_F(SignerLists, ARowHasTheNameAndTheSigners) {
 }
 
 TEST_F(SignerLists, ANewListStartsEmptyBesideTheExistingOnes) {
-    const SelectionStart start = form_.StartOfNewList(true);
+    const certificates::SelectionStart start = form_.StartOfNewList(true);
     EXPECT_THAT(start.chosen, IsEmpty());
     EXPECT_THAT(start.existingLists, ElementsAre(kChiefs, kClerks, kNobody));
     EXPECT_EQ(start.listName, L"");
@@ -50,7 +49,7 @@ TEST_F(SignerLists, ANewListStartsEmptyBesideTheExistingOnes) {
 }
 
 TEST_F(SignerLists, EditingStartsWithTheListsSignersAndName) {
-    const SelectionStart start = form_.StartOfEditing(0, false);
+    const certificates::SelectionStart start = form_.StartOfEditing(0, false);
     EXPECT_THAT(start.chosen, ElementsAre(L"CN=A", L"CN=B"));
     EXPECT_EQ(start.existingLists.size(), 3U);
     EXPECT_EQ(start.listName, L"chiefs");
@@ -59,13 +58,13 @@ TEST_F(SignerLists, EditingStartsWithTheListsSignersAndName) {
 }
 
 TEST_F(SignerLists, DeletingTwoAsksWithTheirNumber) {
-    EXPECT_TRUE(Delete({2, 0}, kAnswerYes));
+    EXPECT_TRUE(Delete({2, 0}, reporting::kAnswerYes));
     EXPECT_THAT(form_.Lists(), ElementsAre(kClerks));
     EXPECT_THAT(reports_.presenter.Boxes(), ElementsAre(Question(L"Delete 2 list(s)?")));
 }
 
 TEST_F(SignerLists, NoDeletesNothing) {
-    EXPECT_FALSE(Delete({1}, kAnswerNo));
+    EXPECT_FALSE(Delete({1}, reporting::kAnswerNo));
     EXPECT_EQ(form_.Lists().size(), 3U);
     EXPECT_THAT(reports_.presenter.Boxes(), ElementsAre(Question(L"Delete 1 list(s)?")));
 }
@@ -84,9 +83,9 @@ TEST_F(SignerLists, AListIsDescribedWithItsNumberedSigners) {
 }
 
 TEST(SignerListsTexts, AreThoseThatUsersKnow) {
-    EXPECT_STREQ(kSignerListsTitle, L"Signer lists");
-    EXPECT_STREQ(kSignerListTitle, L"Signer list");
+    EXPECT_STREQ(certificates::kSignerListsTitle, L"Signer lists");
+    EXPECT_STREQ(certificates::kSignerListTitle, L"Signer list");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,28 +1,16 @@
-#include "config/load_configuration.h"
+#include "store/registry/load_configuration.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "config/stored_record.h"
+#include "store/registry/stored_record.h"
 #include "tests/core/config/stored_paths.h"
 #include "tests/support/memory_registry.h"
 #include "tests/support/store_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::Bytes;
-using testing::kCatalogue;
-using testing::kProfile;
-using testing::kProgram;
-using testing::kRules;
-using testing::Number;
-using testing::RegistryCall;
-using testing::RegistryOperation;
-using testing::RegistrySnapshot;
-using testing::ReportText;
-using testing::Text;
 
 const std::wstring kRule = L"SOFTWARE\\HOLVAN\\tarntray\\Office\\rules\\Rule 0";
 
@@ -34,7 +22,7 @@ class LoadConfiguration : public ::testing::Test {
     }
 
     // A rule of the profile "Office" as it comes out of the registry.
-    [[nodiscard]] Rule LoadOnlyRule() {
+    [[nodiscard]] store::Rule LoadOnlyRule() {
         EXPECT_TRUE(store.Load());
         EXPECT_EQ(state.profiles.size(), 1U);
         if (state.profiles.empty() || state.profiles[0].rules.size() != 1) {
@@ -44,7 +32,7 @@ class LoadConfiguration : public ::testing::Test {
         return state.profiles[0].rules[0];
     }
 
-    [[nodiscard]] const Profile& LoadOnlyProfile() {
+    [[nodiscard]] const store::Profile& LoadOnlyProfile() {
         EXPECT_TRUE(store.Load());
         EXPECT_EQ(state.profiles.size(), 1U);
         return state.profiles.at(0);
@@ -52,9 +40,9 @@ class LoadConfiguration : public ::testing::Test {
 
     void ExpectNoReports() const { EXPECT_TRUE(store.ReportTexts().empty()); }
 
-    testing::StoreFixture store;
-    testing::MemoryRegistry& registry = store.registry;
-    ConfigurationState& state = store.state;
+    StoreFixture store;
+    MemoryRegistry& registry = store.registry;
+    store::ConfigurationState& state = store.state;
 };
 
 TEST_F(LoadConfiguration, AppendsTheCatalogueInTheOrderOfItsKeysEmptyNamesIncluded) {
@@ -63,7 +51,7 @@ TEST_F(LoadConfiguration, AppendsTheCatalogueInTheOrderOfItsKeysEmptyNamesInclud
     registry.PutNumber(kCatalogue + L"\\beta", L"ProfileName", 1);
     registry.PutText(kCatalogue + L"\\gamma", L"ProfileName", L"Second");
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(state.csProfileCatalogue, (TextList{L"Main CSP", L"Second", L"", L"", L"Second"}));
+    EXPECT_EQ(state.csProfileCatalogue, (store::TextList{L"Main CSP", L"Second", L"", L"", L"Second"}));
     ExpectNoReports();
 }
 
@@ -72,7 +60,7 @@ TEST_F(LoadConfiguration, TakesTheProfilesInTheOrderOfTheirKeys) {
     registry.PutKey(kProgram + L"\\Zoo\\rules");
     registry.PutSubkeysFirst(kProgram, {L"Zoo"});
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(state.profileNames, (TextList{L"Zoo", L"Office", L"Archive"}));
+    EXPECT_EQ(state.profileNames, (store::TextList{L"Zoo", L"Office", L"Archive"}));
     ASSERT_EQ(state.profiles.size(), 3U);
     EXPECT_EQ(state.profiles[0].name, L"Zoo");
     EXPECT_EQ(state.profiles[1].name, L"Office");
@@ -82,10 +70,10 @@ TEST_F(LoadConfiguration, TakesTheProfilesInTheOrderOfTheirKeys) {
 TEST_F(LoadConfiguration, GivesEveryMissingValueItsDefault) {
     registry.PutKey(kRule + L"\\List");
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(state.settings, AppSettings{});
-    Profile expected;
+    EXPECT_EQ(state.settings, store::AppSettings{});
+    store::Profile expected;
     expected.name = L"Office";
-    Rule& rule = expected.rules.emplace_back();
+    store::Rule& rule = expected.rules.emplace_back();
     rule.masks = {L""};
     rule.signerGroups = {{L"List", {}}};
     ASSERT_EQ(state.profiles.size(), 1U);
@@ -111,7 +99,7 @@ TEST_F(LoadConfiguration, ReadsEverySettingFromItsValue) {
     registry.PutText(kProgram, L"LogPath", L"C:\\log");
     registry.PutNumber(kProgram, L"Log filesize", 5000);
     ASSERT_TRUE(store.Load());
-    AppSettings expected;
+    store::AppSettings expected;
     expected.window = {.top = 11, .bottom = 500, .left = -16, .right = 800};
     expected.signedExtension = L"e1";
     expected.detachedSignatureExtension = L"e2";
@@ -155,7 +143,7 @@ TEST_F(LoadConfiguration, ReadsEveryProfileValueIntoItsField) {
     registry.PutNumber(kProfile, L"Verify resign file", 22);
     registry.PutNumber(kProfile, L"Handler timeout", 23);
     registry.PutNumber(kProfile, L"Rename conf files", 24);
-    Profile expected;
+    store::Profile expected;
     expected.name = L"Office";
     expected.timeStampServers = {L"http://tsp", L"0"};
     expected.csProfiles = {L"Main CSP", L"Second"};
@@ -181,7 +169,7 @@ TEST_F(LoadConfiguration, ReadsEveryProfileValueIntoItsField) {
 TEST_F(LoadConfiguration, PadsTheUpdatePeriodsWithOneToTheLengthOfNotLoadCrl) {
     registry.PutTextList(kProfile, L"NotLoadCrl", {L"0", L"1", L"0"});
     registry.PutTextList(kProfile, L"CrlUpdatePeriod", {L"24"});
-    EXPECT_EQ(LoadOnlyProfile().crlUpdatePeriods, (NumberList{24, 1, 1}));
+    EXPECT_EQ(LoadOnlyProfile().crlUpdatePeriods, (store::NumberList{24, 1, 1}));
 }
 
 TEST_F(LoadConfiguration, KeepsOtherUnequalLengthsAsTheyAre) {
@@ -189,9 +177,9 @@ TEST_F(LoadConfiguration, KeepsOtherUnequalLengthsAsTheyAre) {
     registry.PutTextList(kProfile, L"NotLoadCrl", {L"0"});
     registry.PutTextList(kProfile, L"CrlUpdatePeriod", {L"1", L"2"});
     registry.PutTextList(kProfile, L"UseAIA", {L"0", L"1"});
-    const Profile& profile = LoadOnlyProfile();
+    const store::Profile& profile = LoadOnlyProfile();
     EXPECT_EQ(profile.csProfiles.size(), 3U);
-    EXPECT_EQ(profile.crlUpdatePeriods, (NumberList{1, 2}));
+    EXPECT_EQ(profile.crlUpdatePeriods, (store::NumberList{1, 2}));
     EXPECT_EQ(profile.useAuthorityAccess.size(), 2U);
     EXPECT_TRUE(profile.notUseDirectory.empty());
 }
@@ -205,7 +193,7 @@ TEST_F(LoadConfiguration, AListStoredAsANumberIsReportedAndLoadsEmpty) {
 
 TEST_F(LoadConfiguration, AListStoredAsATextLoadsAsOneElement) {
     registry.PutText(kProfile, L"ServerTSP", L"http://tsp");
-    EXPECT_EQ(LoadOnlyProfile().timeStampServers, TextList{L"http://tsp"});
+    EXPECT_EQ(LoadOnlyProfile().timeStampServers, store::TextList{L"http://tsp"});
     ExpectNoReports();
 }
 
@@ -244,7 +232,7 @@ TEST_F(LoadConfiguration, ReadsEveryRuleValueIntoItsField) {
     registry.PutText(kRule + L"\\zeta", L"S1", L"CN=D");
     registry.PutNumber(kRule + L"\\alpha", L"Signer Num", 1);
     registry.PutText(kRule + L"\\alpha", L"S0", L"CN=E");
-    Rule expected;
+    store::Rule expected;
     expected.operation = L"PACK";
     expected.inputFolder = L"t1";
     expected.outputFolder = L"t2";
@@ -278,7 +266,7 @@ TEST_F(LoadConfiguration, OrdersTheRulesByTheirNumbers) {
     for (const wchar_t* name : {L"Rule 0", L"Rule 1", L"Rule 10", L"Rule 2"}) {
         registry.PutText(kRules + L"\\" + name, L"Descryption", name);
     }
-    const Profile& profile = LoadOnlyProfile();
+    const store::Profile& profile = LoadOnlyProfile();
     ASSERT_EQ(profile.rules.size(), 4U);
     EXPECT_EQ(profile.rules[1].description, L"Rule 1");
     EXPECT_EQ(profile.rules[2].description, L"Rule 2");
@@ -288,7 +276,7 @@ TEST_F(LoadConfiguration, OrdersTheRulesByTheirNumbers) {
 TEST_F(LoadConfiguration, TwoRulesAreDeliberatelyNotReordered) {
     registry.PutText(kRules + L"\\Rule 1", L"Descryption", L"one");
     registry.PutText(kRules + L"\\Rule 0", L"Descryption", L"zero");
-    const Profile& profile = LoadOnlyProfile();
+    const store::Profile& profile = LoadOnlyProfile();
     ASSERT_EQ(profile.rules.size(), 2U);
     EXPECT_EQ(profile.rules[0].description, L"one");
     EXPECT_EQ(profile.rules[1].description, L"zero");
@@ -298,7 +286,7 @@ TEST_F(LoadConfiguration, ALastRuleThatBelongsFirstDeliberatelyComesSecond) {
     for (const wchar_t* name : {L"Rule 1", L"Rule 2", L"Rule 0"}) {
         registry.PutText(kRules + L"\\" + name, L"Descryption", name);
     }
-    const Profile& profile = LoadOnlyProfile();
+    const store::Profile& profile = LoadOnlyProfile();
     ASSERT_EQ(profile.rules.size(), 3U);
     EXPECT_EQ(profile.rules[0].description, L"Rule 1");
     EXPECT_EQ(profile.rules[1].description, L"Rule 0");
@@ -307,16 +295,16 @@ TEST_F(LoadConfiguration, ALastRuleThatBelongsFirstDeliberatelyComesSecond) {
 
 TEST_F(LoadConfiguration, ARuleKeyWithoutMaskNumAndMaskLoadsWithOneEmptyMask) {
     registry.PutNumber(kRule, L"Mask num", 0);
-    const Rule rule = LoadOnlyRule();
-    EXPECT_EQ(rule.masks, TextList{L""});
+    const store::Rule rule = LoadOnlyRule();
+    EXPECT_EQ(rule.masks, store::TextList{L""});
     EXPECT_EQ(rule.legacyMask, L"");
 }
 
 TEST_F(LoadConfiguration, TheOldMaskIsTheOnlyMaskWhereNoneAreCounted) {
     registry.PutText(kRule, L"Mask", L"*.old");
     registry.PutText(kRule, L"M0", L"*.new");
-    const Rule rule = LoadOnlyRule();
-    EXPECT_EQ(rule.masks, TextList{L"*.old"});
+    const store::Rule rule = LoadOnlyRule();
+    EXPECT_EQ(rule.masks, store::TextList{L"*.old"});
     EXPECT_EQ(rule.legacyMask, L"*.old");
 }
 
@@ -324,7 +312,7 @@ TEST_F(LoadConfiguration, ANegativeMaskNumGivesNoMasksAtAll) {
     registry.PutNumber(kRule, L"Mask num", 0xFFFFFFFF);
     registry.PutText(kRule, L"Mask", L"*.old");
     registry.PutText(kRule, L"M0", L"*.new");
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_TRUE(rule.masks.empty());
     EXPECT_EQ(rule.legacyMask, L"");
     ExpectNoReports();
@@ -337,11 +325,11 @@ TEST_F(LoadConfiguration, MissingMasksRecipientsAndSignersKeepTheirPlacesEmpty) 
     registry.PutText(kRule, L"C1", L"CN=B");
     registry.PutNumber(kRule + L"\\List", L"Signer Num", 2);
     registry.PutText(kRule + L"\\List", L"S1", L"CN=S");
-    const Rule rule = LoadOnlyRule();
-    EXPECT_EQ(rule.masks, (TextList{L"*.txt", L""}));
-    EXPECT_EQ(rule.recipients, (TextList{L"", L"CN=B", L""}));
+    const store::Rule rule = LoadOnlyRule();
+    EXPECT_EQ(rule.masks, (store::TextList{L"*.txt", L""}));
+    EXPECT_EQ(rule.recipients, (store::TextList{L"", L"CN=B", L""}));
     ASSERT_EQ(rule.signerGroups.size(), 1U);
-    EXPECT_EQ(rule.signerGroups[0].signers, (TextList{L"", L"CN=S"}));
+    EXPECT_EQ(rule.signerGroups[0].signers, (store::TextList{L"", L"CN=S"}));
     ExpectNoReports();
 }
 
@@ -356,11 +344,11 @@ TEST_F(LoadConfiguration, AMaskRecipientOrSignerThatCannotBeReadIsReportedAndKee
     registry.PutNumber(kRule + L"\\List", L"Signer Num", 2);
     registry.PutText(kRule + L"\\List", L"S0", tooLong);
     registry.PutText(kRule + L"\\List", L"S1", L"CN=S");
-    const Rule rule = LoadOnlyRule();
-    EXPECT_EQ(rule.masks, (TextList{L"", L"*.txt"}));
-    EXPECT_EQ(rule.recipients, (TextList{L"", L"CN=B"}));
+    const store::Rule rule = LoadOnlyRule();
+    EXPECT_EQ(rule.masks, (store::TextList{L"", L"*.txt"}));
+    EXPECT_EQ(rule.recipients, (store::TextList{L"", L"CN=B"}));
     ASSERT_EQ(rule.signerGroups.size(), 1U);
-    EXPECT_EQ(rule.signerGroups[0].signers, (TextList{L"", L"CN=S"}));
+    EXPECT_EQ(rule.signerGroups[0].signers, (store::TextList{L"", L"CN=S"}));
     EXPECT_EQ(store.ReportTexts(),
               (std::vector<std::wstring>{ReportText(L"Reading string value 'M0' from register", 234),
                                          ReportText(L"Reading string value 'C0' from register", 234),
@@ -372,7 +360,7 @@ TEST_F(LoadConfiguration, NegativeCountsOfRecipientsAndSignersGiveNone) {
     registry.PutText(kRule, L"C0", L"CN=A");
     registry.PutNumber(kRule + L"\\List", L"Signer Num", 0xFFFFFFFF);
     registry.PutText(kRule + L"\\List", L"S0", L"CN=S");
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_TRUE(rule.recipients.empty());
     ASSERT_EQ(rule.signerGroups.size(), 1U);
     EXPECT_TRUE(rule.signerGroups[0].signers.empty());
@@ -380,9 +368,9 @@ TEST_F(LoadConfiguration, NegativeCountsOfRecipientsAndSignersGiveNone) {
 }
 
 TEST_F(LoadConfiguration, ReadsAsManyElementsAsCountedUpToTheHighestCount) {
-    registry.PutNumber(kRule, L"Mask num", kHighestElementCount);
+    registry.PutNumber(kRule, L"Mask num", store::kHighestElementCount);
     registry.PutText(kRule, L"M0", L"*.txt");
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_EQ(rule.masks.size(), 100000U);
     EXPECT_EQ(rule.masks.front(), L"*.txt");
     ExpectNoReports();
@@ -393,8 +381,8 @@ TEST_F(LoadConfiguration, ACountBeyondBeliefIsReportedAndLosesNoTextThatStandsTh
     registry.PutText(kRule, L"M0", L"*.txt");
     registry.PutText(kRule, L"M2", L"*.doc");
     registry.PutText(kRule, L"Mask", L"not read");
-    const Rule rule = LoadOnlyRule();
-    EXPECT_EQ(rule.masks, (TextList{L"*.txt", L"", L"*.doc"}));
+    const store::Rule rule = LoadOnlyRule();
+    EXPECT_EQ(rule.masks, (store::TextList{L"*.txt", L"", L"*.doc"}));
     EXPECT_EQ(store.ReportTexts(),
               std::vector<std::wstring>{ReportText(L"Reading integer value 'Mask num' from register", 13)});
 }
@@ -420,9 +408,9 @@ TEST_F(LoadConfiguration, ARulesEmptyResignProfileTakesTheFirstRecipientWhichSta
     registry.PutNumber(kRule, L"Ext num", 2);
     registry.PutText(kRule, L"C0", L"A");
     registry.PutText(kRule, L"C1", L"B");
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_EQ(rule.resignProfile, L"A");
-    EXPECT_EQ(rule.recipients, (TextList{L"A", L"B"}));
+    EXPECT_EQ(rule.recipients, (store::TextList{L"A", L"B"}));
     EXPECT_EQ(rule.secondOutput, L"");
 }
 
@@ -430,9 +418,9 @@ TEST_F(LoadConfiguration, AMoveRulesEmptySecondOutputTakesTheFirstRecipientWhich
     registry.PutText(kRule, L"Operation", L"MOVE");
     registry.PutNumber(kRule, L"Ext num", 1);
     registry.PutText(kRule, L"C0", L"D:\\copy");
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_EQ(rule.secondOutput, L"D:\\copy");
-    EXPECT_EQ(rule.recipients, TextList{L"D:\\copy"});
+    EXPECT_EQ(rule.recipients, store::TextList{L"D:\\copy"});
     EXPECT_EQ(rule.resignProfile, L"");
 }
 
@@ -444,7 +432,7 @@ TEST_F(LoadConfiguration, AFilledFieldIsNotTakenFromTheRecipientsNorIsThatOfAnot
     EXPECT_EQ(LoadOnlyRule().resignProfile, L"own");
     registry.PutText(kRule, L"ResignProfile", L"");
     registry.PutText(kRule, L"Operation", L"ENCR");
-    const Rule rule = LoadOnlyRule();
+    const store::Rule rule = LoadOnlyRule();
     EXPECT_EQ(rule.resignProfile, L"");
     EXPECT_EQ(rule.secondOutput, L"");
 }
@@ -473,7 +461,7 @@ TEST_F(LoadConfiguration, AValueThatCannotBeReadIsReportedAndKeepsItsDefault) {
 }
 
 TEST(LoadConfigurationOfNothing, WithoutTheProvidersKeyTheProgramEnds) {
-    testing::StoreFixture empty;
+    StoreFixture empty;
     empty.registry.PutKey(kRules);
     EXPECT_FALSE(empty.Load());
     EXPECT_EQ(empty.ReportTexts(),
@@ -511,8 +499,8 @@ TEST_F(LoadConfiguration, StartsAfreshAndClearsTheDirtyFlag) {
     state.settings.logPath = L"stale";
     ASSERT_TRUE(store.Load());
     EXPECT_FALSE(state.isDirty);
-    EXPECT_EQ(state.csProfileCatalogue, TextList{L"Main CSP"});
-    EXPECT_EQ(state.profileNames, TextList{L"Office"});
+    EXPECT_EQ(state.csProfileCatalogue, store::TextList{L"Main CSP"});
+    EXPECT_EQ(state.profileNames, store::TextList{L"Office"});
     EXPECT_EQ(state.profiles.size(), 1U);
     EXPECT_EQ(state.settings.logPath, L"");
 }
@@ -529,7 +517,7 @@ TEST_F(LoadConfiguration, ChangesNothingWhereThereIsAProfile) {
     registry.PutKey(kRule + L"\\List");
     const RegistrySnapshot before = registry.Snapshot();
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(testing::Differences(before, registry.Snapshot()), "");
+    EXPECT_EQ(Differences(before, registry.Snapshot()), "");
 }
 
 TEST_F(LoadConfiguration, MakesNoMoreCallsThanTheLayoutNeeds) {
@@ -596,15 +584,15 @@ TEST_F(LoadConfiguration, ReadsInTheLaidDownOrder) {
 // A program key without a profile.
 class FirstProfile : public ::testing::Test {
   protected:
-    testing::StoreFixture store;
-    testing::MemoryRegistry& registry = store.registry;
-    ConfigurationState& state = store.state;
+    StoreFixture store;
+    MemoryRegistry& registry = store.registry;
+    store::ConfigurationState& state = store.state;
 };
 
 TEST_F(FirstProfile, IsStoredValueByValue) {
     registry.PutText(kCatalogue + L"\\{1}", L"ProfileName", L"Main CSP");
     ASSERT_TRUE(store.Load());
-    const auto one = [](const wchar_t* text) { return testing::MultiText({text}); };
+    const auto one = [](const wchar_t* text) { return MultiText({text}); };
     RegistrySnapshot expected;
     expected[L"SOFTWARE"];
     expected[L"SOFTWARE\\HOLVAN"];
@@ -615,7 +603,7 @@ TEST_F(FirstProfile, IsStoredValueByValue) {
     expected[kProgram + L"\\default"] = {
         {L"AutoUseTSP", one(L"0")},        {L"AutoVerifyTSP", one(L"0")},
         {L"NotAddCert", one(L"0")},        {L"NotCopyToLocal", one(L"0")},
-        {L"NotLoadCrl", one(L"0")},        {L"CrlUpdatePeriod", Bytes(kTypeTextList, {0, 0})},
+        {L"NotLoadCrl", one(L"0")},        {L"CrlUpdatePeriod", Bytes(store::kTypeTextList, {0, 0})},
         {L"NoTSPisError", one(L"0")},      {L"NotUseLDAP", one(L"1")},
         {L"ServerTSP", one(L"0")},         {L"UseAIA", one(L"0")},
         {L"Verify File", Number(0)},       {L"Verify x file", Number(0)},
@@ -624,7 +612,7 @@ TEST_F(FirstProfile, IsStoredValueByValue) {
         {L"ZCSProfile", one(L"Main CSP")},
     };
     expected[kProgram + L"\\default\\rules"];
-    EXPECT_EQ(testing::Differences(expected, registry.Snapshot()), "");
+    EXPECT_EQ(Differences(expected, registry.Snapshot()), "");
     EXPECT_TRUE(store.ReportTexts().empty());
 }
 
@@ -657,7 +645,7 @@ TEST_F(FirstProfile, LoadsWithTheUpdatePeriodThatIsDeliberatelyNotStored) {
     registry.PutText(kCatalogue + L"\\{2}", L"ProfileName", L"Second");
     registry.PutKey(kProgram);
     ASSERT_TRUE(store.Load());
-    Profile expected;
+    store::Profile expected;
     expected.name = L"default";
     expected.timeStampServers = {L"0"};
     expected.csProfiles = {L"Main CSP"};
@@ -670,7 +658,7 @@ TEST_F(FirstProfile, LoadsWithTheUpdatePeriodThatIsDeliberatelyNotStored) {
     expected.autoUseTimeStamp = {0};
     expected.notLoadCrl = {0};
     expected.crlUpdatePeriods = {1};
-    EXPECT_EQ(state.profileNames, TextList{L"default"});
+    EXPECT_EQ(state.profileNames, store::TextList{L"default"});
     ASSERT_EQ(state.profiles.size(), 1U);
     EXPECT_EQ(state.profiles[0], expected);
     EXPECT_FALSE(state.isDirty);
@@ -688,7 +676,7 @@ TEST_F(FirstProfile, KeepsTheSettingsThatStandInTheProgramKey) {
 TEST_F(FirstProfile, HasTheMarkerWhereTheFirstCatalogueNameIsEmpty) {
     registry.PutKey(kCatalogue + L"\\{1}");
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(registry.Find(kProgram + L"\\default", L"ZCSProfile"), testing::MultiText({L"0"}));
+    EXPECT_EQ(registry.Find(kProgram + L"\\default", L"ZCSProfile"), MultiText({L"0"}));
 }
 
 TEST_F(FirstProfile, CannotBeMadeWithoutACsProfileAndThenNothingOfItIsWritten) {
@@ -707,7 +695,7 @@ TEST_F(FirstProfile, CannotBeMadeWithoutACsProfileAndThenNothingOfItIsWritten) {
     expected[L"SOFTWARE\\HOLVAN\\tarn"];
     expected[kCatalogue];
     expected[kProgram];
-    EXPECT_EQ(testing::Differences(expected, registry.Snapshot()), "");
+    EXPECT_EQ(Differences(expected, registry.Snapshot()), "");
     EXPECT_TRUE(store.ReportTexts().empty());
 }
 
@@ -720,15 +708,15 @@ TEST_F(FirstProfile, IsNotNeededWithAnEmptyCatalogueWhereThereIsAProfile) {
 
 TEST(ShouldRestoreWindow, OnlyWithBothTopAndLeftNonZero) {
     const auto rectangle = [](std::int32_t top, std::int32_t left) {
-        return WindowRectangle{.top = top, .bottom = 500, .left = left, .right = 900};
+        return store::WindowRectangle{.top = top, .bottom = 500, .left = left, .right = 900};
     };
-    EXPECT_TRUE(ShouldRestoreWindow(rectangle(100, 50)));
-    EXPECT_TRUE(ShouldRestoreWindow(rectangle(-8, -8)));
-    EXPECT_FALSE(ShouldRestoreWindow(rectangle(100, 0)));
-    EXPECT_FALSE(ShouldRestoreWindow(rectangle(0, 100)));
-    EXPECT_FALSE(ShouldRestoreWindow(rectangle(0, 0)));
-    EXPECT_TRUE(ShouldRestoreWindow({.top = 1, .bottom = 0, .left = 1, .right = 0}));
+    EXPECT_TRUE(store::ShouldRestoreWindow(rectangle(100, 50)));
+    EXPECT_TRUE(store::ShouldRestoreWindow(rectangle(-8, -8)));
+    EXPECT_FALSE(store::ShouldRestoreWindow(rectangle(100, 0)));
+    EXPECT_FALSE(store::ShouldRestoreWindow(rectangle(0, 100)));
+    EXPECT_FALSE(store::ShouldRestoreWindow(rectangle(0, 0)));
+    EXPECT_TRUE(store::ShouldRestoreWindow({.top = 1, .bottom = 0, .left = 1, .right = 0}));
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -21,7 +21,7 @@ void* operator new[](std::size_t sizeBytes, const std::nothrow_t& /*tag*/) noexc
     }
 }
 
-namespace corvane::testing {
+namespace corvane::test {
 
 MemoryLimit::MemoryLimit(std::size_t sizeBytes) {
     limitBytes = sizeBytes;
@@ -31,4 +31,4 @@ MemoryLimit::~MemoryLimit() {
     limitBytes = SIZE_MAX;
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

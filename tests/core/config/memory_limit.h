@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// While it lives, asking for more than `sizeBytes` bytes with the allocation that does not throw fails. So a
 /// test need not fill the machine to see what happens when memory is short.
@@ -16,4 +16,4 @@ class MemoryLimit {
     MemoryLimit& operator=(MemoryLimit&&) = delete;
 };
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

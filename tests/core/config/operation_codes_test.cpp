@@ -1,10 +1,10 @@
-#include "config/operation_codes.h"
+#include "store/records.h"
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 const std::vector<std::pair<std::wstring, std::wstring>> kTable = {
@@ -35,8 +35,8 @@ const std::vector<std::pair<std::wstring, std::wstring>> kTable = {
 };
 
 TEST(OperationCodes, StandInTableOrderWithTheirNames) {
-    const TextList codes = SplitEntries(OperationCode);
-    const TextList names = SplitEntries(kOperationNames);
+    const store::TextList codes = store::SplitEntries(store::OperationCode);
+    const store::TextList names = store::SplitEntries(store::kOperationNames);
     ASSERT_EQ(codes.size(), kTable.size());
     ASSERT_EQ(names.size(), kTable.size());
     for (std::size_t index = 0; index < kTable.size(); ++index) {
@@ -47,21 +47,21 @@ TEST(OperationCodes, StandInTableOrderWithTheirNames) {
 
 TEST(OperationCodes, EveryCodeIsShownByItsName) {
     for (const auto& [code, name] : kTable) {
-        EXPECT_EQ(OperationDisplayName(code), name);
+        EXPECT_EQ(store::OperationDisplayName(code), name);
     }
 }
 
 TEST(OperationCodes, ATextThatIsNoCodeIsShownAsItIs) {
     for (const wchar_t* text : {L"", L"ENC", L"encr", L"ENCRY", L"XXXX", L"NCR\n", L"Encrypt"}) {
-        EXPECT_EQ(OperationDisplayName(text), text);
+        EXPECT_EQ(store::OperationDisplayName(text), text);
     }
 }
 
 TEST(OperationCodes, OnlyArchAndUnarHaveAnArchiveFormatThatIsNeverZero) {
     for (const auto& [code, name] : kTable) {
-        EXPECT_EQ(IsArchiveOperation(code), code == L"ARCH" || code == L"UNAR");
+        EXPECT_EQ(store::IsArchiveOperation(code), code == L"ARCH" || code == L"UNAR");
     }
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

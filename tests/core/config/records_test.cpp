@@ -1,13 +1,13 @@
-#include "config/records.h"
+#include "store/records.h"
 
 #include <gtest/gtest.h>
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 TEST(Records, FreshSettingsHoldTheDefaults) {
-    const AppSettings settings;
-    EXPECT_EQ(settings.window, (WindowRectangle{0, 0, 0, 0}));
+    const store::AppSettings settings;
+    EXPECT_EQ(settings.window, (store::WindowRectangle{0, 0, 0, 0}));
     EXPECT_EQ(settings.signedExtension, L"p7s");
     EXPECT_EQ(settings.detachedSignatureExtension, L"p7d");
     EXPECT_EQ(settings.encryptedExtension, L"p7e");
@@ -22,7 +22,7 @@ TEST(Records, FreshSettingsHoldTheDefaults) {
 }
 
 TEST(Records, AFreshProfileWaitsFifteenForItsHandler) {
-    const Profile profile;
+    const store::Profile profile;
     EXPECT_EQ(profile.handlerTimeout, 15);
     EXPECT_EQ(profile.verifyFile, 0);
     EXPECT_EQ(profile.verifyXFile, 0);
@@ -33,7 +33,7 @@ TEST(Records, AFreshProfileWaitsFifteenForItsHandler) {
 }
 
 TEST(Records, ACsProfileEntryIsTakenFromAllElevenLists) {
-    Profile profile;
+    store::Profile profile;
     profile.csProfiles = {L"first", L"second"};
     profile.timeStampServers = {L"a", L"b"};
     profile.autoUseTimeStamp = {0, 11};
@@ -45,14 +45,15 @@ TEST(Records, ACsProfileEntryIsTakenFromAllElevenLists) {
     profile.crlUpdatePeriods = {0, 17};
     profile.notUseDirectory = {0, 18};
     profile.useAuthorityAccess = {0, 19};
-    EXPECT_EQ(CsProfileAt(profile, 1), (CsProfile{L"second", L"b", 11, 12, 13, 14, 15, 16, 17, 18, 19}));
+    EXPECT_EQ(store::CsProfileAt(profile, 1),
+              (store::CsProfile{L"second", L"b", 11, 12, 13, 14, 15, 16, 17, 18, 19}));
 }
 
 TEST(Records, AListThatIsTooShortGivesTheDefaultOfItsField) {
-    Profile profile;
+    store::Profile profile;
     profile.csProfiles = {L"only", L"second"};
     profile.notUseDirectory = {0};
-    const CsProfile entry = CsProfileAt(profile, 1);
+    const store::CsProfile entry = store::CsProfileAt(profile, 1);
     EXPECT_EQ(entry.name, L"second");
     EXPECT_EQ(entry.timeStampServer, L"0");
     EXPECT_EQ(entry.crlUpdatePeriod, 1);
@@ -61,16 +62,16 @@ TEST(Records, AListThatIsTooShortGivesTheDefaultOfItsField) {
 }
 
 TEST(Records, TheCurrentProfileIsTheFirstOfItsName) {
-    ConfigurationState state;
+    store::ConfigurationState state;
     state.profiles.resize(3);
     state.profiles[0].name = L"Out";
     state.profiles[1].name = L"In";
     state.profiles[2].name = L"In";
     state.currentProfileName = L"In";
-    EXPECT_EQ(FindCurrentProfile(state), &state.profiles[1]);
+    EXPECT_EQ(store::FindCurrentProfile(state), &state.profiles[1]);
     state.currentProfileName = L"in";
-    EXPECT_EQ(FindCurrentProfile(state), nullptr) << "names are compared with their case";
+    EXPECT_EQ(store::FindCurrentProfile(state), nullptr) << "names are compared with their case";
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "config/registry_access.h"
+#include "store/registry/registry_access.h"
 
 #include <gtest/gtest.h>
 
@@ -8,19 +8,8 @@
 #include "tests/support/memory_registry.h"
 #include "tests/support/store_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::Bytes;
-using testing::Describe;
-using testing::MemoryRegistry;
-using testing::Number;
-using testing::RegistryCall;
-using testing::RegistryOperation;
-using testing::ReportText;
-using testing::StoredData;
-using testing::StoreFixture;
-using testing::Text;
 
 constexpr std::uint32_t kFlagsShown = 1;
 const std::wstring kKey = L"Software\\Test";
@@ -46,7 +35,7 @@ class RegistryAccessTest : public ::testing::Test {
 
     StoreFixture store;
     MemoryRegistry& registry = store.registry;
-    RegistryAccess& access = store.access;
+    store::RegistryAccess& access = store.access;
     toolkit::WindowHandle owner = store.owner;
 };
 
@@ -81,7 +70,7 @@ TEST_F(OpenKey, ReplacesTheCurrentKeyAndClosesItAfterwards) {
 
 TEST_F(OpenKey, ThatFailsKeepsTheCurrentKeyAndReportsNothing) {
     registry.PutText(kKey, L"Name", L"kept");
-    EXPECT_EQ(access.OpenKey(L"Software\\None"), kCodeNotFound);
+    EXPECT_EQ(access.OpenKey(L"Software\\None"), store::kCodeNotFound);
     registry.FailCall(2, 5);
     EXPECT_EQ(access.OpenKey(kKey), 5U);
     EXPECT_EQ(registry.OpenKeys(), 1U);
@@ -129,11 +118,11 @@ TEST_F(CloseKey, HandsTheCodeOnAndCountsAsClosedAllTheSame) {
 }
 
 TEST(RegistryAccess, ClosesItsKeyWhenItGoes) {
-    testing::ReporterFixture reports;
+    ReporterFixture reports;
     MemoryRegistry registry;
     registry.PutKey(kKey);
     {
-        RegistryAccess access(registry, reports.reporter);
+        store::RegistryAccess access(registry, reports.reporter);
         ASSERT_EQ(access.OpenKey(kKey), 0U);
         ASSERT_EQ(registry.OpenKeys(), 1U);
     }
@@ -178,7 +167,7 @@ TEST_F(RecurseDeleteKey, ClosesEachKeyBeforeItDeletesIt) {
 }
 
 TEST_F(RecurseDeleteKey, GivesNotFoundAsItStands) {
-    EXPECT_EQ(access.RecurseDeleteKey(L"none"), kCodeNotFound);
+    EXPECT_EQ(access.RecurseDeleteKey(L"none"), store::kCodeNotFound);
     EXPECT_EQ(Reports(), 0U);
 }
 
@@ -200,12 +189,12 @@ TEST_F(RecurseDeleteKey, StopsAtTheFirstFailureAndLeavesNoKeyOpen) {
 TEST_F(RecurseDeleteKey, StaysInTheViewOfTheCurrentKey) {
     constexpr std::uint32_t kView32 = 0x200;
     registry.PutKey(kKey + L"\\a\\b");
-    ASSERT_EQ(access.OpenKey(kKey, kReadWriteAccess | kView32), 0U);
+    ASSERT_EQ(access.OpenKey(kKey, store::kReadWriteAccess | kView32), 0U);
     registry.ForgetCalls();
     ASSERT_EQ(access.RecurseDeleteKey(L"a"), 0U);
     for (const RegistryCall& call : registry.Calls()) {
         if (call.operation == RegistryOperation::kOpen) {
-            EXPECT_EQ(call.access, kReadWriteAccess | kView32) << Describe(call);
+            EXPECT_EQ(call.access, store::kReadWriteAccess | kView32) << Describe(call);
         } else if (call.operation == RegistryOperation::kDelete) {
             EXPECT_EQ(call.access, kView32) << Describe(call);
         }
@@ -213,12 +202,12 @@ TEST_F(RecurseDeleteKey, StaysInTheViewOfTheCurrentKey) {
 }
 
 TEST_F(RecurseDeleteKey, ForgetsTheViewWithTheNextKey) {
-    ASSERT_EQ(access.OpenKey(kKey, kReadWriteAccess | 0x100U), 0U);
+    ASSERT_EQ(access.OpenKey(kKey, store::kReadWriteAccess | 0x100U), 0U);
     ASSERT_EQ(access.CreateKey(kKey + L"\\a\\b"), 0U);
     ASSERT_EQ(access.OpenKey(kKey), 0U);
     registry.ForgetCalls();
     ASSERT_EQ(access.RecurseDeleteKey(L"a"), 0U);
-    EXPECT_EQ(registry.Calls().front().access, kReadWriteAccess);
+    EXPECT_EQ(registry.Calls().front().access, store::kReadWriteAccess);
     EXPECT_EQ(registry.Calls().back().access, 0U);
 }
 
@@ -230,9 +219,9 @@ TEST_F(RecurseDeleteKey, ReadsNamesOfUpTo255Characters) {
 }
 
 TEST(RegistryAccess, OpensCreatesAndDeletesInsideItsTransaction) {
-    testing::ReporterFixture reports;
+    ReporterFixture reports;
     MemoryRegistry registry;
-    RegistryAccess access(registry, reports.reporter);
+    store::RegistryAccess access(registry, reports.reporter);
     int anything = 0;
     access.SetTransaction(&anything);
     ASSERT_EQ(access.CreateKey(kKey + L"\\a\\b"), 0U);
@@ -256,18 +245,18 @@ TEST(RegistryAccess, OpensCreatesAndDeletesInsideItsTransaction) {
 TEST_F(EnumerateSubkeys, AppendsTheNamesInTheSystemsOrder) {
     registry.PutKey(kKey + L"\\zeta");
     registry.PutKey(kKey + L"\\Alpha");
-    TextList names = {L"before"};
+    store::TextList names = {L"before"};
     EXPECT_EQ(access.EnumerateSubkeys(names), 0U);
-    EXPECT_EQ(names, (TextList{L"before", L"zeta", L"Alpha"}));
+    EXPECT_EQ(names, (store::TextList{L"before", L"zeta", L"Alpha"}));
     EXPECT_EQ(registry.Calls().size(), 3U) << "one call for each name and one for the end";
 }
 
 TEST_F(EnumerateSubkeys, HasRoomFor259Characters) {
     registry.PutKey(kKey + L"\\" + std::wstring(259, L'n'));
-    TextList names;
+    store::TextList names;
     EXPECT_EQ(access.EnumerateSubkeys(names), 0U);
     registry.PutKey(kKey + L"\\" + std::wstring(260, L'n'));
-    EXPECT_EQ(access.EnumerateSubkeys(names), kCodeMoreData);
+    EXPECT_EQ(access.EnumerateSubkeys(names), store::kCodeMoreData);
     EXPECT_EQ(Reports(), 0U);
 }
 
@@ -289,14 +278,14 @@ TEST_F(ReadInt, StoresTheDefaultOrLeavesTheFieldAndReports) {
         {"a number", Number(7), 7, 0},
         {"a negative number", Number(0xFFFFFFFF), -1, 0},
         {"nothing", std::nullopt, 99, 0},
-        {"four bytes of the binary type", Bytes(kTypeBinary, {7, 0, 0, 0}), 99, 0},
+        {"four bytes of the binary type", Bytes(store::kTypeBinary, {7, 0, 0, 0}), 99, 0},
         {"a text of four bytes", Text(L"7"), 99, 0},
         {"the empty text", Text(L""), 99, 0},
-        {"a DWORD of two bytes", Bytes(kTypeNumber, {7, 0}), 99, 0},
-        {"a DWORD of no bytes", Bytes(kTypeNumber, {}), 99, 0},
-        {"a QWORD", Bytes(testing::kTypeQuadNumber, {7, 0, 0, 0, 0, 0, 0, 0}), 55, kCodeMoreData},
-        {"a DWORD of five bytes", Bytes(kTypeNumber, {7, 0, 0, 0, 0}), 55, kCodeMoreData},
-        {"a longer text", Text(L"77"), 55, kCodeMoreData},
+        {"a DWORD of two bytes", Bytes(store::kTypeNumber, {7, 0}), 99, 0},
+        {"a DWORD of no bytes", Bytes(store::kTypeNumber, {}), 99, 0},
+        {"a QWORD", Bytes(kTypeQuadNumber, {7, 0, 0, 0, 0, 0, 0, 0}), 55, store::kCodeMoreData},
+        {"a DWORD of five bytes", Bytes(store::kTypeNumber, {7, 0, 0, 0, 0}), 55, store::kCodeMoreData},
+        {"a longer text", Text(L"77"), 55, store::kCodeMoreData},
     };
     for (const Case& item : cases) {
         registry.RemoveValue(kKey, L"Window_top");
@@ -322,7 +311,7 @@ TEST_F(ReadInt, StoresTheDefaultOrLeavesTheFieldAndReports) {
 TEST_F(ReadInt, ReportsEveryOtherCodeAndTreatsInvalidDataAsMissing) {
     std::int32_t value = 55;
     registry.PutNumber(kKey, L"Number", 1);
-    registry.FailCall(1, kCodeInvalidData);
+    registry.FailCall(1, store::kCodeInvalidData);
     EXPECT_TRUE(access.ReadInt(L"Number", value, owner, kFlagsShown, 99));
     EXPECT_EQ(value, 99);
     registry.FailCall(2, 1018);
@@ -362,18 +351,18 @@ TEST_F(ReadString, StoresTheDefaultOrLeavesTheFieldAndReports) {
     const Case cases[] = {
         {"a text", Text(L"text"), L"text", 0},
         {"the empty text", Text(L""), L"", 0},
-        {"no bytes", Bytes(kTypeText, {}), L"", 0},
+        {"no bytes", Bytes(store::kTypeText, {}), L"", 0},
         {"nothing", std::nullopt, L"default", 0},
-        {"an expandable text", Bytes(kTypeExpandableText, {'%', 0, 'a', 0, '%', 0, 0, 0}), L"%a%", 0},
+        {"an expandable text", Bytes(store::kTypeExpandableText, {'%', 0, 'a', 0, '%', 0, 0, 0}), L"%a%", 0},
         {"a number", Number(7), L"default", 0},
-        {"a list", testing::MultiText({L"a"}), L"default", 0},
-        {"an odd size", Bytes(kTypeText, {'a', 0, 0}), L"default", 0},
-        {"no terminator", Bytes(kTypeText, {'a', 0}), L"default", 0},
-        {"two terminators", Bytes(kTypeText, {'a', 0, 0, 0, 0, 0}), L"a", 0},
-        {"a NUL inside", Bytes(kTypeText, {'a', 0, 0, 0, 'b', 0, 0, 0}), L"a", 0},
+        {"a list", MultiText({L"a"}), L"default", 0},
+        {"an odd size", Bytes(store::kTypeText, {'a', 0, 0}), L"default", 0},
+        {"no terminator", Bytes(store::kTypeText, {'a', 0}), L"default", 0},
+        {"two terminators", Bytes(store::kTypeText, {'a', 0, 0, 0, 0, 0}), L"a", 0},
+        {"a NUL inside", Bytes(store::kTypeText, {'a', 0, 0, 0, 'b', 0, 0, 0}), L"a", 0},
         {"519 characters", Text(std::wstring(519, L'x')), std::wstring(519, L'x'), 0},
-        {"520 characters", Text(std::wstring(520, L'x')), L"before", kCodeMoreData},
-        {"a list of 1042 bytes", testing::MultiText({std::wstring(519, L'x')}), L"before", kCodeMoreData},
+        {"520 characters", Text(std::wstring(520, L'x')), L"before", store::kCodeMoreData},
+        {"a list of 1042 bytes", MultiText({std::wstring(519, L'x')}), L"before", store::kCodeMoreData},
     };
     for (const Case& item : cases) {
         registry.RemoveValue(kKey, L"LogPath");
@@ -397,7 +386,7 @@ TEST_F(ReadString, StoresTheDefaultOrLeavesTheFieldAndReports) {
 
 TEST_F(ReadString, ReportsEveryOtherCodeAndTreatsInvalidDataAsMissing) {
     std::wstring value = L"before";
-    registry.FailCall(1, kCodeInvalidData);
+    registry.FailCall(1, store::kCodeInvalidData);
     EXPECT_TRUE(access.ReadString(L"Name", value, owner, kFlagsShown, L"default"));
     EXPECT_EQ(value, L"default");
     registry.FailCall(2, 87);
@@ -408,14 +397,14 @@ TEST_F(ReadString, ReportsEveryOtherCodeAndTreatsInvalidDataAsMissing) {
 
 TEST_F(ReadStringList, AsksForTheSizeAndThenForTheData) {
     registry.PutTextList(kKey, L"List", {L"a", L"b"});
-    TextList list = {L"before"};
+    store::TextList list = {L"before"};
     ASSERT_TRUE(access.ReadStringList(L"List", list, owner));
-    EXPECT_EQ(list, (TextList{L"a", L"b"}));
+    EXPECT_EQ(list, (store::TextList{L"a", L"b"}));
     EXPECT_EQ(Operations(), (std::vector{RegistryOperation::kQuerySize, RegistryOperation::kQuery}));
 }
 
 TEST_F(ReadStringList, IsEmptyWhereTheValueIsMissing) {
-    TextList list = {L"before"};
+    store::TextList list = {L"before"};
     EXPECT_TRUE(access.ReadStringList(L"List", list, owner));
     EXPECT_TRUE(list.empty());
     EXPECT_EQ(Reports(), 0U);
@@ -424,9 +413,9 @@ TEST_F(ReadStringList, IsEmptyWhereTheValueIsMissing) {
 
 TEST_F(ReadStringArray, AppendsToWhatIsThere) {
     registry.PutTextList(kKey, L"List", {L"a", L"b"});
-    TextList list = {L"before"};
+    store::TextList list = {L"before"};
     ASSERT_TRUE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(list, (TextList{L"before", L"a", L"b"}));
+    EXPECT_EQ(list, (store::TextList{L"before", L"a", L"b"}));
     ASSERT_TRUE(access.ReadStringArray(L"Missing", list, owner));
     EXPECT_EQ(list.size(), 3U);
 }
@@ -435,32 +424,32 @@ TEST_F(ReadStringArray, ReadsEveryShapeOrReportsInvalidData) {
     struct Case {
         const char* what;
         StoredData stored;
-        TextList list;
+        store::TextList list;
         bool result;
     };
     const Case cases[] = {
-        {"an empty element ends the list", testing::MultiText({L"A", L"", L"B"}), {L"A"}, true},
-        {"one NUL", Bytes(kTypeTextList, {0, 0}), {}, true},
+        {"an empty element ends the list", MultiText({L"A", L"", L"B"}), {L"A"}, true},
+        {"one NUL", Bytes(store::kTypeTextList, {0, 0}), {}, true},
         {"a text", Text(L"one"), {L"one"}, true},
-        {"an expandable text", Bytes(kTypeExpandableText, {'%', 0, 0, 0}), {L"%"}, true},
-        {"a list of no bytes", Bytes(kTypeTextList, {}), {}, false},
-        {"a text of no bytes", Bytes(kTypeText, {}), {}, false},
+        {"an expandable text", Bytes(store::kTypeExpandableText, {'%', 0, 0, 0}), {L"%"}, true},
+        {"a list of no bytes", Bytes(store::kTypeTextList, {}), {}, false},
+        {"a text of no bytes", Bytes(store::kTypeText, {}), {}, false},
         {"a number", Number(1), {}, false},
-        {"a list of one terminator", Bytes(kTypeTextList, {'a', 0, 0, 0}), {}, false},
-        {"a list of odd size", Bytes(kTypeTextList, {'a', 0, 0, 0, 0, 0, 0}), {}, false},
-        {"binary", Bytes(kTypeBinary, {0, 0, 0, 0}), {}, false},
+        {"a list of one terminator", Bytes(store::kTypeTextList, {'a', 0, 0, 0}), {}, false},
+        {"a list of odd size", Bytes(store::kTypeTextList, {'a', 0, 0, 0, 0, 0, 0}), {}, false},
+        {"binary", Bytes(store::kTypeBinary, {0, 0, 0, 0}), {}, false},
     };
     for (const Case& item : cases) {
         registry.Put(kKey, L"ExtExt", item.stored);
         store.reports.presenter.Clear();
-        TextList list;
+        store::TextList list;
         EXPECT_EQ(access.ReadStringArray(L"ExtExt", list, owner), item.result) << item.what;
         EXPECT_EQ(list, item.list) << item.what;
         if (item.result) {
             EXPECT_EQ(Reports(), 0U) << item.what;
         } else {
-            EXPECT_EQ(OnlyReport(),
-                      ReportText(L"Reading multistring value 'ExtExt' from register", kCodeInvalidData))
+            EXPECT_EQ(OnlyReport(), ReportText(L"Reading multistring value 'ExtExt' from register",
+                                               store::kCodeInvalidData))
                 << item.what;
         }
     }
@@ -469,20 +458,21 @@ TEST_F(ReadStringArray, ReadsEveryShapeOrReportsInvalidData) {
 TEST_F(ReadStringArray, HasNoLimitOfLength) {
     const std::wstring text(100000, L'x');
     registry.PutTextList(kKey, L"List", {text, text});
-    TextList list;
+    store::TextList list;
     ASSERT_TRUE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(list, (TextList{text, text}));
+    EXPECT_EQ(list, (store::TextList{text, text}));
 }
 
 TEST_F(ReadStringArray, InvalidDataIsMissingForTheSizeButAFailureForTheData) {
     registry.PutTextList(kKey, L"List", {L"a"});
-    TextList list;
-    registry.FailCall(1, kCodeInvalidData);
+    store::TextList list;
+    registry.FailCall(1, store::kCodeInvalidData);
     EXPECT_TRUE(access.ReadStringArray(L"List", list, owner));
     EXPECT_EQ(Reports(), 0U);
-    registry.FailCall(3, kCodeInvalidData);
+    registry.FailCall(3, store::kCodeInvalidData);
     EXPECT_FALSE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(OnlyReport(), ReportText(L"Reading multistring value 'List' from register", kCodeInvalidData));
+    EXPECT_EQ(OnlyReport(),
+              ReportText(L"Reading multistring value 'List' from register", store::kCodeInvalidData));
     EXPECT_TRUE(list.empty());
 }
 
@@ -491,7 +481,7 @@ TEST_F(ReadStringArray, ReportsAnyOtherCodeOfEitherCall) {
     for (const std::size_t failing : {std::size_t{1}, std::size_t{3}}) {
         registry.FailCall(failing, 5);
         store.reports.presenter.Clear();
-        TextList list;
+        store::TextList list;
         EXPECT_FALSE(access.ReadStringArray(L"List", list, owner));
         EXPECT_EQ(OnlyReport(), ReportText(L"Reading multistring value 'List' from register", 5));
     }
@@ -500,42 +490,44 @@ TEST_F(ReadStringArray, ReportsAnyOtherCodeOfEitherCall) {
 TEST_F(ReadStringArray, AValueThatVanishesBeforeItIsReadIsAFailure) {
     registry.PutTextList(kKey, L"List", {L"a"});
     registry.ChangeAfterSizeOf(L"List", [this] { registry.RemoveValue(kKey, L"List"); });
-    TextList list;
+    store::TextList list;
     EXPECT_FALSE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(OnlyReport(), ReportText(L"Reading multistring value 'List' from register", kCodeNotFound));
+    EXPECT_EQ(OnlyReport(),
+              ReportText(L"Reading multistring value 'List' from register", store::kCodeNotFound));
 }
 
 TEST_F(ReadStringArray, AValueThatGrowsALittleBeforeItIsReadIsReadWhole) {
     registry.PutTextList(kKey, L"List", {L"abc"});
     registry.ChangeAfterSizeOf(L"List", [this] { registry.PutTextList(kKey, L"List", {L"abc", L"def"}); });
-    TextList list;
+    store::TextList list;
     ASSERT_TRUE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(list, (TextList{L"abc", L"def"}));
+    EXPECT_EQ(list, (store::TextList{L"abc", L"def"}));
 }
 
 TEST_F(ReadStringArray, AValueThatOutgrowsItsBufferIsAFailureAndNothingMore) {
     registry.PutTextList(kKey, L"List", {L"a"});
     registry.ChangeAfterSizeOf(L"List",
                                [this] { registry.PutTextList(kKey, L"List", {std::wstring(500, L'x')}); });
-    TextList list = {L"before"};
+    store::TextList list = {L"before"};
     EXPECT_FALSE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(OnlyReport(), ReportText(L"Reading multistring value 'List' from register", kCodeMoreData));
-    EXPECT_EQ(list, TextList{L"before"});
+    EXPECT_EQ(OnlyReport(),
+              ReportText(L"Reading multistring value 'List' from register", store::kCodeMoreData));
+    EXPECT_EQ(list, store::TextList{L"before"});
 }
 
 TEST_F(ReadStringArray, AValueThatShrinksBeforeItIsReadIsReadAsItThenIs) {
     registry.PutTextList(kKey, L"List", {std::wstring(500, L'x')});
     registry.ChangeAfterSizeOf(L"List", [this] { registry.PutTextList(kKey, L"List", {L"a"}); });
-    TextList list;
+    store::TextList list;
     ASSERT_TRUE(access.ReadStringArray(L"List", list, owner));
-    EXPECT_EQ(list, TextList{L"a"});
+    EXPECT_EQ(list, store::TextList{L"a"});
 }
 
 TEST_F(ReadStringArray, WithoutMemoryReportsTheAllocation) {
     registry.PutTextList(kKey, L"List", {L"a"});
     registry.PretendSize(L"List", 0xFFFFFFFF);
-    const testing::MemoryLimit limit(1000000);
-    TextList list;
+    const MemoryLimit limit(1000000);
+    store::TextList list;
     EXPECT_FALSE(access.ReadStringArray(L"List", list, owner));
     EXPECT_EQ(OnlyReport(), ReportText(L"Memory allocation", 8));
     EXPECT_EQ(Operations(), std::vector{RegistryOperation::kQuerySize});
@@ -544,39 +536,40 @@ TEST_F(ReadStringArray, WithoutMemoryReportsTheAllocation) {
 TEST_F(ReadIntList, ConvertsEachElementAsDecimalText) {
     registry.PutTextList(kKey, L"List",
                          {L"1", L" -2", L"+3x", L"x", L"99999999999", L"\t4", L"0x10", L"-2147483648"});
-    NumberList list = {77};
+    store::NumberList list = {77};
     ASSERT_TRUE(access.ReadIntList(L"List", list, owner));
-    EXPECT_EQ(list, (NumberList{77, 1, -2, 3, 0, 2147483647, 4, 0, -2147483647 - 1}));
+    EXPECT_EQ(list, (store::NumberList{77, 1, -2, 3, 0, 2147483647, 4, 0, -2147483647 - 1}));
 }
 
 TEST_F(ReadIntList, AppendsNothingWhereTheValueIsMissingOrWrong) {
-    NumberList list = {77};
+    store::NumberList list = {77};
     EXPECT_TRUE(access.ReadIntList(L"List", list, owner));
     registry.PutNumber(kKey, L"List", 1);
     EXPECT_FALSE(access.ReadIntList(L"List", list, owner));
-    EXPECT_EQ(list, NumberList{77});
-    EXPECT_EQ(OnlyReport(), ReportText(L"Reading multistring value 'List' from register", kCodeInvalidData));
+    EXPECT_EQ(list, store::NumberList{77});
+    EXPECT_EQ(OnlyReport(),
+              ReportText(L"Reading multistring value 'List' from register", store::kCodeInvalidData));
 }
 
 TEST_F(ReadIntList, ATextIsOneNumber) {
     registry.PutText(kKey, L"List", L"12");
-    NumberList list;
+    store::NumberList list;
     ASSERT_TRUE(access.ReadIntList(L"List", list, owner));
-    EXPECT_EQ(list, NumberList{12});
+    EXPECT_EQ(list, store::NumberList{12});
 }
 
 TEST_F(WriteInt, StoresADwordOfFourBytes) {
     ASSERT_TRUE(access.WriteInt(L"Number", -2, owner, kFlagsShown));
-    EXPECT_EQ(registry.Find(kKey, L"Number"), Bytes(kTypeNumber, {0xFE, 0xFF, 0xFF, 0xFF}));
+    EXPECT_EQ(registry.Find(kKey, L"Number"), Bytes(store::kTypeNumber, {0xFE, 0xFF, 0xFF, 0xFF}));
     ASSERT_TRUE(access.WriteInt(L"Number", 0x12345678, owner, kFlagsShown));
-    EXPECT_EQ(registry.Find(kKey, L"Number"), Bytes(kTypeNumber, {0x78, 0x56, 0x34, 0x12}));
+    EXPECT_EQ(registry.Find(kKey, L"Number"), Bytes(store::kTypeNumber, {0x78, 0x56, 0x34, 0x12}));
 }
 
 TEST_F(WriteString, StoresTheTextWithItsNul) {
     ASSERT_TRUE(access.WriteString(L"Text", L"a\x0442", owner, kFlagsShown));
-    EXPECT_EQ(registry.Find(kKey, L"Text"), Bytes(kTypeText, {'a', 0, 0x42, 0x04, 0, 0}));
+    EXPECT_EQ(registry.Find(kKey, L"Text"), Bytes(store::kTypeText, {'a', 0, 0x42, 0x04, 0, 0}));
     ASSERT_TRUE(access.WriteString(L"Text", L"", owner, kFlagsShown));
-    EXPECT_EQ(registry.Find(kKey, L"Text"), Bytes(kTypeText, {0, 0}));
+    EXPECT_EQ(registry.Find(kKey, L"Text"), Bytes(store::kTypeText, {0, 0}));
 }
 
 TEST_F(WriteString, StoresMoreThanCanBeReadBack) {
@@ -586,32 +579,32 @@ TEST_F(WriteString, StoresMoreThanCanBeReadBack) {
 }
 
 TEST_F(WriteIntList, StoresEachNumberInDecimal) {
-    const NumberList list = {0, -5, 2147483647, -2147483647 - 1};
+    const store::NumberList list = {0, -5, 2147483647, -2147483647 - 1};
     ASSERT_TRUE(access.WriteIntList(L"List", list, owner));
-    EXPECT_EQ(registry.Find(kKey, L"List"), testing::MultiText({L"0", L"-5", L"2147483647", L"-2147483648"}));
+    EXPECT_EQ(registry.Find(kKey, L"List"), MultiText({L"0", L"-5", L"2147483647", L"-2147483648"}));
 }
 
 TEST_F(WriteIntList, AnEmptyListIsOneNulAndReadsBackEmpty) {
     ASSERT_TRUE(access.WriteIntList(L"List", {}, owner));
-    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(kTypeTextList, {0, 0}));
-    NumberList list;
+    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(store::kTypeTextList, {0, 0}));
+    store::NumberList list;
     EXPECT_TRUE(access.ReadIntList(L"List", list, owner));
     EXPECT_TRUE(list.empty());
     EXPECT_EQ(Reports(), 0U);
 }
 
 TEST_F(WriteStringList, StoresAnEmptyElementAsZeroAndLeavesTheCallersList) {
-    const TextList list = {L"", L"x"};
+    const store::TextList list = {L"", L"x"};
     ASSERT_TRUE(access.WriteStringList(L"List", list, owner));
-    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(kTypeTextList, {'0', 0, 0, 0, 'x', 0, 0, 0, 0, 0}));
-    EXPECT_EQ(list, (TextList{L"", L"x"}));
+    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(store::kTypeTextList, {'0', 0, 0, 0, 'x', 0, 0, 0, 0, 0}));
+    EXPECT_EQ(list, (store::TextList{L"", L"x"}));
     ASSERT_TRUE(access.WriteStringList(L"List", {}, owner));
-    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(kTypeTextList, {0, 0}));
+    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(store::kTypeTextList, {0, 0}));
 }
 
 TEST_F(WriteStringArray, StoresTheElementsAsTheyAre) {
     ASSERT_TRUE(access.WriteStringArray(L"List", {L"", L"x"}, owner));
-    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(kTypeTextList, {0, 0, 'x', 0, 0, 0, 0, 0}));
+    EXPECT_EQ(registry.Find(kKey, L"List"), Bytes(store::kTypeTextList, {0, 0, 'x', 0, 0, 0, 0, 0}));
 }
 
 TEST_F(WriteInt, EveryWriterReportsItsFailureByValueName) {
@@ -633,8 +626,8 @@ TEST_F(WriteInt, EveryWriterReportsItsFailureByValueName) {
 }
 
 TEST_F(WriteStringList, WithoutMemoryReportsTheAllocationAndWritesNothing) {
-    const TextList list = {std::wstring(1000, L'x')};
-    const testing::MemoryLimit limit(1000);
+    const store::TextList list = {std::wstring(1000, L'x')};
+    const MemoryLimit limit(1000);
     EXPECT_FALSE(access.WriteStringList(L"List", list, owner));
     EXPECT_FALSE(access.WriteString(L"Text", list[0], owner, kFlagsShown));
     EXPECT_EQ(store.ReportTexts(), (std::vector<std::wstring>{ReportText(L"Memory allocation", 8),
@@ -643,4 +636,4 @@ TEST_F(WriteStringList, WithoutMemoryReportsTheAllocationAndWritesNothing) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

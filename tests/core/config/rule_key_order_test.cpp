@@ -1,4 +1,4 @@
-#include "config/rule_key_order.h"
+#include "store/registry/load_configuration.h"
 
 #include <gtest/gtest.h>
 
@@ -6,13 +6,13 @@
 #include <utility>
 
 #include "tests/support/registry_snapshot.h"
-#include "toolkit/format_text.h"
+#include "toolkit/text/format_text.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-TextList Ordered(TextList names) {
-    OrderRuleKeys(names);
+store::TextList Ordered(store::TextList names) {
+    store::OrderRuleKeys(names);
     return names;
 }
 
@@ -27,7 +27,7 @@ std::int32_t LiteralNumber(const std::wstring& name) {
 }
 
 // The order, spelled out: n - 2 passes of adjacent exchanges, each from the first pair to the last.
-void LiteralPasses(TextList& names) {
+void LiteralPasses(store::TextList& names) {
     for (std::size_t pass = 0; pass + 2 < names.size(); ++pass) {
         for (std::size_t left = 0; left + 1 < names.size(); ++left) {
             if (LiteralNumber(names[left]) > LiteralNumber(names[left + 1])) {
@@ -39,53 +39,53 @@ void LiteralPasses(TextList& names) {
 
 TEST(OrderRuleKeys, IsByNumberNotByText) {
     EXPECT_EQ(Ordered({L"Rule 0", L"Rule 1", L"Rule 10", L"Rule 11", L"Rule 2"}),
-              (TextList{L"Rule 0", L"Rule 1", L"Rule 2", L"Rule 10", L"Rule 11"}));
+              (store::TextList{L"Rule 0", L"Rule 1", L"Rule 2", L"Rule 10", L"Rule 11"}));
 }
 
 TEST(OrderRuleKeys, FewerThanThreeNamesStayAsTheyAre) {
-    EXPECT_EQ(Ordered({}), TextList{});
-    EXPECT_EQ(Ordered({L"Rule 1"}), TextList{L"Rule 1"});
-    EXPECT_EQ(Ordered({L"Rule 1", L"Rule 0"}), (TextList{L"Rule 1", L"Rule 0"}));
+    EXPECT_EQ(Ordered({}), store::TextList{});
+    EXPECT_EQ(Ordered({L"Rule 1"}), store::TextList{L"Rule 1"});
+    EXPECT_EQ(Ordered({L"Rule 1", L"Rule 0"}), (store::TextList{L"Rule 1", L"Rule 0"}));
 }
 
 TEST(OrderRuleKeys, ALastNameSmallerThanAllOthersDeliberatelyComesSecond) {
     EXPECT_EQ(Ordered({L"Rule 3", L"Rule 1", L"Rule 2", L"Rule 0"}),
-              (TextList{L"Rule 1", L"Rule 0", L"Rule 2", L"Rule 3"}));
-    EXPECT_EQ(Ordered({L"Rule 5", L"Rule 5", L"Rule 4"}), (TextList{L"Rule 5", L"Rule 4", L"Rule 5"}));
+              (store::TextList{L"Rule 1", L"Rule 0", L"Rule 2", L"Rule 3"}));
+    EXPECT_EQ(Ordered({L"Rule 5", L"Rule 5", L"Rule 4"}), (store::TextList{L"Rule 5", L"Rule 4", L"Rule 5"}));
 }
 
 TEST(OrderRuleKeys, ALastNameThatSharesTheSmallestNumberComesBehindTheOther) {
-    EXPECT_EQ(Ordered({L"b 7", L"first 0", L"last 0"}), (TextList{L"first 0", L"last 0", L"b 7"}));
+    EXPECT_EQ(Ordered({L"b 7", L"first 0", L"last 0"}), (store::TextList{L"first 0", L"last 0", L"b 7"}));
 }
 
 TEST(OrderRuleKeys, NamesOfEqualNumbersKeepTheirOrder) {
     EXPECT_EQ(Ordered({L"x 2", L"b 1", L"a 1", L"c 1", L"y 2"}),
-              (TextList{L"b 1", L"a 1", L"c 1", L"x 2", L"y 2"}));
+              (store::TextList{L"b 1", L"a 1", L"c 1", L"x 2", L"y 2"}));
 }
 
 TEST(OrderRuleKeys, TheNumberStandsBehindTheLastBlank) {
     EXPECT_EQ(Ordered({L"Rule 9 1", L"Rule 1 9", L"Rule 5"}),
-              (TextList{L"Rule 9 1", L"Rule 5", L"Rule 1 9"}));
+              (store::TextList{L"Rule 9 1", L"Rule 5", L"Rule 1 9"}));
 }
 
 TEST(OrderRuleKeys, WithoutABlankTheWholeTextIsTheNumber) {
-    EXPECT_EQ(Ordered({L"30", L"Rule 20", L"10"}), (TextList{L"Rule 20", L"10", L"30"}));
-    EXPECT_EQ(Ordered({L"30", L"10", L"Rule 20"}), (TextList{L"10", L"Rule 20", L"30"}));
+    EXPECT_EQ(Ordered({L"30", L"Rule 20", L"10"}), (store::TextList{L"Rule 20", L"10", L"30"}));
+    EXPECT_EQ(Ordered({L"30", L"10", L"Rule 20"}), (store::TextList{L"10", L"Rule 20", L"30"}));
 }
 
 TEST(OrderRuleKeys, WithoutANumberItIsZero) {
     EXPECT_EQ(Ordered({L"Rule 1", L"Rule ", L"Rule x", L"Rule 2", L"copy"}),
-              (TextList{L"Rule ", L"Rule x", L"copy", L"Rule 1", L"Rule 2"}));
+              (store::TextList{L"Rule ", L"Rule x", L"copy", L"Rule 1", L"Rule 2"}));
 }
 
 TEST(OrderRuleKeys, ConversionStopsAtTheFirstNonDigitAndKeepsTheSign) {
     EXPECT_EQ(Ordered({L"Rule 3x", L"Rule -4", L"Rule +1", L"Rule 2"}),
-              (TextList{L"Rule -4", L"Rule +1", L"Rule 2", L"Rule 3x"}));
+              (store::TextList{L"Rule -4", L"Rule +1", L"Rule 2", L"Rule 3x"}));
 }
 
 TEST(OrderRuleKeys, NumbersAtBothEndsOfTheRangeDoNotOverflow) {
     EXPECT_EQ(Ordered({L"a 2147483647", L"b -2147483648", L"c 0", L"d 99999999999"}),
-              (TextList{L"b -2147483648", L"c 0", L"a 2147483647", L"d 99999999999"}));
+              (store::TextList{L"b -2147483648", L"c 0", L"a 2147483647", L"d 99999999999"}));
 }
 
 TEST(OrderRuleKeys, IsThatOfTheLiteralPassesForRandomNames) {
@@ -95,17 +95,17 @@ TEST(OrderRuleKeys, IsThatOfTheLiteralPassesForRandomNames) {
         const std::uint32_t range = 1 + random() % 14;
         // Numbers that lie close together, and numbers that lie far apart.
         const int distance = round % 2 == 0 ? 1 : 1000003;
-        TextList names;
+        store::TextList names;
         for (std::size_t index = 0; index < count; ++index) {
             // The text in front tells names of equal numbers apart.
             names.push_back(std::to_wstring(index) + L" " +
                             std::to_wstring(distance * (static_cast<int>(random() % range) - 2)));
         }
-        TextList expected = names;
+        store::TextList expected = names;
         LiteralPasses(expected);
         ASSERT_EQ(Ordered(names), expected) << "round " << round;
     }
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "config/save_configuration.h"
+#include "store/registry/save_configuration.h"
 
 #include <gtest/gtest.h>
 
@@ -8,23 +8,11 @@
 #include "tests/support/memory_registry.h"
 #include "tests/support/store_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-using testing::Bytes;
-using testing::kCatalogue;
-using testing::kProfile;
-using testing::kProgram;
-using testing::kRules;
-using testing::Number;
-using testing::RegistryCall;
-using testing::RegistryOperation;
-using testing::RegistrySnapshot;
-using testing::ReportText;
-using testing::Text;
-
-Rule RuleOf(const wchar_t* operation) {
-    Rule rule;
+store::Rule RuleOf(const wchar_t* operation) {
+    store::Rule rule;
     rule.operation = operation;
     return rule;
 }
@@ -38,9 +26,9 @@ class SaveConfiguration : public ::testing::Test {
         state.isDirty = true;
     }
 
-    Profile& AddProfile(const wchar_t* name) {
+    store::Profile& AddProfile(const wchar_t* name) {
         state.profileNames.emplace_back(name);
-        Profile& profile = state.profiles.emplace_back();
+        store::Profile& profile = state.profiles.emplace_back();
         profile.name = name;
         return profile;
     }
@@ -55,9 +43,9 @@ class SaveConfiguration : public ::testing::Test {
 
     [[nodiscard]] std::vector<std::wstring> Reports() const { return store.ReportTexts(); }
 
-    testing::StoreFixture store;
-    testing::MemoryRegistry& registry = store.registry;
-    ConfigurationState& state = store.state;
+    StoreFixture store;
+    MemoryRegistry& registry = store.registry;
+    store::ConfigurationState& state = store.state;
 };
 
 TEST_F(SaveConfiguration, StoresEveryValueUnderItsNameTypeAndData) {
@@ -73,7 +61,7 @@ TEST_F(SaveConfiguration, StoresEveryValueUnderItsNameTypeAndData) {
     state.settings.additionalExtensions = {L"doc", L"pdf"};
     state.settings.logPath = L"C:\\log";
     state.settings.logFileSize = 5000;
-    Profile& profile = state.profiles[0];
+    store::Profile& profile = state.profiles[0];
     profile.timeStampServers = {L"http://tsp", L""};
     profile.csProfiles = {L"Main CSP", L"Second"};
     profile.notUseDirectory = {1, 2};
@@ -91,7 +79,7 @@ TEST_F(SaveConfiguration, StoresEveryValueUnderItsNameTypeAndData) {
     profile.verifyResignFile = 22;
     profile.handlerTimeout = 23;
     profile.renameConfFiles = -24;
-    Rule& rule = profile.rules.emplace_back();
+    store::Rule& rule = profile.rules.emplace_back();
     rule.operation = L"PACK";
     rule.inputFolder = L"t1";
     rule.outputFolder = L"t2";
@@ -139,11 +127,10 @@ TEST_F(SaveConfiguration, StoresEveryValueUnderItsNameTypeAndData) {
         {L"GZIPArchiveExt", Text(L"e8")},
         {L"LogPath", Text(L"C:\\log")},
         {L"Log filesize", Number(5000)},
-        {L"ExtExt", Bytes(kTypeTextList, {'d', 0, 'o', 0, 'c', 0, 0, 0, 'p', 0, 'd', 0, 'f', 0, 0, 0, 0, 0})},
+        {L"ExtExt",
+         Bytes(store::kTypeTextList, {'d', 0, 'o', 0, 'c', 0, 0, 0, 'p', 0, 'd', 0, 'f', 0, 0, 0, 0, 0})},
     };
-    const auto two = [](const wchar_t* first, const wchar_t* second) {
-        return testing::MultiText({first, second});
-    };
+    const auto two = [](const wchar_t* first, const wchar_t* second) { return MultiText({first, second}); };
     expected[kProfile] = {
         {L"ServerTSP", two(L"http://tsp", L"0")},
         {L"ZCSProfile", two(L"Main CSP", L"Second")},
@@ -197,13 +184,13 @@ TEST_F(SaveConfiguration, StoresEveryValueUnderItsNameTypeAndData) {
     expected[kRules + L"\\Rule 0\\zeta"] = {
         {L"Signer Num", Number(2)}, {L"S0", Text(L"CN=C")}, {L"S1", Text(L"CN=D")}};
     expected[kRules + L"\\Rule 0\\alpha"] = {{L"Signer Num", Number(0)}};
-    EXPECT_EQ(testing::Differences(expected, registry.Snapshot()), "");
+    EXPECT_EQ(Differences(expected, registry.Snapshot()), "");
     EXPECT_TRUE(Reports().empty());
     EXPECT_FALSE(state.isDirty);
 }
 
 TEST_F(SaveConfiguration, WritesInTheLaidDownOrder) {
-    Rule rule = RuleOf(L"ENCR");
+    store::Rule rule = RuleOf(L"ENCR");
     rule.masks = {L"*.a"};
     rule.recipients = {L"CN=A"};
     rule.signerGroups = {{L"List", {L"CN=S"}}};
@@ -298,14 +285,14 @@ TEST_F(SaveConfiguration, DeletesTheKeyOfADeletedProfileWithItsRulesAndSignerLis
     registry.PutText(kProgram + L"\\Gone\\rules\\Rule 0\\List", L"S0", L"CN=S");
     registry.PutKey(kProfile);
     store.Save();
-    EXPECT_EQ(registry.SubkeyNames(kProgram), TextList{L"Office"});
+    EXPECT_EQ(registry.SubkeyNames(kProgram), store::TextList{L"Office"});
     EXPECT_TRUE(Reports().empty());
 }
 
 TEST_F(SaveConfiguration, ComparesProfileNamesWithTheirCase) {
     registry.PutText(kProgram + L"\\OFFICE", L"Stale", L"of another profile");
     store.Save();
-    EXPECT_EQ(registry.SubkeyNames(kProgram), TextList{L"Office"});
+    EXPECT_EQ(registry.SubkeyNames(kProgram), store::TextList{L"Office"});
     EXPECT_FALSE(registry.Find(kProfile, L"Stale").has_value());
     EXPECT_FALSE(state.isDirty);
 }
@@ -325,7 +312,7 @@ TEST_F(SaveConfiguration, WritesTheRulesAfresh) {
     registry.PutText(kRules + L"\\Rule 7\\List", L"S0", L"CN=S");
     state.profiles[0].rules = {RuleOf(L"ENCR")};
     store.Save();
-    EXPECT_EQ(registry.SubkeyNames(kRules), TextList{L"Rule 0"});
+    EXPECT_EQ(registry.SubkeyNames(kRules), store::TextList{L"Rule 0"});
     EXPECT_FALSE(registry.Find(kRules + L"\\Rule 0", L"Mask").has_value());
 }
 
@@ -333,7 +320,7 @@ TEST_F(SaveConfiguration, SkipsARuleWithoutOperationAndItsNumber) {
     state.profiles[0].rules = {RuleOf(L"ENCR"), RuleOf(L""), RuleOf(L"DECR")};
     registry.PutKey(kCatalogue);
     store.Save();
-    EXPECT_EQ(registry.SubkeyNames(kRules), (TextList{L"Rule 0", L"Rule 2"}));
+    EXPECT_EQ(registry.SubkeyNames(kRules), (store::TextList{L"Rule 0", L"Rule 2"}));
     EXPECT_EQ(state.profiles[0].rules.size(), 3U);
     ASSERT_TRUE(store.Load());
     ASSERT_EQ(state.profiles[0].rules.size(), 2U);
@@ -348,7 +335,7 @@ TEST_F(SaveConfiguration, ARuleWithoutMasksComesBackWithOneEmptyMask) {
     EXPECT_EQ(registry.Find(kRules + L"\\Rule 0", L"Mask num"), Number(0));
     EXPECT_FALSE(registry.Find(kRules + L"\\Rule 0", L"M0").has_value());
     ASSERT_TRUE(store.Load());
-    EXPECT_EQ(state.profiles[0].rules[0].masks, TextList{L""});
+    EXPECT_EQ(state.profiles[0].rules[0].masks, store::TextList{L""});
     store.Save();
     EXPECT_EQ(registry.Find(kRules + L"\\Rule 0", L"Mask num"), Number(1));
     EXPECT_EQ(registry.Find(kRules + L"\\Rule 0", L"M0"), Text(L""));
@@ -359,15 +346,15 @@ TEST_F(SaveConfiguration, StoresAnEmptyTimeStampServerAsZero) {
     state.profiles[0].timeStampServers = {L""};
     state.profiles[0].csProfiles = {L"", L"Second"};
     store.Save();
-    EXPECT_EQ(registry.Find(kProfile, L"ServerTSP"), testing::MultiText({L"0"}));
-    EXPECT_EQ(registry.Find(kProfile, L"ZCSProfile"), testing::MultiText({L"0", L"Second"}));
-    EXPECT_EQ(state.profiles[0].timeStampServers, TextList{L""}) << "in memory it stays empty";
+    EXPECT_EQ(registry.Find(kProfile, L"ServerTSP"), MultiText({L"0"}));
+    EXPECT_EQ(registry.Find(kProfile, L"ZCSProfile"), MultiText({L"0", L"Second"}));
+    EXPECT_EQ(state.profiles[0].timeStampServers, store::TextList{L""}) << "in memory it stays empty";
 }
 
 TEST_F(SaveConfiguration, StoresTheAdditionalExtensionsAsTheyAre) {
     state.settings.additionalExtensions = {L"doc", L"", L"pdf"};
     store.Save();
-    EXPECT_EQ(registry.Find(kProgram, L"ExtExt"), testing::MultiText({L"doc", L"", L"pdf"}));
+    EXPECT_EQ(registry.Find(kProgram, L"ExtExt"), MultiText({L"doc", L"", L"pdf"}));
 }
 
 TEST_F(SaveConfiguration, StoresTextsThatAreLongerThanCanBeReadBack) {
@@ -382,21 +369,21 @@ TEST_F(SaveConfiguration, LeavesTheProvidersKeyUntouched) {
     registry.PutText(kCatalogue + L"\\{1}", L"Secret", L"of the provider");
     store.Save();
     for (const RegistryCall& call : registry.Calls()) {
-        EXPECT_TRUE(call.keyPath.starts_with(kProgram)) << testing::Describe(call);
+        EXPECT_TRUE(call.keyPath.starts_with(kProgram)) << Describe(call);
     }
 }
 
 TEST_F(SaveConfiguration, LeavesTheRecordsAsTheyAreButForTheDirtyFlag) {
     state.profiles[0].rules = {RuleOf(L"ENCR"), RuleOf(L"")};
     state.currentProfileName = L"Office";
-    ConfigurationState expected = state;
+    store::ConfigurationState expected = state;
     expected.isDirty = false;
     store.Save();
     EXPECT_EQ(state, expected);
 }
 
 TEST_F(SaveConfiguration, ClosesEveryKeyAndHoldsTwoAtMostOutsideADeletion) {
-    Rule rule = RuleOf(L"ENCR");
+    store::Rule rule = RuleOf(L"ENCR");
     rule.signerGroups = {{L"List", {}}};
     state.profiles[0].rules = {rule};
     store.Save();
@@ -406,7 +393,7 @@ TEST_F(SaveConfiguration, ClosesEveryKeyAndHoldsTwoAtMostOutsideADeletion) {
 }
 
 TEST(SaveConfigurationOfNothing, WithoutItsProgramKeyEndsAndStaysDirty) {
-    testing::StoreFixture empty;
+    StoreFixture empty;
     empty.state.isDirty = true;
     empty.Save();
     EXPECT_EQ(empty.ReportTexts(),
@@ -433,7 +420,7 @@ TEST_F(SaveConfiguration, ARemovedProfileThatCannotBeDeletedEndsItDirtyWithTheKe
     EXPECT_EQ(Reports(), std::vector<std::wstring>{ReportText(
                              L"Delete register key HKEY_CURRENT_USER\\" + kProgram + L"\\Gone", 5)});
     EXPECT_TRUE(state.isDirty);
-    EXPECT_EQ(registry.SubkeyNames(kProgram), (TextList{L"Gone", L"Gone too"}));
+    EXPECT_EQ(registry.SubkeyNames(kProgram), (store::TextList{L"Gone", L"Gone too"}));
     EXPECT_FALSE(registry.Find(kProgram, L"SigExt").has_value());
     EXPECT_EQ(registry.OpenKeys(), 1U);
 }
@@ -465,7 +452,7 @@ TEST_F(SaveConfiguration, ANewProfileThatCannotBeMadeIsReportedAndTheNextOneIsMa
         L"Create (open) register key HKEY_CURRENT_USER\\SOFTWARE\\HOLVAN\\tarntray\\Office";
     // Then its key cannot be opened either, and that ends the profiles.
     EXPECT_EQ(Reports(), (std::vector<std::wstring>{ReportText(report, 5), ReportText(report, 2)}));
-    EXPECT_EQ(registry.SubkeyNames(kProgram), TextList{L"Second"});
+    EXPECT_EQ(registry.SubkeyNames(kProgram), store::TextList{L"Second"});
     EXPECT_FALSE(registry.Find(kProgram + L"\\Second", L"ZCSProfile").has_value());
     EXPECT_FALSE(state.isDirty);
 }
@@ -523,7 +510,7 @@ TEST_F(SaveConfiguration, ARuleKeyThatCannotBeMadeEndsTheRulesOfItsProfileOnly) 
     store.Save();
     EXPECT_EQ(Reports(), std::vector<std::wstring>{ReportText(
                              L"Create (open) register key HKEY_CURRENT_USER\\" + kRules + L"\\Rule 1", 5)});
-    EXPECT_EQ(registry.SubkeyNames(kRules), TextList{L"Rule 0"});
+    EXPECT_EQ(registry.SubkeyNames(kRules), store::TextList{L"Rule 0"});
     EXPECT_TRUE(registry.HasKey(kProgram + L"\\Second\\rules\\Rule 0"));
     EXPECT_FALSE(state.isDirty);
 }
@@ -540,9 +527,9 @@ TEST_F(SaveConfiguration, ARulesKeyThatCannotBeOpenedEndsTheRulesOfItsProfileOnl
 }
 
 TEST_F(SaveConfiguration, ASignerListKeyThatCannotBeMadeEndsTheListsOfItsRuleOnly) {
-    Rule first = RuleOf(L"SIGN");
+    store::Rule first = RuleOf(L"SIGN");
     first.signerGroups = {{L"a", {L"CN=A"}}, {L"b", {L"CN=B"}}, {L"c", {L"CN=C"}}};
-    Rule second = RuleOf(L"SIGN");
+    store::Rule second = RuleOf(L"SIGN");
     second.signerGroups = {{L"d", {L"CN=D"}}};
     state.profiles[0].rules = {first, second};
     FailAt(RegistryOperation::kCreate, kRules + L"\\Rule 0\\b", 5);
@@ -550,8 +537,8 @@ TEST_F(SaveConfiguration, ASignerListKeyThatCannotBeMadeEndsTheListsOfItsRuleOnl
     EXPECT_EQ(Reports(),
               std::vector<std::wstring>{ReportText(
                   L"Create (open) register key HKEY_CURRENT_USER\\" + kRules + L"\\Rule 0\\b", 5)});
-    EXPECT_EQ(registry.SubkeyNames(kRules + L"\\Rule 0"), TextList{L"a"});
-    EXPECT_EQ(registry.SubkeyNames(kRules + L"\\Rule 1"), TextList{L"d"});
+    EXPECT_EQ(registry.SubkeyNames(kRules + L"\\Rule 0"), store::TextList{L"a"});
+    EXPECT_EQ(registry.SubkeyNames(kRules + L"\\Rule 1"), store::TextList{L"d"});
     EXPECT_FALSE(state.isDirty);
 }
 
@@ -569,7 +556,7 @@ TEST_F(SaveConfiguration, AKeyThatDoesNotCloseIsDeliberatelyReportedWithTheTextF
 }
 
 TEST_F(SaveConfiguration, ThenLoadGivesTheSameRecords) {
-    Rule rule = RuleOf(L"SGEN");
+    store::Rule rule = RuleOf(L"SGEN");
     rule.masks = {L"", L"*.txt"};
     rule.recipients = {L"", L"CN=\x0418\x0432\x0430\x043D"};
     rule.signerGroups = {{L"b", {L"", L"CN=S"}}, {L"a", {}}};
@@ -585,11 +572,11 @@ TEST_F(SaveConfiguration, ThenLoadGivesTheSameRecords) {
     registry.PutText(kCatalogue + L"\\{1}", L"ProfileName", L"Main CSP");
     state.csProfileCatalogue = {L"Main CSP"};
     store.Save();
-    ConfigurationState expected = state;
+    store::ConfigurationState expected = state;
     expected.settings.window = store.restored;
     ASSERT_TRUE(store.Load());
     EXPECT_EQ(state, expected);
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,22 +2,20 @@
 
 #include <set>
 
-#include "config/operation_codes.h"
+#include "store/records.h"
 #include "tests/support/reg_file.h"
 #include "tests/support/store_fixture.h"
 
 // The example that the program is shown with, through the same doors as a user's own configuration.
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class WorkedExample : public ::testing::Test {
   protected:
-    WorkedExample() {
-        store.registry.PutAll(testing::ParseRegFile(testing::ReadWholeFile(CORVANE_WORKED_EXAMPLE)));
-    }
+    WorkedExample() { store.registry.PutAll(ParseRegFile(ReadWholeFile(CORVANE_WORKED_EXAMPLE))); }
 
-    testing::StoreFixture store;
+    StoreFixture store;
 };
 
 TEST_F(WorkedExample, LoadsWithoutAReport) {
@@ -29,27 +27,27 @@ TEST_F(WorkedExample, LoadsWithoutAReport) {
 
 TEST_F(WorkedExample, UsesEveryOperationAndOnlyCsProfilesOfTheCatalogue) {
     ASSERT_TRUE(store.Load());
-    const TextList& catalogue = store.state.csProfileCatalogue;
+    const store::TextList& catalogue = store.state.csProfileCatalogue;
     const std::set<std::wstring> known(catalogue.begin(), catalogue.end());
     std::set<std::wstring> operations;
-    for (const Profile& profile : store.state.profiles) {
+    for (const store::Profile& profile : store.state.profiles) {
         for (const std::wstring& csProfile : profile.csProfiles) {
-            EXPECT_TRUE(known.contains(csProfile)) << testing::Printable(csProfile);
+            EXPECT_TRUE(known.contains(csProfile)) << Printable(csProfile);
         }
-        for (const Rule& rule : profile.rules) {
+        for (const store::Rule& rule : profile.rules) {
             operations.insert(rule.operation);
             EXPECT_TRUE(rule.csProfile.empty() || known.contains(rule.csProfile))
-                << testing::Printable(rule.description);
-            EXPECT_FALSE(rule.masks.empty()) << testing::Printable(rule.description);
+                << Printable(rule.description);
+            EXPECT_FALSE(rule.masks.empty()) << Printable(rule.description);
         }
     }
-    const TextList codes = SplitEntries(OperationCode);
+    const store::TextList codes = store::SplitEntries(store::OperationCode);
     EXPECT_EQ(operations, std::set<std::wstring>(codes.begin(), codes.end()));
 }
 
 TEST_F(WorkedExample, GivesTheSameRecordsAfterASave) {
     ASSERT_TRUE(store.Load());
-    const ConfigurationState loaded = store.state;
+    const store::ConfigurationState loaded = store.state;
     store.restored = loaded.settings.window;
     store.Save();
     ASSERT_TRUE(store.Load());
@@ -58,12 +56,12 @@ TEST_F(WorkedExample, GivesTheSameRecordsAfterASave) {
 }
 
 TEST_F(WorkedExample, IsStoredByASaveValueForValueAsItStandsInItsFile) {
-    const testing::RegistrySnapshot before = store.registry.Snapshot();
+    const RegistrySnapshot before = store.registry.Snapshot();
     ASSERT_TRUE(store.Load());
     store.restored = store.state.settings.window;
     store.Save();
-    EXPECT_EQ(testing::Differences(before, store.registry.Snapshot()), "");
+    EXPECT_EQ(Differences(before, store.registry.Snapshot()), "");
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

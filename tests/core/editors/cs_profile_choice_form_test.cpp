@@ -1,13 +1,12 @@
-#include "editors/cs_profile_choice_form.h"
+#include "editors/profile/cs_profile_choice_form.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -15,7 +14,7 @@ using ::testing::IsEmpty;
 
 TEST(CsProfileChoice, GivesTheNameAtTheSelectedIndex) {
     ReporterFixture fixture;
-    CsProfileChoiceForm form{.catalogue = {L"CS one", L"CS two"}};
+    editors::CsProfileChoiceForm form{.catalogue = {L"CS one", L"CS two"}};
     EXPECT_EQ(form.Name(), L"CS one") << "the first is selected";
     form.index = 1;
     EXPECT_TRUE(form.Confirm(fixture.reporter, nullptr));
@@ -27,18 +26,19 @@ TEST(CsProfileChoice, WithNothingToChooseIsRefused) {
     ReporterFixture fixture;
     const toolkit::WindowHandle dialog = RecordingPresenter::Window(7);
     fixture.presenter.MakeLive(dialog);
-    const CsProfileChoiceForm form{.catalogue = {}, .index = -1};
+    const editors::CsProfileChoiceForm form{.catalogue = {}, .index = -1};
     EXPECT_FALSE(form.Confirm(fixture.reporter, dialog));
     EXPECT_THAT(fixture.presenter.Boxes(),
-                ElementsAre(ShownBox{dialog, L"No CS profiles found.", AppTitle, kRefusalStyle}));
+                ElementsAre(ShownBox{dialog, L"No CS profiles found.", reporting::AppTitle,
+                                     reporting::kRefusalStyle}));
     EXPECT_EQ(form.Name(), L"");
 }
 
 TEST(CsProfileChoice, HasTheDialogsTexts) {
-    EXPECT_STREQ(kCsProfileChoiceTitle, L"Add CS profile");
-    EXPECT_STREQ(kCsProfileChoiceLabelText, L"Choose CS profile");
-    EXPECT_STREQ(kCsProfileChoiceExitText, L"Exit");
+    EXPECT_STREQ(editors::kCsProfileChoiceTitle, L"Add CS profile");
+    EXPECT_STREQ(editors::kCsProfileChoiceLabelText, L"Choose CS profile");
+    EXPECT_STREQ(editors::kCsProfileChoiceExitText, L"Exit");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "editors/cs_profile_commands.h"
+#include "editors/profile/cs_profile_commands.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,14 +6,12 @@
 #include <map>
 #include <random>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
-#include "editors/profile_commit.h"
-#include "editors/profile_opening.h"
+#include "editors/profile/profile_form.h"
+#include "reporting/message_styles.h"
 #include "tests/core/editors/sample_profiles.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::Each;
@@ -24,42 +22,42 @@ class CsProfileCommands : public ::testing::Test {
   protected:
     CsProfileCommands() { fixture_.presenter.MakeLive(dialog_); }
 
-    void Open(const corvane::TextList& csProfiles) {
-        form_ = OpenProfileForm(ProfileWith(L"alpha", csProfiles), {L"A", L"B", L"C"}, shown_);
+    void Open(const corvane::store::TextList& csProfiles) {
+        form_ = editors::OpenProfileForm(ProfileWith(L"alpha", csProfiles), {L"A", L"B", L"C"}, shown_);
     }
     // What the dialog does when the user selects an entry, or presses a button.
     void Select(int index) {
         form_.selectedCsProfile = index;
-        if (MayLeaveCsProfile(form_, shown_)) {
-            ChangeShownCsProfile(form_, shown_);
+        if (editors::MayLeaveCsProfile(form_, shown_)) {
+            editors::ChangeShownCsProfile(form_, shown_);
         }
     }
     void Add(const std::wstring& name) {
-        if (MayLeaveCsProfile(form_, shown_)) {
-            AddCsProfile(form_, name, shown_, fixture_.text);
+        if (editors::MayLeaveCsProfile(form_, shown_)) {
+            editors::AddCsProfile(form_, name, shown_, fixture_.text);
         }
     }
-    void Delete(int answer = kAnswerYes) {
+    void Delete(int answer = reporting::kAnswerYes) {
         fixture_.presenter.AnswerNext(answer);
-        DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+        editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
     }
-    void AddRule(const std::wstring& csProfile, const corvane::TextList& recipients,
-                 const std::vector<SignerGroup>& lists) {
-        Rule rule;
+    void AddRule(const std::wstring& csProfile, const corvane::store::TextList& recipients,
+                 const std::vector<store::SignerGroup>& lists) {
+        store::Rule rule;
         rule.csProfile = csProfile;
         rule.recipients = recipients;
         rule.signerGroups = lists;
         form_.result.rules.push_back(rule);
     }
     [[nodiscard]] ShownBox Box(const wchar_t* text, std::uint32_t style) const {
-        return {dialog_, text, AppTitle, style};
+        return {dialog_, text, reporting::AppTitle, style};
     }
     [[nodiscard]] const std::vector<ShownBox>& Boxes() const { return fixture_.presenter.Boxes(); }
 
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(7);
     ReporterFixture fixture_;
-    ShownCsProfile shown_;
-    ProfileForm form_;
+    editors::ShownCsProfile shown_;
+    editors::ProfileForm form_;
 };
 
 TEST_F(CsProfileCommands, ASelectionKeepsTheShownSettingsAndShowsTheOthers) {
@@ -70,11 +68,11 @@ TEST_F(CsProfileCommands, ASelectionKeepsTheShownSettingsAndShowsTheOthers) {
     Select(1);
     EXPECT_EQ(form_.shown, FilledCsProfile(L"B", 1));
     EXPECT_EQ(shown_.index, 1);
-    CsProfile expected = FilledCsProfile(L"A", 0);
+    store::CsProfile expected = FilledCsProfile(L"A", 0);
     expected.timeStampServer = L"typed";
     expected.crlUpdatePeriod = 77;
     expected.notAddCertificate = 0;
-    EXPECT_EQ(CsProfileAt(form_.result, 0), expected);
+    EXPECT_EQ(store::CsProfileAt(form_.result, 0), expected);
     Select(0);
     EXPECT_EQ(form_.shown, expected);
 }
@@ -84,28 +82,28 @@ TEST_F(CsProfileCommands, LeavingWithAnEmptyServerThatIsNotUsedKeepsZero) {
     form_.shown.autoUseTimeStamp = 0;
     form_.shown.timeStampServer.clear();
     Select(1);
-    EXPECT_EQ(CsProfileAt(form_.result, 0).timeStampServer, L"0");
+    EXPECT_EQ(store::CsProfileAt(form_.result, 0).timeStampServer, L"0");
 }
 
 TEST_F(CsProfileCommands, AMissingServerPutsTheSelectionBackAndKeepsWhatIsShown) {
     Open({L"A", L"B"});
     Select(1);
     form_.shown.timeStampServer.clear();
-    const ProfileForm before = form_;
+    const editors::ProfileForm before = form_;
     form_.selectedCsProfile = 0;
-    EXPECT_FALSE(MayLeaveCsProfile(form_, shown_));
+    EXPECT_FALSE(editors::MayLeaveCsProfile(form_, shown_));
     EXPECT_EQ(form_.selectedCsProfile, 1);
     EXPECT_EQ(form_.shown, before.shown);
     EXPECT_EQ(form_.result, before.result);
     EXPECT_EQ(shown_.index, 1);
-    EXPECT_STREQ(kNoTimeStampServerText, L"Please, type TSP data.");
+    EXPECT_STREQ(editors::kNoTimeStampServerText, L"Please, type TSP data.");
 }
 
 TEST_F(CsProfileCommands, SelectingTheShownOrNoCsProfileChangesNothing) {
     Open({L"A", L"B"});
     form_.shown.crlUpdatePeriod = 77;
     for (const int index : {0, -1, 2}) {
-        const ProfileForm before = form_;
+        const editors::ProfileForm before = form_;
         Select(index);
         EXPECT_EQ(form_.shown, before.shown) << index;
         EXPECT_EQ(form_.result, before.result) << index;
@@ -118,21 +116,21 @@ TEST_F(CsProfileCommands, AnAddedCsProfileStandsLastWithTheSettingsOfANewOneAndI
     form_.shown.crlUpdatePeriod = 77;
     Add(L"C");
     EXPECT_THAT(form_.result.csProfiles, ElementsAre(L"A", L"B", L"C"));
-    CsProfile fresh;
+    store::CsProfile fresh;
     fresh.name = L"C";
     EXPECT_EQ(form_.shown, fresh);
-    EXPECT_EQ(CsProfileAt(form_.result, 2), fresh);
-    EXPECT_EQ(CsProfileAt(form_.result, 0).crlUpdatePeriod, 77) << "the shown settings are kept";
+    EXPECT_EQ(store::CsProfileAt(form_.result, 2), fresh);
+    EXPECT_EQ(store::CsProfileAt(form_.result, 0).crlUpdatePeriod, 77) << "the shown settings are kept";
     EXPECT_EQ(form_.selectedCsProfile, 2);
     EXPECT_EQ(shown_.index, 2);
-    EXPECT_FALSE(IsTimeStampServerEnabled(form_));
-    EXPECT_FALSE(IsNoTimeStampErrorEnabled(form_));
+    EXPECT_FALSE(editors::IsTimeStampServerEnabled(form_));
+    EXPECT_FALSE(editors::IsNoTimeStampErrorEnabled(form_));
 }
 
 TEST_F(CsProfileCommands, AddingOneThatIsListedWhateverItsCaseChangesNothing) {
     Open({L"A", L"B"});
     form_.shown.crlUpdatePeriod = 77;
-    const ProfileForm before = form_;
+    const editors::ProfileForm before = form_;
     for (const wchar_t* const name : {L"B", L"b", L"A"}) {
         Add(name);
         EXPECT_EQ(form_.result, before.result);
@@ -154,8 +152,9 @@ TEST_F(CsProfileCommands, TheLastCsProfileCannotBeDeleted) {
     for (const int selected : {0, -1}) {
         fixture_.presenter.Clear();
         form_.selectedCsProfile = selected;
-        DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
-        EXPECT_THAT(Boxes(), ElementsAre(Box(L"Last CS profile in list cannot be deleted.", kRefusalStyle)));
+        editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+        EXPECT_THAT(Boxes(), ElementsAre(Box(L"Last CS profile in list cannot be deleted.",
+                                             reporting::kRefusalStyle)));
     }
     EXPECT_THAT(form_.result.csProfiles, ElementsAre(L"A"));
     EXPECT_THAT(form_.deletedCsProfiles, IsEmpty());
@@ -164,10 +163,10 @@ TEST_F(CsProfileCommands, TheLastCsProfileCannotBeDeleted) {
 TEST_F(CsProfileCommands, DeletingWithoutASelectionIsRefused) {
     Open({L"A", L"B"});
     form_.selectedCsProfile = -1;
-    DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+    editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
     Open({});
-    DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
-    const ShownBox refusal = Box(L"Select list item to delete.", kRefusalStyle);
+    editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+    const ShownBox refusal = Box(L"Select list item to delete.", reporting::kRefusalStyle);
     EXPECT_THAT(Boxes(), ElementsAre(refusal, refusal));
 }
 
@@ -175,11 +174,12 @@ TEST_F(CsProfileCommands, DeletingAsksAndAnyAnswerButYesKeepsIt) {
     Open({L"A", L"B"});
     Select(1);
     form_.shown.crlUpdatePeriod = 77;
-    const ProfileForm before = form_;
-    for (const int answer : {kAnswerNo, kAnswerCancel}) {
+    const editors::ProfileForm before = form_;
+    for (const int answer : {reporting::kAnswerNo, reporting::kAnswerCancel}) {
         fixture_.presenter.Clear();
         Delete(answer);
-        EXPECT_THAT(Boxes(), ElementsAre(Box(L"Delete CS profile 'B' from list?", kConfirmationStyle)));
+        EXPECT_THAT(Boxes(),
+                    ElementsAre(Box(L"Delete CS profile 'B' from list?", reporting::kConfirmationStyle)));
         EXPECT_EQ(form_.result, before.result);
         EXPECT_EQ(form_.shown, before.shown);
         EXPECT_THAT(form_.deletedCsProfiles, IsEmpty());
@@ -193,7 +193,7 @@ TEST_F(CsProfileCommands, ADeletedCsProfileIsGoneFromAllElevenListsAndTheFirstIs
     Delete();
     EXPECT_THAT(form_.result.csProfiles, ElementsAre(L"A", L"C"));
     EXPECT_THAT(ListLengths(form_.result), Each(2U));
-    EXPECT_EQ(CsProfileAt(form_.result, 1), FilledCsProfile(L"C", 2));
+    EXPECT_EQ(store::CsProfileAt(form_.result, 1), FilledCsProfile(L"C", 2));
     EXPECT_EQ(form_.shown, FilledCsProfile(L"A", 0)) << "what was shown of the deleted one is discarded";
     EXPECT_EQ(form_.selectedCsProfile, 0);
     EXPECT_EQ(shown_.index, 0);
@@ -220,18 +220,18 @@ TEST_F(CsProfileCommands, TheQuestionNamesTheRulesThatHoldCertificatesOfIt) {
     form_.result.rules.back().resignProfile = L"B";
     form_.result.name = L"being typed";
     Select(1);
-    Delete(kAnswerNo);
+    Delete(reporting::kAnswerNo);
     EXPECT_THAT(Boxes(),
                 ElementsAre(Box(L"Rule(s) '2,5' of profile 'alpha' are using sertificates of CS profile 'B'."
                                 L"\r\nValidation of these rules will be nessesary for proper work.\r\n"
                                 L"Delete CS profile 'B' from list?",
-                                kConfirmationStyle)));
+                                reporting::kConfirmationStyle)));
 }
 
 TEST_F(CsProfileCommands, NamesWithPercentSignsAreShownAsTheyAre) {
     Open({L"%s%d", L"B"});
     AddRule(L"%s%d", {L"CN=x"}, {});
-    Delete(kAnswerNo);
+    Delete(reporting::kAnswerNo);
     EXPECT_EQ(fixture_.presenter.OnlyText(),
               L"Rule(s) '1' of profile 'alpha' are using sertificates of CS profile '%s%d'."
               L"\r\nValidation of these rules will be nessesary for proper work.\r\n"
@@ -255,7 +255,7 @@ TEST_F(CsProfileCommands, ADeletedCsProfileThatIsAddedAgainCountsAsKept) {
     Add(L"A");
     EXPECT_THAT(form_.result.csProfiles, ElementsAre(L"B", L"A"));
     EXPECT_THAT(form_.deletedCsProfiles, IsEmpty());
-    CsProfile fresh;
+    store::CsProfile fresh;
     fresh.name = L"A";
     EXPECT_EQ(form_.shown, fresh) << "its settings are those of a new one";
 }
@@ -281,10 +281,10 @@ TEST_F(CsProfileCommands, EverySequenceKeepsTheListsOfOneLengthAndEachSettingWit
     for (std::uint32_t seed = 0; seed < 300; ++seed) {
         std::mt19937 random(seed);
         const auto below = [&random](std::size_t bound) { return static_cast<int>(random() % bound); };
-        Profile profile = ProfileWith(L"alpha", {L"A", L"B"});
+        store::Profile profile = ProfileWith(L"alpha", {L"A", L"B"});
         profile.useAuthorityAccess.resize(static_cast<std::size_t>(below(4)));
         profile.notLoadCrl.resize(static_cast<std::size_t>(below(4)));
-        form_ = OpenProfileForm(profile, {L"A"}, shown_);
+        form_ = editors::OpenProfileForm(profile, {L"A"}, shown_);
         std::map<std::wstring, std::int32_t> periods = {{L"A", 100}, {L"B", 101}};
         for (int step = 0; step < 40; ++step) {
             const std::wstring name(1, static_cast<wchar_t>(L'A' + below(6)));
@@ -310,13 +310,13 @@ TEST_F(CsProfileCommands, EverySequenceKeepsTheListsOfOneLengthAndEachSettingWit
             ASSERT_THAT(ListLengths(form_.result), Each(periods.size())) << "seed " << seed;
             ASSERT_EQ(form_.selectedCsProfile, shown_.index) << "seed " << seed;
         }
-        CommitProfile(form_);
+        editors::CommitProfile(form_);
         for (std::size_t i = 0; i < periods.size(); ++i) {
-            const CsProfile entry = CsProfileAt(form_.result, i);
+            const store::CsProfile entry = store::CsProfileAt(form_.result, i);
             ASSERT_EQ(entry.crlUpdatePeriod, periods.at(entry.name)) << "seed " << seed;
         }
     }
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "editors/cs_profile_list.h"
+#include "editors/profile/cs_profile_list.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,15 +8,15 @@
 #include "tests/core/editors/sample_profiles.h"
 #include "tests/support/test_system_text.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::Each;
 using ::testing::ElementsAre;
 
 // A profile that names three CS profiles; each other list has a length of its own, from none to five.
-Profile UnequalProfile() {
-    Profile profile = ProfileWith(L"unequal", {L"a", L"b", L"c"});
+store::Profile UnequalProfile() {
+    store::Profile profile = ProfileWith(L"unequal", {L"a", L"b", L"c"});
     profile.timeStampServers.resize(1);
     profile.notUseDirectory.clear();
     profile.notAddCertificate.resize(2);
@@ -27,8 +27,8 @@ Profile UnequalProfile() {
 }
 
 TEST(CsProfileList, AligningFillsUpShortListsWithTheDefaultsOfANewEntry) {
-    Profile profile = UnequalProfile();
-    AlignCsProfiles(profile);
+    store::Profile profile = UnequalProfile();
+    editors::AlignCsProfiles(profile);
     EXPECT_THAT(ListLengths(profile), Each(3U));
     EXPECT_THAT(profile.timeStampServers, ElementsAre(L"http://0", L"0", L"0"));
     EXPECT_THAT(profile.notUseDirectory, ElementsAre(1, 1, 1));
@@ -37,102 +37,102 @@ TEST(CsProfileList, AligningFillsUpShortListsWithTheDefaultsOfANewEntry) {
 }
 
 TEST(CsProfileList, AligningKeepsEveryEntryAsItWasRead) {
-    const Profile before = UnequalProfile();
-    Profile profile = before;
-    AlignCsProfiles(profile);
+    const store::Profile before = UnequalProfile();
+    store::Profile profile = before;
+    editors::AlignCsProfiles(profile);
     for (std::size_t i = 0; i < 3; ++i) {
-        EXPECT_EQ(CsProfileAt(profile, i), CsProfileAt(before, i)) << "entry " << i;
+        EXPECT_EQ(store::CsProfileAt(profile, i), store::CsProfileAt(before, i)) << "entry " << i;
     }
 }
 
 TEST(CsProfileList, ValuesBehindTheLastNameBelongToNoCsProfileAndAreDropped) {
-    Profile profile = UnequalProfile();
-    AlignCsProfiles(profile);
+    store::Profile profile = UnequalProfile();
+    editors::AlignCsProfiles(profile);
     EXPECT_THAT(profile.notCopyToLocal, ElementsAre(1, 1, 1));
     EXPECT_THAT(profile.useAuthorityAccess, ElementsAre(1, 1, 1));
 }
 
 TEST(CsProfileList, ANewEntryTakesNoValueThatStoodBehindTheLastName) {
-    Profile profile = UnequalProfile();
-    CsProfile added;
+    store::Profile profile = UnequalProfile();
+    store::CsProfile added;
     added.name = L"d";
-    AppendCsProfile(profile, added);
+    editors::AppendCsProfile(profile, added);
     EXPECT_THAT(ListLengths(profile), Each(4U));
-    EXPECT_EQ(CsProfileAt(profile, 3), added);
+    EXPECT_EQ(store::CsProfileAt(profile, 3), added);
 }
 
 TEST(CsProfileList, StoringChangesAllElevenValuesOfOneEntry) {
-    Profile profile = ProfileWith(L"p", {L"a", L"b", L"c"});
-    const Profile before = profile;
-    CsProfile entry;
+    store::Profile profile = ProfileWith(L"p", {L"a", L"b", L"c"});
+    const store::Profile before = profile;
+    store::CsProfile entry;
     entry.name = L"new";
     entry.timeStampServer = L"server";
-    StoreCsProfile(profile, 1, entry);
-    EXPECT_EQ(CsProfileAt(profile, 0), CsProfileAt(before, 0));
-    EXPECT_EQ(CsProfileAt(profile, 1), entry);
-    EXPECT_EQ(CsProfileAt(profile, 2), CsProfileAt(before, 2));
+    editors::StoreCsProfile(profile, 1, entry);
+    EXPECT_EQ(store::CsProfileAt(profile, 0), store::CsProfileAt(before, 0));
+    EXPECT_EQ(store::CsProfileAt(profile, 1), entry);
+    EXPECT_EQ(store::CsProfileAt(profile, 2), store::CsProfileAt(before, 2));
 }
 
 TEST(CsProfileList, ErasingTakesTheSameEntryOutOfEveryList) {
-    Profile profile = ProfileWith(L"p", {L"a", L"b", L"c"});
-    const Profile before = profile;
-    EraseCsProfile(profile, 1);
+    store::Profile profile = ProfileWith(L"p", {L"a", L"b", L"c"});
+    const store::Profile before = profile;
+    editors::EraseCsProfile(profile, 1);
     EXPECT_THAT(ListLengths(profile), Each(2U));
-    EXPECT_EQ(CsProfileAt(profile, 0), CsProfileAt(before, 0));
-    EXPECT_EQ(CsProfileAt(profile, 1), CsProfileAt(before, 2));
+    EXPECT_EQ(store::CsProfileAt(profile, 0), store::CsProfileAt(before, 0));
+    EXPECT_EQ(store::CsProfileAt(profile, 1), store::CsProfileAt(before, 2));
 }
 
 TEST(CsProfileList, AnEntryThatIsNoneIsNeitherStoredNorErased) {
-    Profile profile = ProfileWith(L"p", {L"a"});
-    const Profile before = profile;
+    store::Profile profile = ProfileWith(L"p", {L"a"});
+    const store::Profile before = profile;
     for (const std::size_t index : {std::size_t{1}, static_cast<std::size_t>(-1)}) {
-        StoreCsProfile(profile, index, CsProfile());
-        EraseCsProfile(profile, index);
+        editors::StoreCsProfile(profile, index, store::CsProfile());
+        editors::EraseCsProfile(profile, index);
         EXPECT_EQ(profile, before);
     }
 }
 
 TEST(CsProfileList, ANameIsHeldWhateverItsCase) {
     const TestSystemText text(CodePage::kCyrillic);
-    const Profile profile = ProfileWith(L"p", {L"CS one", L"Профиль"});
-    EXPECT_TRUE(HasCsProfile(profile, L"CS one", text));
-    EXPECT_TRUE(HasCsProfile(profile, L"cs ONE", text));
-    EXPECT_TRUE(HasCsProfile(profile, L"пРОФИЛЬ", text));
-    EXPECT_FALSE(HasCsProfile(profile, L"CS on", text));
-    EXPECT_FALSE(HasCsProfile(profile, L"CS one ", text));
-    EXPECT_FALSE(HasCsProfile(profile, L"", text));
+    const store::Profile profile = ProfileWith(L"p", {L"CS one", L"Профиль"});
+    EXPECT_TRUE(editors::HasCsProfile(profile, L"CS one", text));
+    EXPECT_TRUE(editors::HasCsProfile(profile, L"cs ONE", text));
+    EXPECT_TRUE(editors::HasCsProfile(profile, L"пРОФИЛЬ", text));
+    EXPECT_FALSE(editors::HasCsProfile(profile, L"CS on", text));
+    EXPECT_FALSE(editors::HasCsProfile(profile, L"CS one ", text));
+    EXPECT_FALSE(editors::HasCsProfile(profile, L"", text));
 }
 
 TEST(CsProfileList, EverySequenceOfOperationsKeepsTheListsOfOneLengthAndTheirEntriesTogether) {
     for (std::uint32_t seed = 0; seed < 300; ++seed) {
         std::mt19937 random(seed);
         const auto below = [&random](std::size_t bound) { return random() % bound; };
-        Profile profile = ProfileWith(L"p", {L"a", L"b", L"c"});
+        store::Profile profile = ProfileWith(L"p", {L"a", L"b", L"c"});
         profile.timeStampServers.resize(below(6));
         profile.notUseDirectory.resize(below(6));
         profile.useAuthorityAccess.resize(below(6));
         profile.autoVerifyTimeStamp.resize(below(6));
         // The plain model: whole entries in one list.
-        std::vector<CsProfile> model;
+        std::vector<store::CsProfile> model;
         for (std::size_t i = 0; i < profile.csProfiles.size(); ++i) {
-            model.push_back(CsProfileAt(profile, i));
+            model.push_back(store::CsProfileAt(profile, i));
         }
         for (std::int32_t step = 0; step < 40; ++step) {
-            const CsProfile entry = FilledCsProfile(L"n" + std::to_wstring(step), step);
+            const store::CsProfile entry = FilledCsProfile(L"n" + std::to_wstring(step), step);
             const std::size_t index = below(model.size() + 2);
             switch (below(3)) {
                 case 0:
-                    AppendCsProfile(profile, entry);
+                    editors::AppendCsProfile(profile, entry);
                     model.push_back(entry);
                     break;
                 case 1:
-                    EraseCsProfile(profile, index);
+                    editors::EraseCsProfile(profile, index);
                     if (index < model.size()) {
                         model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
                     }
                     break;
                 default:
-                    StoreCsProfile(profile, index, entry);
+                    editors::StoreCsProfile(profile, index, entry);
                     if (index < model.size()) {
                         model[index] = entry;
                     }
@@ -140,11 +140,11 @@ TEST(CsProfileList, EverySequenceOfOperationsKeepsTheListsOfOneLengthAndTheirEnt
             }
             ASSERT_THAT(ListLengths(profile), Each(model.size())) << "seed " << seed << ", step " << step;
             for (std::size_t i = 0; i < model.size(); ++i) {
-                ASSERT_EQ(CsProfileAt(profile, i), model[i]) << "seed " << seed << ", step " << step;
+                ASSERT_EQ(store::CsProfileAt(profile, i), model[i]) << "seed " << seed << ", step " << step;
             }
         }
     }
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -14,7 +14,7 @@ std::string Quoted(const std::wstring& text) {
     return " \"" + Printable(text) + "\"";
 }
 
-std::string Texts(const corvane::TextList& list) {
+std::string Texts(const corvane::store::TextList& list) {
     std::string texts = " (";
     for (const std::wstring& text : list) {
         texts += Quoted(text);
@@ -22,21 +22,21 @@ std::string Texts(const corvane::TextList& list) {
     return texts + " )";
 }
 
-std::string Line(const std::string& name, const TextField& field) {
+std::string Line(const std::string& name, const editors::TextField& field) {
     return name + Quoted(field.text) + Flag(field.isShown, "shown") + Flag(field.isEnabled, "enabled") +
            Flag(field.isReadOnly, "read-only") + "\n";
 }
 
-std::string Line(const std::string& name, const NumberField& field) {
+std::string Line(const std::string& name, const editors::NumberField& field) {
     return name + " " + std::to_string(field.number) + Flag(field.isShown, "shown") + "\n";
 }
 
-std::string Line(const std::string& name, const ChoiceField& field) {
+std::string Line(const std::string& name, const editors::ChoiceField& field) {
     return name + Texts(field.entries) + " at " + std::to_string(field.index) + Flag(field.isShown, "shown") +
            "\n";
 }
 
-std::string Line(const std::string& name, const IconButton& button) {
+std::string Line(const std::string& name, const editors::IconButton& button) {
     return name + Quoted(button.toolTip) + " icon " + std::to_string(static_cast<int>(button.icon)) +
            Flag(button.isEnabled, "enabled") + "\n";
 }
@@ -55,9 +55,9 @@ std::string Lines(const std::string& name, const Fields& fields) {
     return lines;
 }
 
-std::string SignerLists(const RuleForm& form) {
+std::string SignerLists(const editors::RuleForm& form) {
     std::string lines;
-    for (const SignerGroup& group : form.result.signerGroups) {
+    for (const store::SignerGroup& group : form.result.signerGroups) {
         lines += "signer list" + Quoted(group.name) + Texts(group.signers) + "\n";
     }
     return lines;
@@ -65,7 +65,7 @@ std::string SignerLists(const RuleForm& form) {
 
 }  // namespace
 
-std::string DescribeForm(const RuleForm& form) {
+std::string DescribeForm(const editors::RuleForm& form) {
     return Line("title", form.title) + Line("exit", form.exitText) + Line("operation", form.operation) +
            Line("CS profile label", form.csProfileLabel) + Line("CS profile", form.csProfile) +
            Line("description label", form.descriptionLabel) + Line("description", form.description) +
@@ -79,4 +79,4 @@ std::string DescribeForm(const RuleForm& form) {
            Texts(form.result.masks) + "\n" + SignerLists(form);
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "editors/rule_form.h"
+#include "editors/rule/rule_form.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// Every control of the form and everything that it holds, in words, one line each, so that two forms can be
 /// compared and a difference is read at once.
-[[nodiscard]] std::string DescribeForm(const RuleForm& form);
+[[nodiscard]] std::string DescribeForm(const editors::RuleForm& form);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "editors/extension_form.h"
+#include "editors/extension/extension_form.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +7,12 @@
 #include "tests/support/registry_snapshot.h"
 #include "tests/support/test_system_text.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 // The extension that is taken for a typed text; none where the dialog stays open.
 std::optional<std::wstring> Taken(const std::wstring& typed) {
-    ExtensionForm form{typed};
+    editors::ExtensionForm form{typed};
     const bool isTaken = form.Confirm(TestSystemText(CodePage::kLatin));
     if (!isTaken) {
         EXPECT_EQ(form.text, typed) << "changed by a refusal";
@@ -49,9 +49,9 @@ TEST(ExtensionForm, ANulInTheTextIsNoWhiteSpace) {
 }
 
 TEST(ExtensionFormTexts, AreTheDialogs) {
-    EXPECT_STREQ(kExtensionTitle, L"Add additional extension:");
-    EXPECT_STREQ(kExtensionExitText, L"Exit");
+    EXPECT_STREQ(editors::kExtensionTitle, L"Add additional extension:");
+    EXPECT_STREQ(editors::kExtensionExitText, L"Exit");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include "tests/core/editors/sample_rules.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -14,7 +14,7 @@ constexpr wchar_t kArchiver[] = L"ARCH UNAR";
 constexpr wchar_t kWithoutCsProfile[] = L"B64E B64D MOVE DELE ARCH UNAR PACK UNPK EXEC";
 
 // Steps 1 to 5: the certificates and their button.
-void TakeCertificateSteps(RuleForm& form, const std::wstring& from, const std::wstring& to) {
+void TakeCertificateSteps(editors::RuleForm& form, const std::wstring& from, const std::wstring& to) {
     if (IsOneOf(from, kRecipients) && !IsOneOf(to, kRecipients)) {
         form.cert.text = L"0";
         form.recipients = {};
@@ -35,7 +35,7 @@ void TakeCertificateSteps(RuleForm& form, const std::wstring& from, const std::w
 }
 
 // Step 6: the output folder.
-void TakeOutputStep(RuleForm& form, const std::wstring& from, const std::wstring& to) {
+void TakeOutputStep(editors::RuleForm& form, const std::wstring& from, const std::wstring& to) {
     if (to == L"DELE") {
         form.outputFolder.isEnabled = false;
         form.outputButton.isEnabled = false;
@@ -49,22 +49,22 @@ void TakeOutputStep(RuleForm& form, const std::wstring& from, const std::wstring
     }
 }
 
-void ShowText(TextField& field, bool isShown) {
+void ShowText(editors::TextField& field, bool isShown) {
     field.isShown = isShown;
     field.isEnabled = isShown;
 }
 
 // Step 7: the fields of moving.
-void TakeMoveStep(RuleForm& form, const std::wstring& from, const std::wstring& to) {
-    TextField& edit1130 = form.texts[0];
-    TextField& edit1131 = form.texts[1];
-    TextField& edit1136 = form.texts[2];
-    TextField& edit1137 = form.texts[3];
+void TakeMoveStep(editors::RuleForm& form, const std::wstring& from, const std::wstring& to) {
+    editors::TextField& edit1130 = form.texts[0];
+    editors::TextField& edit1131 = form.texts[1];
+    editors::TextField& edit1136 = form.texts[2];
+    editors::TextField& edit1137 = form.texts[3];
     std::wstring& label1138 = form.rowLabels[3];
     if (to != L"MOVE") {
         form.cert.isReadOnly = true;
-        form.certButton.icon = RuleIcon::kCertificates;
-        for (TextField* field : {&edit1130, &edit1131, &edit1136}) {
+        form.certButton.icon = editors::RuleIcon::kCertificates;
+        for (editors::TextField* field : {&edit1130, &edit1131, &edit1136}) {
             ShowText(*field, false);
             field->text = L"";
         }
@@ -77,18 +77,18 @@ void TakeMoveStep(RuleForm& form, const std::wstring& from, const std::wstring& 
         edit1137.text = L"";
     }
     form.cert.isReadOnly = false;
-    form.certButton.icon = RuleIcon::kSecondOutputFolder;
-    for (TextField* field : {&edit1130, &edit1131, &edit1136, &edit1137}) {
+    form.certButton.icon = editors::RuleIcon::kSecondOutputFolder;
+    for (editors::TextField* field : {&edit1130, &edit1131, &edit1136, &edit1137}) {
         ShowText(*field, true);
     }
     label1138 = L"Accounting copy format:";
 }
 
 // Step 8: the fields of packing and executing.
-void TakeNumberStep(RuleForm& form, const std::wstring& from, const std::wstring& to) {
-    NumberField& edit1139 = form.numbers[0];
-    NumberField& edit1140 = form.numbers[1];
-    NumberField& edit1141 = form.numbers[2];
+void TakeNumberStep(editors::RuleForm& form, const std::wstring& from, const std::wstring& to) {
+    editors::NumberField& edit1139 = form.numbers[0];
+    editors::NumberField& edit1140 = form.numbers[1];
+    editors::NumberField& edit1141 = form.numbers[2];
     if (to == L"PACK") {
         if (from != L"PACK") {
             edit1139.number = 0;
@@ -111,7 +111,7 @@ void TakeNumberStep(RuleForm& form, const std::wstring& from, const std::wstring
         edit1141.isShown = false;
         form.cert.isReadOnly = false;
         form.certButton.isEnabled = true;
-        form.certButton.icon = RuleIcon::kExecutable;
+        form.certButton.icon = editors::RuleIcon::kExecutable;
         form.certButton.toolTip = L"Executable file:";
     } else {
         edit1139.isShown = false;
@@ -124,9 +124,9 @@ void TakeNumberStep(RuleForm& form, const std::wstring& from, const std::wstring
     }
 }
 
-void RefillArchivers(ChoiceField& list1106, bool isWithNo) {
-    const corvane::TextList withNo = {L"No", L"ZIP archivation", L"GZIP archivation"};
-    const corvane::TextList withoutNo = {L"ZIP archivation", L"GZIP archivation"};
+void RefillArchivers(editors::ChoiceField& list1106, bool isWithNo) {
+    const corvane::store::TextList withNo = {L"No", L"ZIP archivation", L"GZIP archivation"};
+    const corvane::store::TextList withoutNo = {L"ZIP archivation", L"GZIP archivation"};
     if (isWithNo && list1106.entries == withoutNo && list1106.index < 2) {
         list1106.index += 1;
     }
@@ -137,10 +137,10 @@ void RefillArchivers(ChoiceField& list1106, bool isWithNo) {
 }
 
 // Step 9: the labels and choices.
-void TakeChoiceStep(RuleForm& form, const std::wstring& from, const std::wstring& to) {
-    ChoiceField& list1105 = form.choices[0];
-    ChoiceField& list1106 = form.choices[1];
-    ChoiceField& list1107 = form.choices[2];
+void TakeChoiceStep(editors::RuleForm& form, const std::wstring& from, const std::wstring& to) {
+    editors::ChoiceField& list1105 = form.choices[0];
+    editors::ChoiceField& list1106 = form.choices[1];
+    editors::ChoiceField& list1107 = form.choices[2];
     std::wstring& label1108 = form.rowLabels[0];
     std::wstring& label1109 = form.rowLabels[1];
     std::wstring& label1110 = form.rowLabels[2];
@@ -182,7 +182,7 @@ void TakeChoiceStep(RuleForm& form, const std::wstring& from, const std::wstring
 }
 
 // Step 10: the CS profile.
-void TakeCsProfileStep(RuleForm& form, const std::wstring& to) {
+void TakeCsProfileStep(editors::RuleForm& form, const std::wstring& to) {
     const bool isWithout = IsOneOf(to, kWithoutCsProfile);
     form.csProfileLabel = isWithout ? L"" : L"CS profile: ";
     form.csProfile.isShown = !isWithout;
@@ -190,9 +190,9 @@ void TakeCsProfileStep(RuleForm& form, const std::wstring& to) {
 
 }  // namespace
 
-void TakeStepsOneByOne(RuleForm& form, const std::wstring& from, const std::wstring& to) {
+void TakeStepsOneByOne(editors::RuleForm& form, const std::wstring& from, const std::wstring& to) {
     form.operation.index = IndexOfCode(to);
-    form.laidOutOperation = static_cast<Operation>(form.operation.index);
+    form.laidOutOperation = static_cast<editors::Operation>(form.operation.index);
     TakeCertificateSteps(form, from, to);
     TakeOutputStep(form, from, to);
     TakeMoveStep(form, from, to);
@@ -205,4 +205,4 @@ void TakeStepsOneByOne(RuleForm& form, const std::wstring& from, const std::wstr
     }
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

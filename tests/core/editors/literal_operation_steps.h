@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "editors/rule_form.h"
+#include "editors/rule/rule_form.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A change of operation control by control, in the order in which users of the editor know it to happen: a
 /// second reading of the rules, kept apart from the product's table so that one checks the other.
-void TakeStepsOneByOne(RuleForm& form, const std::wstring& from, const std::wstring& to);
+void TakeStepsOneByOne(editors::RuleForm& form, const std::wstring& from, const std::wstring& to);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,12 +1,12 @@
-#include "editors/mask_form.h"
+#include "editors/mask/mask_form.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/reporting/app_title.h"
+#include "reporting/message_styles.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -16,16 +16,17 @@ TEST(MaskForm, AnEmptyMaskIsRefused) {
     const toolkit::WindowHandle dialog = RecordingPresenter::Window(7);
     ReporterFixture fixture;
     fixture.presenter.MakeLive(dialog);
-    EXPECT_FALSE(MaskForm().Confirm(fixture.reporter, dialog));
-    EXPECT_THAT(fixture.presenter.Boxes(),
-                ElementsAre(ShownBox{
-                    .owner = dialog, .text = L"No Mask selected.", .title = AppTitle, .style = 0x30}));
+    EXPECT_FALSE(editors::MaskForm().Confirm(fixture.reporter, dialog));
+    EXPECT_THAT(
+        fixture.presenter.Boxes(),
+        ElementsAre(ShownBox{
+            .owner = dialog, .text = L"No Mask selected.", .title = reporting::AppTitle, .style = 0x30}));
 }
 
 TEST(MaskForm, AnyOtherMaskIsTakenAsTypedWithItsBlanks) {
     ReporterFixture fixture;
     for (const wchar_t* const mask : {L"*.txt", L"  *.txt  ", L" ", L"\t", L"???", L"a|b\\c", L"*.ТХТ"}) {
-        const MaskForm form{.suggestions = {L"*.txt"}, .text = mask};
+        const editors::MaskForm form{.suggestions = {L"*.txt"}, .text = mask};
         EXPECT_TRUE(form.Confirm(fixture.reporter, nullptr));
         EXPECT_EQ(form.text, mask);
     }
@@ -33,9 +34,9 @@ TEST(MaskForm, AnyOtherMaskIsTakenAsTypedWithItsBlanks) {
 }
 
 TEST(MaskFormTexts, AreTheDialogs) {
-    EXPECT_STREQ(kMaskTitle, L"Mask");
-    EXPECT_STREQ(kMaskExitText, L"Exit");
+    EXPECT_STREQ(editors::kMaskTitle, L"Mask");
+    EXPECT_STREQ(editors::kMaskExitText, L"Exit");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,16 +1,16 @@
-#include "editors/operation_layout.h"
+#include "editors/rule/operation_layout.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <iterator>
 
-#include "config/operation_codes.h"
-#include "editors/rule_form.h"
+#include "editors/rule/rule_form.h"
+#include "store/records.h"
 #include "tests/core/editors/sample_rules.h"
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 constexpr wchar_t kArchivation[] = L"Use archivation:";
@@ -21,12 +21,12 @@ struct SeenOperation {
     bool hasCsProfile;
     bool hasOutput;
     const wchar_t* certToolTip;  // Empty: the button is disabled.
-    RuleIcon certIcon;
+    editors::RuleIcon certIcon;
     const wchar_t* rowKinds;  // For each row: - nothing, c choice, t text, n number.
     std::array<const wchar_t*, 4> labels;
 };
 
-constexpr auto kCertificate = RuleIcon::kCertificates;
+constexpr auto kCertificate = editors::RuleIcon::kCertificates;
 constexpr std::array<const wchar_t*, 4> kNoLabels = {L"", L"", L"", L""};
 constexpr std::array<const wchar_t*, 4> kArchiverLabels = {L"", kArchivation, L"", L""};
 
@@ -43,7 +43,7 @@ constexpr SeenOperation kSeenOperations[] = {
      false,
      true,
      L"Second Output folder ",
-     RuleIcon::kSecondOutputFolder,
+     editors::RuleIcon::kSecondOutputFolder,
      L"tttt",
      {L"Delete extension:", L"Add extension:", L"Accounting format:", L"Accounting copy format:"}},
     {L"DELE", false, false, L"", kCertificate, L"----", kNoLabels},
@@ -76,12 +76,12 @@ constexpr SeenOperation kSeenOperations[] = {
      false,
      true,
      L"Executable file:",
-     RuleIcon::kExecutable,
+     editors::RuleIcon::kExecutable,
      L"n---",
      {L"Execution timeout (min.):", L"", L"", L""}},
 };
 
-void ExpectRow(const RuleForm& form, std::size_t row, wchar_t kind) {
+void ExpectRow(const editors::RuleForm& form, std::size_t row, wchar_t kind) {
     EXPECT_EQ(form.texts[row].isShown, kind == L't') << "text of row " << row + 1;
     EXPECT_EQ(form.texts[row].isEnabled, form.texts[row].isShown) << "text of row " << row + 1;
     EXPECT_FALSE(form.texts[row].isReadOnly);
@@ -93,8 +93,8 @@ void ExpectRow(const RuleForm& form, std::size_t row, wchar_t kind) {
     }
 }
 
-void ExpectChoices(const RuleForm& form, const std::wstring& code) {
-    using List = corvane::TextList;
+void ExpectChoices(const editors::RuleForm& form, const std::wstring& code) {
+    using List = corvane::store::TextList;
     if (IsOneOf(code, L"ENCR DECR LENC LDEC SGEN DCCX")) {
         EXPECT_EQ(form.choices[1].entries, (List{L"No", L"ZIP archivation", L"GZIP archivation"}));
     } else if (IsOneOf(code, L"ARCH UNAR")) {
@@ -106,7 +106,7 @@ void ExpectChoices(const RuleForm& form, const std::wstring& code) {
     }
 }
 
-void ExpectSeen(const RuleForm& form, const SeenOperation& seen) {
+void ExpectSeen(const editors::RuleForm& form, const SeenOperation& seen) {
     EXPECT_EQ(form.csProfile.isShown, seen.hasCsProfile);
     EXPECT_EQ(form.csProfileLabel, seen.hasCsProfile ? L"CS profile: " : L"");
     EXPECT_EQ(form.outputFolder.isEnabled, seen.hasOutput);
@@ -122,34 +122,34 @@ void ExpectSeen(const RuleForm& form, const SeenOperation& seen) {
     }
     ExpectChoices(form, seen.code);
     // Never hidden, never disabled, whatever the operation.
-    for (const TextField* field : {&form.inputFolder, &form.errorFolder, &form.description}) {
+    for (const editors::TextField* field : {&form.inputFolder, &form.errorFolder, &form.description}) {
         EXPECT_TRUE(field->isShown && field->isEnabled && !field->isReadOnly);
     }
-    for (const IconButton* button : {&form.inputButton, &form.errorButton, &form.addMaskButton,
-                                     &form.editMaskButton, &form.deleteMaskButton}) {
+    for (const editors::IconButton* button : {&form.inputButton, &form.errorButton, &form.addMaskButton,
+                                              &form.editMaskButton, &form.deleteMaskButton}) {
         EXPECT_TRUE(button->isEnabled);
     }
     EXPECT_TRUE(form.operation.isShown && form.outputFolder.isShown && form.cert.isShown);
 }
 
 TEST(OperationLayout, HasTheCodesInTheOrderOfTheOperationChoice) {
-    const corvane::TextList codes = SplitEntries(OperationCode);
-    ASSERT_EQ(kOperationLayouts.size(), codes.size());
+    const corvane::store::TextList codes = store::SplitEntries(store::OperationCode);
+    ASSERT_EQ(editors::kOperationLayouts.size(), codes.size());
     ASSERT_EQ(kCodes.size(), codes.size());
     for (std::size_t index = 0; index < codes.size(); ++index) {
-        EXPECT_EQ(std::wstring(kOperationLayouts[index].code), codes[index]);
+        EXPECT_EQ(std::wstring(editors::kOperationLayouts[index].code), codes[index]);
         EXPECT_EQ(kCodes[index], codes[index]);
     }
 }
 
 TEST(OperationLayout, EveryOperationNamesItsOwnRowOfTheTable) {
-    EXPECT_EQ(LayoutOf(Operation::kEncrypt).code, L"ENCR");
-    EXPECT_EQ(LayoutOf(Operation::kMove).code, L"MOVE");
-    EXPECT_EQ(LayoutOf(Operation::kDelete).code, L"DELE");
-    EXPECT_EQ(LayoutOf(Operation::kResign).code, L"RESG");
-    EXPECT_EQ(LayoutOf(Operation::kArchive).code, L"ARCH");
-    EXPECT_EQ(LayoutOf(Operation::kPack).code, L"PACK");
-    EXPECT_EQ(LayoutOf(Operation::kExecute).code, L"EXEC");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kEncrypt).code, L"ENCR");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kMove).code, L"MOVE");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kDelete).code, L"DELE");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kResign).code, L"RESG");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kArchive).code, L"ARCH");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kPack).code, L"PACK");
+    EXPECT_EQ(editors::LayoutOf(editors::Operation::kExecute).code, L"EXEC");
 }
 
 TEST(OperationLayout, AnOpenedRuleShowsTheFieldsOfEachOfThe24Operations) {
@@ -164,7 +164,7 @@ TEST(OperationLayout, AChangeOfOperationShowsTheFieldsOfEachOperationWhereverItC
     for (const SeenOperation& from : kSeenOperations) {
         for (const SeenOperation& seen : kSeenOperations) {
             SCOPED_TRACE(Printable(from.code) + " to " + Printable(seen.code));
-            RuleForm form = Opened(FullRule(from.code));
+            editors::RuleForm form = Opened(FullRule(from.code));
             SelectOperation(form, seen.code);
             ExpectSeen(form, seen);
         }
@@ -172,16 +172,16 @@ TEST(OperationLayout, AChangeOfOperationShowsTheFieldsOfEachOperationWhereverItC
 }
 
 TEST(CertLabel, SaysWhatTheOperationWantsInTheField) {
-    for (std::size_t i = 0; i < kOperationLayouts.size(); ++i) {
+    for (std::size_t i = 0; i < editors::kOperationLayouts.size(); ++i) {
         const std::wstring code = kCodes[i];
         const wchar_t* const expected = IsOneOf(code, L"ENCR LENC SGEN")             ? L"Recipients:"
                                         : IsOneOf(code, L"CHCK CHKX DCHK RESG DCCX") ? L"Signer lists:"
                                         : code == L"MOVE" ? L"Second output folder:"
                                         : code == L"EXEC" ? L"Executable file:"
                                                           : L"Certificates:";
-        EXPECT_EQ(CertLabel(static_cast<Operation>(i)), expected) << Printable(code);
+        EXPECT_EQ(editors::CertLabel(static_cast<editors::Operation>(i)), expected) << Printable(code);
     }
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,13 +1,13 @@
-#include "editors/profile_validation.h"
+#include "editors/profile/profile_form.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/core/editors/sample_profiles.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
-using RefusedProfile = std::optional<ProfileRefusal>;
+using RefusedProfile = std::optional<editors::ProfileRefusal>;
 
 class ProfileCheck : public ::testing::Test {
   protected:
@@ -18,12 +18,14 @@ class ProfileCheck : public ::testing::Test {
 
     RefusedProfile CheckName(const std::wstring& name) {
         form_.result.name = name;
-        return CheckProfile(form_, {L"abc", L"default"});
+        return editors::CheckProfile(form_, {L"abc", L"default"});
     }
 
-    static RefusedProfile OfName(const wchar_t* text) { return ProfileRefusal{text, ProfileField::kName}; }
+    static RefusedProfile OfName(const wchar_t* text) {
+        return editors::ProfileRefusal{text, editors::ProfileField::kName};
+    }
 
-    ProfileForm form_;
+    editors::ProfileForm form_;
 };
 
 TEST_F(ProfileCheck, ACompleteProfilePasses) {
@@ -57,8 +59,9 @@ TEST_F(ProfileCheck, SixteenSpacesAreTooLongFirst) {
 
 TEST_F(ProfileCheck, ATimeoutOfZeroIsRefusedAndThereIsNoUpperBound) {
     form_.result.handlerTimeout = 0;
-    EXPECT_EQ(CheckName(L"beta"), RefusedProfile(ProfileRefusal{L"Please, choose handler timeout.",
-                                                                ProfileField::kHandlerTimeout}));
+    EXPECT_EQ(CheckName(L"beta"),
+              RefusedProfile(editors::ProfileRefusal{L"Please, choose handler timeout.",
+                                                     editors::ProfileField::kHandlerTimeout}));
     form_.result.handlerTimeout = 100000;
     EXPECT_EQ(CheckName(L"beta"), std::nullopt);
     form_.result.handlerTimeout = 2147483647;
@@ -85,8 +88,8 @@ TEST_F(ProfileCheck, NamesAreComparedWithTheirCaseAndBlanks) {
 
 TEST_F(ProfileCheck, AMissingTimeStampServerIsRefused) {
     form_.shown.timeStampServer.clear();
-    EXPECT_EQ(CheckName(L"beta"),
-              RefusedProfile(ProfileRefusal{L"Please, type TSP data.", ProfileField::kTimeStampServer}));
+    EXPECT_EQ(CheckName(L"beta"), RefusedProfile(editors::ProfileRefusal{
+                                      L"Please, type TSP data.", editors::ProfileField::kTimeStampServer}));
     form_.shown.timeStampServer = L"0";
     EXPECT_EQ(CheckName(L"beta"), std::nullopt);
 }
@@ -99,11 +102,13 @@ TEST_F(ProfileCheck, ANameWithABackslashIsRefused) {
 }
 
 TEST_F(ProfileCheck, TheChecksStandInTheirOrder) {
-    const corvane::TextList names = {L"a\\b"};
+    const corvane::store::TextList names = {L"a\\b"};
     form_.result.name = L"";
     form_.result.handlerTimeout = 0;
     form_.shown.timeStampServer.clear();
-    const auto text = [&] { return CheckProfile(form_, names).value_or(ProfileRefusal{}).text; };
+    const auto text = [&] {
+        return editors::CheckProfile(form_, names).value_or(editors::ProfileRefusal{}).text;
+    };
     EXPECT_EQ(text(), L"Please, type a name for profile.");
     form_.result.name = L"a\\b";
     EXPECT_EQ(text(), L"Please, choose handler timeout.");
@@ -116,4 +121,4 @@ TEST_F(ProfileCheck, TheChecksStandInTheirOrder) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,66 +1,66 @@
-#include "editors/rule_cert_command.h"
+#include "editors/rule/rule_cert_command.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/core/editors/sample_rules.h"
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 TEST(CertButtonCommand, OpensWhatTheOperationNeeds) {
     for (const std::wstring code : kCodes) {
-        const CertCommand expected = IsOneOf(code, L"ENCR LENC SGEN") ? CertCommand::kChooseRecipients
-                                     : IsOneOf(code, L"CHCK CHKX DCHK RESG DCCX")
-                                         ? CertCommand::kEditSignerLists
-                                     : code == L"MOVE" ? CertCommand::kPickFolder
-                                     : code == L"EXEC" ? CertCommand::kPickExecutable
-                                                       : CertCommand::kNone;
-        EXPECT_EQ(CertButtonCommand(Opened(FullRule(code))), expected) << Printable(code);
+        const editors::CertCommand expected =
+            IsOneOf(code, L"ENCR LENC SGEN")             ? editors::CertCommand::kChooseRecipients
+            : IsOneOf(code, L"CHCK CHKX DCHK RESG DCCX") ? editors::CertCommand::kEditSignerLists
+            : code == L"MOVE"                            ? editors::CertCommand::kPickFolder
+            : code == L"EXEC"                            ? editors::CertCommand::kPickExecutable
+                                                         : editors::CertCommand::kNone;
+        EXPECT_EQ(editors::CertButtonCommand(Opened(FullRule(code))), expected) << Printable(code);
     }
 }
 
 TEST(CertButtonCommand, TheExecutableIsPickedAmongAllFiles) {
-    EXPECT_STREQ(kExecutableFilter, L"All files (*.*)|*.*||");
-    EXPECT_STREQ(kExecutableDefaultExtension, L"*.*");
+    EXPECT_STREQ(editors::kExecutableFilter, L"All files (*.*)|*.*||");
+    EXPECT_STREQ(editors::kExecutableDefaultExtension, L"*.*");
 }
 
 TEST(SelectedCsProfileIndex, IsThatOfTheSelectedEntry) {
-    RuleForm form = Opened(FullRule(L"ENCR"));
-    EXPECT_EQ(CsProfileAt(form.profile, SelectedCsProfileIndex(form)).name, L"Second");
+    editors::RuleForm form = Opened(FullRule(L"ENCR"));
+    EXPECT_EQ(store::CsProfileAt(form.profile, editors::SelectedCsProfileIndex(form)).name, L"Second");
     form.csProfile.index = 0;
-    EXPECT_EQ(SelectedCsProfileIndex(form), 0U);
+    EXPECT_EQ(editors::SelectedCsProfileIndex(form), 0U);
 }
 
 TEST(SelectedCsProfileIndex, WithoutASelectionIsThatOfNoCsProfile) {
-    RuleForm form = Opened(FullRule(L"ENCR"));
+    editors::RuleForm form = Opened(FullRule(L"ENCR"));
     form.csProfile.index = -1;
-    EXPECT_EQ(CsProfileAt(form.profile, SelectedCsProfileIndex(form)), CsProfile());
+    EXPECT_EQ(store::CsProfileAt(form.profile, editors::SelectedCsProfileIndex(form)), store::CsProfile());
 }
 
 TEST(TakeCertPath, PutsThePathIntoTheCertificateField) {
-    RuleForm form = Opened(FullRule(L"MOVE"));
-    TakeCertPath(form, L"D:\\other");
+    editors::RuleForm form = Opened(FullRule(L"MOVE"));
+    editors::TakeCertPath(form, L"D:\\other");
     EXPECT_EQ(form.cert.text, L"D:\\other");
 }
 
 TEST(TakeRecipients, ReplacesThemAndShowsTheirNumber) {
-    RuleForm form = Opened(FullRule(L"ENCR"));
-    TakeRecipients(form, {L"CN=X", L"CN=Y", L"CN=Z"});
-    EXPECT_EQ(form.recipients, (corvane::TextList{L"CN=X", L"CN=Y", L"CN=Z"}));
+    editors::RuleForm form = Opened(FullRule(L"ENCR"));
+    editors::TakeRecipients(form, {L"CN=X", L"CN=Y", L"CN=Z"});
+    EXPECT_EQ(form.recipients, (corvane::store::TextList{L"CN=X", L"CN=Y", L"CN=Z"}));
     EXPECT_EQ(form.cert.text, L"3");
-    TakeRecipients(form, {});
+    editors::TakeRecipients(form, {});
     EXPECT_EQ(form.cert.text, L"0");
 }
 
 TEST(TakeSignerLists, ReplacesThemAndShowsTheirNumber) {
-    RuleForm form = Opened(FullRule(L"CHCK"));
-    TakeSignerLists(form, {{L"only", {L"CN=X"}}});
-    EXPECT_EQ(form.result.signerGroups, (std::vector<SignerGroup>{{L"only", {L"CN=X"}}}));
+    editors::RuleForm form = Opened(FullRule(L"CHCK"));
+    editors::TakeSignerLists(form, {{L"only", {L"CN=X"}}});
+    EXPECT_EQ(form.result.signerGroups, (std::vector<store::SignerGroup>{{L"only", {L"CN=X"}}}));
     EXPECT_EQ(form.cert.text, L"1");
-    TakeSignerLists(form, {});
+    editors::TakeSignerLists(form, {});
     EXPECT_EQ(form.cert.text, L"0");
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,18 +1,18 @@
-#include "editors/rule_commit.h"
+#include "editors/rule/rule_commit.h"
 
 #include <gtest/gtest.h>
 
-#include "editors/rule_operation_change.h"
+#include "editors/rule/rule_operation_change.h"
 #include "tests/core/editors/sample_rules.h"
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 // What a rule of the code keeps of a rule that has everything.
-Rule Kept(const std::wstring& code) {
-    const Rule full = FullRule(code);
-    Rule kept;
+store::Rule Kept(const std::wstring& code) {
+    const store::Rule full = FullRule(code);
+    store::Rule kept;
     kept.operation = code;
     kept.inputFolder = full.inputFolder;
     kept.errorFolder = full.errorFolder;
@@ -58,23 +58,23 @@ Rule Kept(const std::wstring& code) {
 
 TEST(CommitRule, ARuleOfEachOperationKeepsWhatItUsesAndNothingElse) {
     for (const std::wstring code : kCodes) {
-        EXPECT_EQ(CommitRule(Opened(FullRule(code))), Kept(code)) << Printable(code);
+        EXPECT_EQ(editors::CommitRule(Opened(FullRule(code))), Kept(code)) << Printable(code);
     }
 }
 
 TEST(CommitRule, ACommittedRuleThatIsOpenedAndCommittedAgainIsTheSame) {
     for (const std::wstring code : kCodes) {
         for (const std::int32_t archiveFormat : {0, 1, 2}) {
-            Rule rule = FullRule(code);
+            store::Rule rule = FullRule(code);
             rule.archiveFormat = archiveFormat;
-            const Rule committed = CommitRule(Opened(rule));
-            EXPECT_EQ(CommitRule(Opened(committed)), committed) << Printable(code);
+            const store::Rule committed = editors::CommitRule(Opened(rule));
+            EXPECT_EQ(editors::CommitRule(Opened(committed)), committed) << Printable(code);
         }
     }
 }
 
 TEST(CommitRule, AHashRuleThatWasOnceAMoveRuleDropsTheFieldsOfMoving) {
-    const Rule rule = CommitRule(Opened(FullRule(L"HASH")));
+    const store::Rule rule = editors::CommitRule(Opened(FullRule(L"HASH")));
     EXPECT_EQ(rule.secondOutput, L"");
     EXPECT_EQ(rule.deleteExtension, L"");
     EXPECT_EQ(rule.addExtension, L"");
@@ -84,16 +84,16 @@ TEST(CommitRule, AHashRuleThatWasOnceAMoveRuleDropsTheFieldsOfMoving) {
 
 TEST(CommitRule, TheLegacyMaskIsNeverWritten) {
     for (const std::wstring code : kCodes) {
-        EXPECT_EQ(CommitRule(Opened(FullRule(code))).legacyMask, L"");
+        EXPECT_EQ(editors::CommitRule(Opened(FullRule(code))).legacyMask, L"");
     }
 }
 
 TEST(CommitRule, EveryRuleIsSwitchedOn) {
     for (const std::int32_t isOn : {0, 1, 5}) {
         for (const std::wstring code : kCodes) {
-            Rule rule = FullRule(code);
+            store::Rule rule = FullRule(code);
             rule.isOn = isOn;
-            EXPECT_EQ(CommitRule(Opened(rule)).isOn, 1);
+            EXPECT_EQ(editors::CommitRule(Opened(rule)).isOn, 1);
         }
     }
 }
@@ -104,9 +104,9 @@ TEST(CommitRule, ARuleAfterAChangeOfOperationHoldsOnlyWhatItsOwnOperationUses) {
             if (from == to) {
                 continue;
             }
-            RuleForm form = Opened(FullRule(from));
+            editors::RuleForm form = Opened(FullRule(from));
             SelectOperation(form, to);
-            const Rule rule = CommitRule(form);
+            const store::Rule rule = editors::CommitRule(form);
             SCOPED_TRACE(Printable(from) + " to " + Printable(to));
             EXPECT_EQ(rule.operation, to);
             EXPECT_EQ(rule.secondOutput + rule.deleteExtension + rule.addExtension + rule.folders +
@@ -126,47 +126,47 @@ TEST(CommitRule, ARuleAfterAChangeOfOperationHoldsOnlyWhatItsOwnOperationUses) {
 
 // Signer lists outlive executing in the editor, but an executing rule has none.
 TEST(CommitRule, AnExecuteRuleThatWasAVerifyingOneCommitsNoSignerLists) {
-    RuleForm form = Opened(FullRule(L"CHCK"));
+    editors::RuleForm form = Opened(FullRule(L"CHCK"));
     SelectOperation(form, L"EXEC");
     ASSERT_EQ(form.result.signerGroups.size(), 3U);
-    EXPECT_TRUE(CommitRule(form).signerGroups.empty());
+    EXPECT_TRUE(editors::CommitRule(form).signerGroups.empty());
 }
 
 TEST(CommitRule, AnArchiveRuleThatWasAnEncryptingOneKeepsTheArchiver) {
     for (const std::int32_t archiveFormat : {1, 2}) {
-        Rule rule = FullRule(L"ENCR");
+        store::Rule rule = FullRule(L"ENCR");
         rule.archiveFormat = archiveFormat;
-        RuleForm form = Opened(rule);
+        editors::RuleForm form = Opened(rule);
         SelectOperation(form, L"ARCH");
-        EXPECT_EQ(CommitRule(form).archiveFormat, archiveFormat);
+        EXPECT_EQ(editors::CommitRule(form).archiveFormat, archiveFormat);
         SelectOperation(form, L"DECR");
-        EXPECT_EQ(CommitRule(form).archiveFormat, archiveFormat);
+        EXPECT_EQ(editors::CommitRule(form).archiveFormat, archiveFormat);
     }
 }
 
 TEST(CommitRule, AnArchiveRuleAlwaysHasAnArchiver) {
-    RuleForm form = Opened(Rule());
+    editors::RuleForm form = Opened(store::Rule());
     SelectOperation(form, L"ARCH");
-    EXPECT_EQ(CommitRule(form).archiveFormat, 1);
+    EXPECT_EQ(editors::CommitRule(form).archiveFormat, 1);
     form.choices[1].index = 1;
-    EXPECT_EQ(CommitRule(form).archiveFormat, 2);
+    EXPECT_EQ(editors::CommitRule(form).archiveFormat, 2);
     form.choices[1].index = -1;
-    EXPECT_EQ(CommitRule(form).archiveFormat, 1);
+    EXPECT_EQ(editors::CommitRule(form).archiveFormat, 1);
 }
 
 TEST(CommitRule, ADeleteRuleHasNoOutputFolderWhateverStandsInTheDisabledField) {
-    RuleForm form = Opened(FullRule(L"DELE"));
+    editors::RuleForm form = Opened(FullRule(L"DELE"));
     form.outputFolder.text = L"C:\\put in";
-    EXPECT_EQ(CommitRule(form).outputFolder, L"");
+    EXPECT_EQ(editors::CommitRule(form).outputFolder, L"");
 }
 
 TEST(CommitRule, TextsAreNeitherTrimmedNorFolded) {
-    RuleForm form = Opened(FullRule(L"MOVE"));
+    editors::RuleForm form = Opened(FullRule(L"MOVE"));
     form.inputFolder.text = L" C:\\In ";
     form.description.text = L"  Two\r\n Lines ";
     form.cert.text = L" D:\\Second ";
     form.texts[1].text = L" .ADD ";
-    const Rule rule = CommitRule(form);
+    const store::Rule rule = editors::CommitRule(form);
     EXPECT_EQ(rule.inputFolder, L" C:\\In ");
     EXPECT_EQ(rule.description, L"  Two\r\n Lines ");
     EXPECT_EQ(rule.secondOutput, L" D:\\Second ");
@@ -174,12 +174,12 @@ TEST(CommitRule, TextsAreNeitherTrimmedNorFolded) {
 }
 
 TEST(CommitRule, WhatTheUserSelectedIsWritten) {
-    RuleForm form = Opened(FullRule(L"RESG"));
+    editors::RuleForm form = Opened(FullRule(L"RESG"));
     form.csProfile.index = 2;
     form.choices[0].index = 0;
     form.choices[1].index = 1;
     form.choices[2].index = 0;
-    const Rule rule = CommitRule(form);
+    const store::Rule rule = editors::CommitRule(form);
     EXPECT_EQ(rule.csProfile, L"Third");
     EXPECT_EQ(rule.inputDetached, 0);
     EXPECT_EQ(rule.outputDetached, 1);
@@ -187,21 +187,21 @@ TEST(CommitRule, WhatTheUserSelectedIsWritten) {
 }
 
 TEST(CommitRule, AListWithoutASelectionGivesNoName) {
-    RuleForm form = Opened(FullRule(L"RESG"));
+    editors::RuleForm form = Opened(FullRule(L"RESG"));
     for (const int index : {-1, 3}) {
         form.csProfile.index = index;
         form.choices[2].index = index;
-        EXPECT_EQ(CommitRule(form).csProfile, L"");
-        EXPECT_EQ(CommitRule(form).resignProfile, L"");
+        EXPECT_EQ(editors::CommitRule(form).csProfile, L"");
+        EXPECT_EQ(editors::CommitRule(form).resignProfile, L"");
     }
 }
 
 TEST(CommitRule, LeavesTheFormAsItWas) {
-    const RuleForm form = Opened(FullRule(L"ENCR"));
-    const Rule once = CommitRule(form);
-    EXPECT_EQ(CommitRule(form), once);
+    const editors::RuleForm form = Opened(FullRule(L"ENCR"));
+    const store::Rule once = editors::CommitRule(form);
+    EXPECT_EQ(editors::CommitRule(form), once);
     EXPECT_EQ(once.recipients.size(), 2U);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,15 +1,14 @@
-#include "editors/rule_cs_profile_change.h"
+#include "editors/rule/rule_cs_profile_change.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
-#include "editors/rule_opening.h"
+#include "editors/rule/rule_opening.h"
+#include "reporting/message_styles.h"
 #include "tests/core/editors/sample_rules.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
@@ -25,23 +24,23 @@ class CsProfileChange : public ::testing::Test {
   protected:
     CsProfileChange() { fixture_.presenter.MakeLive(dialog_); }
 
-    void Open(const Rule& rule) { form_ = OpenRule(SampleProfile(), rule, accepted_); }
+    void Open(const store::Rule& rule) { form_ = editors::OpenRule(SampleProfile(), rule, accepted_); }
 
     void SelectCsProfile(int index) {
         form_.csProfile.index = index;
-        ChangeCsProfile(form_, accepted_, fixture_.reporter, dialog_);
+        editors::ChangeCsProfile(form_, accepted_, fixture_.reporter, dialog_);
     }
 
     [[nodiscard]] ShownBox Question(const wchar_t* text) const {
-        return {.owner = dialog_, .text = text, .title = AppTitle, .style = 0x124};
+        return {.owner = dialog_, .text = text, .title = reporting::AppTitle, .style = 0x124};
     }
 
     [[nodiscard]] const std::vector<ShownBox>& Boxes() const { return fixture_.presenter.Boxes(); }
 
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(7);
     ReporterFixture fixture_;
-    AcceptedCsProfile accepted_;
-    RuleForm form_;
+    editors::AcceptedCsProfile accepted_;
+    editors::RuleForm form_;
 };
 
 TEST_F(CsProfileChange, WithoutCertificatesIsAcceptedWithoutAQuestion) {
@@ -61,7 +60,7 @@ TEST_F(CsProfileChange, ToTheAcceptedOneAsksNothing) {
 
 TEST_F(CsProfileChange, WithRecipientsAndNoRestoresTheSelectionAndKeepsThem) {
     Open(FullRule(L"ENCR"));
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(2);
     EXPECT_EQ(form_.csProfile.index, 1);
     EXPECT_EQ(accepted_.index, 1);
@@ -71,7 +70,7 @@ TEST_F(CsProfileChange, WithRecipientsAndNoRestoresTheSelectionAndKeepsThem) {
 }
 
 TEST_F(CsProfileChange, AnyAnswerButYesIsANo) {
-    for (const int answer : {kAnswerOk, kAnswerCancel, kAnswerNo, 0}) {
+    for (const int answer : {reporting::kAnswerOk, reporting::kAnswerCancel, reporting::kAnswerNo, 0}) {
         Open(FullRule(L"ENCR"));
         fixture_.presenter.AnswerNext(answer);
         SelectCsProfile(0);
@@ -82,7 +81,7 @@ TEST_F(CsProfileChange, AnyAnswerButYesIsANo) {
 
 TEST_F(CsProfileChange, WithRecipientsAndYesClearsThemAndShowsZero) {
     Open(FullRule(L"ENCR"));
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     SelectCsProfile(2);
     EXPECT_EQ(form_.csProfile.index, 2);
     EXPECT_EQ(accepted_.index, 2);
@@ -92,7 +91,7 @@ TEST_F(CsProfileChange, WithRecipientsAndYesClearsThemAndShowsZero) {
 
 TEST_F(CsProfileChange, WithSignerListsAndNoRestoresTheSelectionAndKeepsThem) {
     Open(FullRule(L"CHCK"));
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(0);
     EXPECT_EQ(form_.csProfile.index, 1);
     EXPECT_EQ(form_.result.signerGroups.size(), 3U);
@@ -102,7 +101,7 @@ TEST_F(CsProfileChange, WithSignerListsAndNoRestoresTheSelectionAndKeepsThem) {
 
 TEST_F(CsProfileChange, WithSignerListsAndYesClearsThemAndShowsZero) {
     Open(FullRule(L"CHCK"));
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     SelectCsProfile(0);
     EXPECT_EQ(accepted_.index, 0);
     EXPECT_THAT(form_.result.signerGroups, IsEmpty());
@@ -112,8 +111,8 @@ TEST_F(CsProfileChange, WithSignerListsAndYesClearsThemAndShowsZero) {
 TEST_F(CsProfileChange, RecipientsThatWereClearedStayClearedWhenTheSignerListsMustStay) {
     Open(FullRule(L"CHCK"));
     form_.recipients = {L"CN=A"};
-    fixture_.presenter.AnswerNext(kAnswerYes);
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(0);
     EXPECT_THAT(Boxes(), ElementsAre(Question(kRecipientsQuestion), Question(kSignersQuestion)));
     EXPECT_THAT(form_.recipients, IsEmpty());
@@ -124,10 +123,10 @@ TEST_F(CsProfileChange, RecipientsThatWereClearedStayClearedWhenTheSignerListsMu
 
 TEST_F(CsProfileChange, IsGuardedAgainAfterAnAcceptedOne) {
     Open(FullRule(L"ENCR"));
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     SelectCsProfile(2);
     form_.recipients = {L"CN=C"};
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(0);
     EXPECT_EQ(form_.csProfile.index, 2);
     EXPECT_THAT(Boxes(), SizeIs(2));
@@ -136,7 +135,7 @@ TEST_F(CsProfileChange, IsGuardedAgainAfterAnAcceptedOne) {
 // Deliberate: one index for the whole program, and opening a new rule does not set it.
 TEST_F(CsProfileChange, OfANewRuleIsNotGuardedTowardsTheOneOfTheRuleOpenedBefore) {
     Open(FullRule(L"HASH"));
-    Open(Rule());
+    Open(store::Rule());
     form_.recipients = {L"CN=A"};
     SelectCsProfile(1);
     EXPECT_EQ(form_.csProfile.index, 1);
@@ -147,17 +146,17 @@ TEST_F(CsProfileChange, OfANewRuleIsNotGuardedTowardsTheOneOfTheRuleOpenedBefore
 // Deliberate as well: the selection goes back to that index, which this rule may never have had.
 TEST_F(CsProfileChange, OfANewRuleGoesBackToTheOneOfTheRuleOpenedBefore) {
     Open(FullRule(L"HASH"));
-    Open(Rule());
+    Open(store::Rule());
     form_.recipients = {L"CN=A"};
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(2);
     EXPECT_EQ(form_.csProfile.index, 1);
 }
 
 TEST_F(CsProfileChange, OfANewRuleWithNothingOpenedBeforeIsGuardedFromTheFirst) {
-    Open(Rule());
+    Open(store::Rule());
     form_.recipients = {L"CN=A"};
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(2);
     EXPECT_EQ(form_.csProfile.index, 0);
     EXPECT_THAT(Boxes(), SizeIs(1));
@@ -165,17 +164,17 @@ TEST_F(CsProfileChange, OfANewRuleWithNothingOpenedBeforeIsGuardedFromTheFirst) 
 
 TEST_F(CsProfileChange, GoesBackToTheOneBeforeWhereTheAcceptedOneDoesNotExistHere) {
     accepted_.index = 9;
-    Open(Rule());
+    Open(store::Rule());
     form_.recipients = {L"CN=A"};
-    fixture_.presenter.AnswerNext(kAnswerNo);
+    fixture_.presenter.AnswerNext(reporting::kAnswerNo);
     SelectCsProfile(2);
     EXPECT_EQ(form_.csProfile.index, 0);
     EXPECT_EQ(accepted_.index, 9);
-    fixture_.presenter.AnswerNext(kAnswerYes);
+    fixture_.presenter.AnswerNext(reporting::kAnswerYes);
     SelectCsProfile(1);
     EXPECT_EQ(form_.csProfile.index, 1);
     EXPECT_EQ(accepted_.index, 1);
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

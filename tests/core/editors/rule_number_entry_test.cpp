@@ -1,4 +1,4 @@
-#include "editors/rule_number_entry.h"
+#include "editors/rule/rule_form.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 struct Entry {
@@ -16,8 +16,8 @@ struct Entry {
 };
 
 void Expect(const Entry& entry) {
-    NumberField field{.number = 5, .isShown = true};
-    EXPECT_EQ(OnNumberTextChanged(field, entry.text), entry.correction) << Printable(entry.text);
+    editors::NumberField field{.number = 5, .isShown = true};
+    EXPECT_EQ(editors::OnNumberTextChanged(field, entry.text), entry.correction) << Printable(entry.text);
     EXPECT_EQ(field.number, entry.number) << Printable(entry.text);
 }
 
@@ -56,14 +56,14 @@ TEST(OnNumberTextChanged, PastedTextIsCutDownToItsNumber) {
 
 TEST(OnNumberTextChanged, WhatIsPutBackStandsWhenItsOwnChangeIsToldOf) {
     for (const wchar_t* const text : {L"-1", L"99999999999", L"abc", L"12abc"}) {
-        NumberField field;
-        const std::optional<std::wstring> correction = OnNumberTextChanged(field, text);
+        editors::NumberField field;
+        const std::optional<std::wstring> correction = editors::OnNumberTextChanged(field, text);
         ASSERT_TRUE(correction.has_value());
         const std::int32_t number = field.number;
-        EXPECT_EQ(OnNumberTextChanged(field, *correction), std::nullopt);
+        EXPECT_EQ(editors::OnNumberTextChanged(field, *correction), std::nullopt);
         EXPECT_EQ(field.number, number);
     }
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "editors/rule_opening.h"
+#include "editors/rule/rule_opening.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,15 +7,15 @@
 
 #include "tests/core/editors/sample_rules.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 
-Rule RuleWith(const std::wstring& code, std::int32_t archiveFormat) {
-    Rule rule = FullRule(code);
+store::Rule RuleWith(const std::wstring& code, std::int32_t archiveFormat) {
+    store::Rule rule = FullRule(code);
     rule.archiveFormat = archiveFormat;
     return rule;
 }
@@ -25,38 +25,38 @@ int ArchiverShownFor(const std::wstring& code, std::int32_t archiveFormat) {
 }
 
 TEST(OpenRule, ANewRuleIsAdded) {
-    const RuleForm form = Opened(Rule());
+    const editors::RuleForm form = Opened(store::Rule());
     EXPECT_TRUE(form.isNew);
     EXPECT_EQ(form.title, L"Add rule");
     EXPECT_EQ(form.exitText, L"Exit");
 }
 
 TEST(OpenRule, ARuleWithAnOperationIsEdited) {
-    const RuleForm form = Opened(FullRule(L"HASH"));
+    const editors::RuleForm form = Opened(FullRule(L"HASH"));
     EXPECT_FALSE(form.isNew);
     EXPECT_EQ(form.title, L"Edit rule");
     EXPECT_EQ(form.exitText, L"Exit");
 }
 
 TEST(OpenRule, ButtonsAndLabelsHaveTheirTextsAndPictures) {
-    const RuleForm form = Opened(Rule());
+    const editors::RuleForm form = Opened(store::Rule());
     EXPECT_EQ(form.descriptionLabel, L"Descrip\ntion");
     EXPECT_EQ(form.inputButton.toolTip, L"Input folder");
-    EXPECT_EQ(form.inputButton.icon, RuleIcon::kInputFolder);
+    EXPECT_EQ(form.inputButton.icon, editors::RuleIcon::kInputFolder);
     EXPECT_EQ(form.outputButton.toolTip, L"Output folder");
-    EXPECT_EQ(form.outputButton.icon, RuleIcon::kOutputFolder);
+    EXPECT_EQ(form.outputButton.icon, editors::RuleIcon::kOutputFolder);
     EXPECT_EQ(form.errorButton.toolTip, L"Error folder");
-    EXPECT_EQ(form.errorButton.icon, RuleIcon::kErrorFolder);
+    EXPECT_EQ(form.errorButton.icon, editors::RuleIcon::kErrorFolder);
     EXPECT_EQ(form.addMaskButton.toolTip, L"Add");
-    EXPECT_EQ(form.addMaskButton.icon, RuleIcon::kAddMask);
+    EXPECT_EQ(form.addMaskButton.icon, editors::RuleIcon::kAddMask);
     EXPECT_EQ(form.editMaskButton.toolTip, L"Edit");
-    EXPECT_EQ(form.editMaskButton.icon, RuleIcon::kEditMask);
+    EXPECT_EQ(form.editMaskButton.icon, editors::RuleIcon::kEditMask);
     EXPECT_EQ(form.deleteMaskButton.toolTip, L"Delete");
-    EXPECT_EQ(form.deleteMaskButton.icon, RuleIcon::kDeleteMask);
+    EXPECT_EQ(form.deleteMaskButton.icon, editors::RuleIcon::kDeleteMask);
 }
 
 TEST(OpenRule, TheOperationsStandUnsortedInTheirOrder) {
-    const RuleForm form = Opened(Rule());
+    const editors::RuleForm form = Opened(store::Rule());
     ASSERT_EQ(form.operation.entries.size(), 24U);
     EXPECT_EQ(form.operation.entries[0], L"Encrypt");
     EXPECT_EQ(form.operation.entries[1], L"Decrypt");
@@ -66,36 +66,36 @@ TEST(OpenRule, TheOperationsStandUnsortedInTheirOrder) {
 }
 
 TEST(OpenRule, TheCsProfilesStandInTheOrderOfTheProfile) {
-    const RuleForm form = Opened(FullRule(L"RESG"));
+    const editors::RuleForm form = Opened(FullRule(L"RESG"));
     EXPECT_THAT(form.csProfile.entries, ElementsAre(L"First", L"Second", L"Third"));
     EXPECT_EQ(form.choices[2].entries, form.csProfile.entries);
 }
 
 TEST(OpenRule, ANewRuleIsAnEmptyEncryptRule) {
-    const RuleForm form = Opened(Rule());
+    const editors::RuleForm form = Opened(store::Rule());
     EXPECT_EQ(form.operation.index, 0);
     EXPECT_EQ(form.csProfile.index, 0);
-    for (const TextField* field :
+    for (const editors::TextField* field :
          {&form.inputFolder, &form.outputFolder, &form.errorFolder, &form.description}) {
         EXPECT_EQ(field->text, L"");
     }
     EXPECT_EQ(form.cert.text, L"0");
     EXPECT_THAT(form.recipients, IsEmpty());
-    EXPECT_EQ(form.result, Rule());
+    EXPECT_EQ(form.result, store::Rule());
     EXPECT_THAT(form.choices[1].entries, ElementsAre(L"No", L"ZIP archivation", L"GZIP archivation"));
     EXPECT_EQ(form.choices[1].index, 0);
     EXPECT_EQ(form.rowLabels[1], L"Use archivation:");
 }
 
 TEST(OpenRule, ANewRuleTakesNothingElseFromTheRuleHandedIn) {
-    const RuleForm form = Opened(FullRule(L""));
+    const editors::RuleForm form = Opened(FullRule(L""));
     EXPECT_EQ(form.title, L"Add rule");
     EXPECT_EQ(form.inputFolder.text, L"");
     EXPECT_EQ(form.description.text, L"");
     EXPECT_EQ(form.csProfile.index, 0);
     EXPECT_EQ(form.choices[1].index, 0);
     EXPECT_THAT(form.recipients, IsEmpty());
-    EXPECT_EQ(form.result, Rule());
+    EXPECT_EQ(form.result, store::Rule());
 }
 
 TEST(OpenRule, EveryOperationIsSelectedByItsCode) {
@@ -106,8 +106,8 @@ TEST(OpenRule, EveryOperationIsSelectedByItsCode) {
 
 TEST(OpenRule, ARuleWithAnUnknownOperationOpensAsEncryptWithItsFoldersDescriptionAndMasks) {
     for (const wchar_t* const code : {L"XXXX", L"encr", L"ENCR ", L"ENC", L"Encrypt", L"\n"}) {
-        const Rule rule = FullRule(code);
-        const RuleForm form = Opened(rule);
+        const store::Rule rule = FullRule(code);
+        const editors::RuleForm form = Opened(rule);
         EXPECT_FALSE(form.isNew);
         EXPECT_EQ(form.title, L"Edit rule");
         EXPECT_EQ(form.operation.index, 0);
@@ -122,8 +122,8 @@ TEST(OpenRule, ARuleWithAnUnknownOperationOpensAsEncryptWithItsFoldersDescriptio
 
 TEST(OpenRule, EveryOperationLoadsFoldersDescriptionAndMasks) {
     for (const std::wstring code : kCodes) {
-        const Rule rule = FullRule(code);
-        const RuleForm form = Opened(rule);
+        const store::Rule rule = FullRule(code);
+        const editors::RuleForm form = Opened(rule);
         EXPECT_EQ(form.inputFolder.text, rule.inputFolder);
         EXPECT_EQ(form.outputFolder.text, code == L"DELE" ? L"" : rule.outputFolder);
         EXPECT_EQ(form.errorFolder.text, rule.errorFolder);
@@ -133,7 +133,7 @@ TEST(OpenRule, EveryOperationLoadsFoldersDescriptionAndMasks) {
 }
 
 TEST(OpenRule, ADeleteRuleOpensWithTheOutputFolderAndItsButtonDisabledAndTheFolderEmpty) {
-    const RuleForm form = Opened(FullRule(L"DELE"));
+    const editors::RuleForm form = Opened(FullRule(L"DELE"));
     EXPECT_FALSE(form.outputFolder.isEnabled);
     EXPECT_FALSE(form.outputButton.isEnabled);
     EXPECT_EQ(form.outputFolder.text, L"");
@@ -141,7 +141,7 @@ TEST(OpenRule, ADeleteRuleOpensWithTheOutputFolderAndItsButtonDisabledAndTheFold
 
 TEST(OpenRule, RecipientOperationsLoadTheRecipientsAndShowTheirNumber) {
     for (const std::wstring code : {L"ENCR", L"LENC", L"SGEN"}) {
-        const RuleForm form = Opened(FullRule(code));
+        const editors::RuleForm form = Opened(FullRule(code));
         EXPECT_THAT(form.recipients, ElementsAre(L"CN=A", L"CN=B"));
         EXPECT_EQ(form.cert.text, L"2");
         EXPECT_THAT(form.result.signerGroups, IsEmpty());
@@ -150,8 +150,8 @@ TEST(OpenRule, RecipientOperationsLoadTheRecipientsAndShowTheirNumber) {
 
 TEST(OpenRule, SignerOperationsLoadTheSignerListsAndShowTheirNumber) {
     for (const std::wstring code : {L"CHCK", L"CHKX", L"DCHK", L"RESG", L"DCCX"}) {
-        const Rule rule = FullRule(code);
-        const RuleForm form = Opened(rule);
+        const store::Rule rule = FullRule(code);
+        const editors::RuleForm form = Opened(rule);
         EXPECT_THAT(form.result.signerGroups, ElementsAreArray(rule.signerGroups));
         EXPECT_EQ(form.cert.text, L"3");
         EXPECT_EQ(form.certButton.toolTip, L"Add signers");
@@ -164,7 +164,7 @@ TEST(OpenRule, OtherOperationsShowZeroAndTakeNoCertificates) {
         if (IsOneOf(code, L"ENCR LENC SGEN CHCK CHKX DCHK RESG DCCX MOVE EXEC")) {
             continue;
         }
-        const RuleForm form = Opened(FullRule(code));
+        const editors::RuleForm form = Opened(FullRule(code));
         EXPECT_EQ(form.cert.text, L"0");
         EXPECT_THAT(form.recipients, IsEmpty());
         EXPECT_THAT(form.result.signerGroups, IsEmpty());
@@ -172,7 +172,7 @@ TEST(OpenRule, OtherOperationsShowZeroAndTakeNoCertificates) {
 }
 
 TEST(OpenRule, AMoveRuleLoadsItsPathAndFourTexts) {
-    const RuleForm form = Opened(FullRule(L"MOVE"));
+    const editors::RuleForm form = Opened(FullRule(L"MOVE"));
     EXPECT_EQ(form.cert.text, L"C:\\second");
     EXPECT_FALSE(form.cert.isReadOnly);
     EXPECT_EQ(form.texts[0].text, L"del");
@@ -182,7 +182,7 @@ TEST(OpenRule, AMoveRuleLoadsItsPathAndFourTexts) {
 }
 
 TEST(OpenRule, AMoveRuleWithSecondOutputZeroOpensWithAnEmptySecondOutputFolder) {
-    Rule rule = FullRule(L"MOVE");
+    store::Rule rule = FullRule(L"MOVE");
     rule.secondOutput = L"0";
     EXPECT_EQ(Opened(rule).cert.text, L"");
     rule.secondOutput = L"00";
@@ -190,20 +190,20 @@ TEST(OpenRule, AMoveRuleWithSecondOutputZeroOpensWithAnEmptySecondOutputFolder) 
 }
 
 TEST(OpenRule, AnExecuteRuleLoadsItsPathAndTimeout) {
-    const RuleForm form = Opened(FullRule(L"EXEC"));
+    const editors::RuleForm form = Opened(FullRule(L"EXEC"));
     EXPECT_EQ(form.cert.text, L"C:\\run.exe");
     EXPECT_EQ(form.numbers[0].number, 14);
     EXPECT_EQ(form.rowLabels[0], L"Execution timeout (min.):");
 }
 
 TEST(OpenRule, AnExecuteRuleWithExecutableZeroOpensWithAnEmptyPath) {
-    Rule rule = FullRule(L"EXEC");
+    store::Rule rule = FullRule(L"EXEC");
     rule.executable = L"0";
     EXPECT_EQ(Opened(rule).cert.text, L"");
 }
 
 TEST(OpenRule, APackRuleLoadsItsNumbersAndName) {
-    const RuleForm form = Opened(FullRule(L"PACK"));
+    const editors::RuleForm form = Opened(FullRule(L"PACK"));
     EXPECT_EQ(form.numbers[0].number, 11);
     EXPECT_EQ(form.numbers[1].number, 12);
     EXPECT_EQ(form.numbers[2].number, 13);
@@ -212,9 +212,9 @@ TEST(OpenRule, APackRuleLoadsItsNumbersAndName) {
 
 TEST(OpenRule, AStoredNegativeNumberShowsAsZero) {
     for (const std::int32_t number : {-1, std::numeric_limits<std::int32_t>::min()}) {
-        Rule rule = FullRule(L"PACK");
+        store::Rule rule = FullRule(L"PACK");
         rule.archiveFileCount = rule.archiveSize = rule.archiveTimeout = rule.executionTimeout = number;
-        for (const NumberField& field : Opened(rule).numbers) {
+        for (const editors::NumberField& field : Opened(rule).numbers) {
             EXPECT_EQ(field.number, 0);
         }
         rule.operation = L"EXEC";
@@ -223,7 +223,7 @@ TEST(OpenRule, AStoredNegativeNumberShowsAsZero) {
 }
 
 TEST(OpenRule, TheLargestStoredNumberIsShown) {
-    Rule rule = FullRule(L"PACK");
+    store::Rule rule = FullRule(L"PACK");
     rule.archiveSize = std::numeric_limits<std::int32_t>::max();
     EXPECT_EQ(Opened(rule).numbers[1].number, 2147483647);
 }
@@ -250,7 +250,7 @@ TEST(OpenRule, AStoredFormatThatTheListDoesNotHoldShowsItsFirstEntry) {
 }
 
 TEST(OpenRule, AResignRuleLoadsItsFormatsAndNewProfile) {
-    const RuleForm form = Opened(FullRule(L"RESG"));
+    const editors::RuleForm form = Opened(FullRule(L"RESG"));
     EXPECT_EQ(form.choices[0].index, 1);
     EXPECT_EQ(form.choices[1].index, 1);
     EXPECT_EQ(form.choices[2].index, 2);
@@ -259,7 +259,7 @@ TEST(OpenRule, AResignRuleLoadsItsFormatsAndNewProfile) {
 // Deliberate: the client takes every number but 0 for detached, this editor only 1.
 TEST(OpenRule, AResignFormatOtherThanOneShowsAsAttached) {
     for (const std::int32_t format : {0, 2, -1}) {
-        Rule rule = FullRule(L"RESG");
+        store::Rule rule = FullRule(L"RESG");
         rule.inputDetached = rule.outputDetached = format;
         EXPECT_EQ(Opened(rule).choices[0].index, 0);
         EXPECT_EQ(Opened(rule).choices[1].index, 0);
@@ -267,7 +267,7 @@ TEST(OpenRule, AResignFormatOtherThanOneShowsAsAttached) {
 }
 
 TEST(OpenRule, ANewSignatureProfileThatTheProfileLacksShowsTheFirst) {
-    Rule rule = FullRule(L"RESG");
+    store::Rule rule = FullRule(L"RESG");
     rule.resignProfile = L"Gone";
     EXPECT_EQ(Opened(rule).choices[2].index, 0);
 }
@@ -278,39 +278,39 @@ TEST(OpenRule, TheRulesCsProfileIsSelected) {
 
 TEST(OpenRule, ACsProfileThatTheProfileLacksShowsTheFirst) {
     for (const wchar_t* const name : {L"Gone", L"second", L""}) {
-        Rule rule = FullRule(L"HASH");
+        store::Rule rule = FullRule(L"HASH");
         rule.csProfile = name;
         EXPECT_EQ(Opened(rule).csProfile.index, 0);
     }
 }
 
 TEST(OpenRule, AProfileWithoutCsProfilesOpensWithEmptyLists) {
-    AcceptedCsProfile accepted;
-    const RuleForm form = OpenRule(Profile(), FullRule(L"RESG"), accepted);
+    editors::AcceptedCsProfile accepted;
+    const editors::RuleForm form = editors::OpenRule(store::Profile(), FullRule(L"RESG"), accepted);
     EXPECT_THAT(form.csProfile.entries, IsEmpty());
     EXPECT_THAT(form.choices[2].entries, IsEmpty());
     EXPECT_EQ(form.inputFolder.text, L"C:\\in");
 }
 
 TEST(OpenRule, AnExistingRuleSetsTheAcceptedCsProfile) {
-    AcceptedCsProfile accepted{7};
-    static_cast<void>(OpenRule(SampleProfile(), FullRule(L"ENCR"), accepted));
+    editors::AcceptedCsProfile accepted{7};
+    static_cast<void>(editors::OpenRule(SampleProfile(), FullRule(L"ENCR"), accepted));
     EXPECT_EQ(accepted.index, 1);
 }
 
 // Deliberate: what counts for a new rule is still the rule that was opened before it.
 TEST(OpenRule, ANewRuleLeavesTheAcceptedCsProfileAsItWas) {
-    AcceptedCsProfile accepted{7};
-    const RuleForm form = OpenRule(SampleProfile(), Rule(), accepted);
+    editors::AcceptedCsProfile accepted{7};
+    const editors::RuleForm form = editors::OpenRule(SampleProfile(), store::Rule(), accepted);
     EXPECT_EQ(accepted.index, 7);
     EXPECT_EQ(form.csProfile.index, 0);
 }
 
 TEST(OpenRule, LeavesTheRuleAndTheProfileAsTheyWere) {
-    const Profile profile = SampleProfile();
-    const Rule rule = FullRule(L"ENCR");
-    AcceptedCsProfile accepted;
-    RuleForm form = OpenRule(profile, rule, accepted);
+    const store::Profile profile = SampleProfile();
+    const store::Rule rule = FullRule(L"ENCR");
+    editors::AcceptedCsProfile accepted;
+    editors::RuleForm form = editors::OpenRule(profile, rule, accepted);
     form.recipients.clear();
     form.result.masks.clear();
     form.profile.csProfiles.clear();
@@ -319,4 +319,4 @@ TEST(OpenRule, LeavesTheRuleAndTheProfileAsTheyWere) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

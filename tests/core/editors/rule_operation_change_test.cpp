@@ -1,4 +1,4 @@
-#include "editors/rule_operation_change.h"
+#include "editors/rule/rule_operation_change.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,26 +6,26 @@
 #include "tests/core/editors/described_form.h"
 #include "tests/core/editors/sample_rules.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-RuleForm OpenedWithArchiver(const std::wstring& code, std::int32_t archiveFormat) {
-    Rule rule = FullRule(code);
+editors::RuleForm OpenedWithArchiver(const std::wstring& code, std::int32_t archiveFormat) {
+    store::Rule rule = FullRule(code);
     rule.archiveFormat = archiveFormat;
     return Opened(rule);
 }
 
-void Select(RuleForm& form, std::initializer_list<const wchar_t*> codes) {
+void Select(editors::RuleForm& form, std::initializer_list<const wchar_t*> codes) {
     for (const wchar_t* const code : codes) {
         SelectOperation(form, code);
     }
 }
 
 TEST(ChangeOperation, EncryptWithTwoRecipientsToSignAndBackShowsZeroAndNoRecipients) {
-    RuleForm form = Opened(FullRule(L"ENCR"));
+    editors::RuleForm form = Opened(FullRule(L"ENCR"));
     ASSERT_EQ(form.cert.text, L"2");
     Select(form, {L"SIGN", L"ENCR"});
     EXPECT_EQ(form.cert.text, L"0");
@@ -33,14 +33,14 @@ TEST(ChangeOperation, EncryptWithTwoRecipientsToSignAndBackShowsZeroAndNoRecipie
 }
 
 TEST(ChangeOperation, RecipientsSurviveAmongRecipientOperations) {
-    RuleForm form = Opened(FullRule(L"ENCR"));
+    editors::RuleForm form = Opened(FullRule(L"ENCR"));
     Select(form, {L"LENC", L"SGEN", L"ENCR"});
     EXPECT_EQ(form.cert.text, L"2");
     EXPECT_THAT(form.recipients, ElementsAre(L"CN=A", L"CN=B"));
 }
 
 TEST(ChangeOperation, SignerListsSurviveAmongSignerOperations) {
-    RuleForm form = Opened(FullRule(L"CHCK"));
+    editors::RuleForm form = Opened(FullRule(L"CHCK"));
     Select(form, {L"RESG", L"DCCX", L"DCHK", L"CHKX"});
     EXPECT_EQ(form.cert.text, L"3");
     EXPECT_EQ(form.result.signerGroups, FullRule(L"CHCK").signerGroups);
@@ -51,7 +51,7 @@ TEST(ChangeOperation, LeavingTheSignerOperationsDropsTheSignerLists) {
         if (IsOneOf(to, L"CHCK CHKX DCHK RESG DCCX EXEC")) {
             continue;
         }
-        RuleForm form = Opened(FullRule(L"CHCK"));
+        editors::RuleForm form = Opened(FullRule(L"CHCK"));
         SelectOperation(form, to);
         EXPECT_THAT(form.result.signerGroups, IsEmpty());
         EXPECT_EQ(form.cert.text, to == L"MOVE" ? L"" : L"0");
@@ -60,7 +60,7 @@ TEST(ChangeOperation, LeavingTheSignerOperationsDropsTheSignerLists) {
 
 // Deliberate: users who come back from executing to verifying find their signer lists again.
 TEST(ChangeOperation, SignerListsSurviveExecuteAndTheirNumberIsShownAgain) {
-    RuleForm form = Opened(FullRule(L"CHCK"));
+    editors::RuleForm form = Opened(FullRule(L"CHCK"));
     SelectOperation(form, L"EXEC");
     EXPECT_EQ(form.cert.text, L"");
     SelectOperation(form, L"CHKX");
@@ -70,20 +70,20 @@ TEST(ChangeOperation, SignerListsSurviveExecuteAndTheirNumberIsShownAgain) {
 }
 
 TEST(ChangeOperation, SignerListsDoNotSurviveExecuteAndAThirdOperation) {
-    RuleForm form = Opened(FullRule(L"CHCK"));
+    editors::RuleForm form = Opened(FullRule(L"CHCK"));
     Select(form, {L"EXEC", L"HASH", L"CHCK"});
     EXPECT_EQ(form.cert.text, L"0");
     EXPECT_THAT(form.result.signerGroups, IsEmpty());
 }
 
 TEST(ChangeOperation, ExecuteToVerifyShowsTheNumberOfSignerListsAndNotThePath) {
-    RuleForm form = Opened(FullRule(L"EXEC"));
+    editors::RuleForm form = Opened(FullRule(L"EXEC"));
     SelectOperation(form, L"CHCK");
     EXPECT_EQ(form.cert.text, L"0");
 }
 
 TEST(ChangeOperation, ThePathOfMoveDoesNotBecomeThatOfExecuteOrTheOtherWayRound) {
-    RuleForm form = Opened(FullRule(L"MOVE"));
+    editors::RuleForm form = Opened(FullRule(L"MOVE"));
     SelectOperation(form, L"EXEC");
     EXPECT_EQ(form.cert.text, L"");
     form.cert.text = L"C:\\run.exe";
@@ -95,7 +95,7 @@ TEST(ChangeOperation, ThePathOfMoveDoesNotBecomeThatOfExecuteOrTheOtherWayRound)
 }
 
 TEST(ChangeOperation, GzipOfEncryptIsGzipOfArchiveAndOfEncryptAgain) {
-    RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+    editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
     SelectOperation(form, L"ARCH");
     EXPECT_THAT(form.choices[1].entries, ElementsAre(L"ZIP archivation", L"GZIP archivation"));
     EXPECT_EQ(form.choices[1].index, 1);
@@ -105,7 +105,7 @@ TEST(ChangeOperation, GzipOfEncryptIsGzipOfArchiveAndOfEncryptAgain) {
 }
 
 TEST(ChangeOperation, ZipSurvivesToo) {
-    RuleForm form = OpenedWithArchiver(L"LDEC", 1);
+    editors::RuleForm form = OpenedWithArchiver(L"LDEC", 1);
     SelectOperation(form, L"UNAR");
     EXPECT_EQ(form.choices[1].index, 0);
     SelectOperation(form, L"DCCX");
@@ -113,7 +113,7 @@ TEST(ChangeOperation, ZipSurvivesToo) {
 }
 
 TEST(ChangeOperation, NoArchiverBecomesZipWhereThereMustBeOne) {
-    RuleForm form = OpenedWithArchiver(L"ENCR", 0);
+    editors::RuleForm form = OpenedWithArchiver(L"ENCR", 0);
     SelectOperation(form, L"ARCH");
     EXPECT_EQ(form.choices[1].index, 0);
     SelectOperation(form, L"ENCR");
@@ -121,7 +121,7 @@ TEST(ChangeOperation, NoArchiverBecomesZipWhereThereMustBeOne) {
 }
 
 TEST(ChangeOperation, TheArchiverStaysAmongOperationsWithTheSameList) {
-    RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+    editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
     Select(form, {L"DECR", L"SGEN", L"DCCX"});
     EXPECT_EQ(form.choices[1].index, 2);
     form = OpenedWithArchiver(L"ARCH", 2);
@@ -131,7 +131,7 @@ TEST(ChangeOperation, TheArchiverStaysAmongOperationsWithTheSameList) {
 
 TEST(ChangeOperation, TheArchiverSurvivesAnOperationWithoutOneInBetween) {
     for (const wchar_t* const between : {L"SIGN", L"DELE", L"PACK", L"EXEC", L"CHCK"}) {
-        RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+        editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
         Select(form, {between, L"ARCH"});
         EXPECT_EQ(form.choices[1].index, 1);
         Select(form, {between, L"ARCH"});
@@ -144,7 +144,7 @@ TEST(ChangeOperation, TheArchiverSurvivesAnOperationWithoutOneInBetween) {
 }
 
 TEST(ChangeOperation, ComingStraightToMoveSelectsTheFirstArchiver) {
-    RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+    editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
     SelectOperation(form, L"MOVE");
     EXPECT_EQ(form.choices[1].index, 0);
     form = OpenedWithArchiver(L"ARCH", 2);
@@ -154,7 +154,7 @@ TEST(ChangeOperation, ComingStraightToMoveSelectsTheFirstArchiver) {
 
 // Deliberate: only straight from an archiving operation.
 TEST(ChangeOperation, ComingToMoveFromAnotherOperationKeepsTheArchiver) {
-    RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+    editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
     Select(form, {L"SIGN", L"MOVE", L"ENCR"});
     EXPECT_EQ(form.choices[1].index, 2);
 }
@@ -164,14 +164,14 @@ TEST(ChangeOperation, AnyOtherOperationLeavesTheArchiverWhereItWas) {
         if (IsOneOf(to, L"MOVE RESG ARCH UNAR")) {
             continue;
         }
-        RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+        editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
         SelectOperation(form, to);
         EXPECT_EQ(form.choices[1].index, 2);
     }
 }
 
 TEST(ChangeOperation, ResignStartsWithAttachedFormatsWhateverArchiverWasChosen) {
-    RuleForm form = OpenedWithArchiver(L"ENCR", 2);
+    editors::RuleForm form = OpenedWithArchiver(L"ENCR", 2);
     SelectOperation(form, L"RESG");
     EXPECT_THAT(form.choices[0].entries, ElementsAre(L"Attached signature", L"Detached signature"));
     EXPECT_EQ(form.choices[1].entries, form.choices[0].entries);
@@ -180,7 +180,7 @@ TEST(ChangeOperation, ResignStartsWithAttachedFormatsWhateverArchiverWasChosen) 
 }
 
 TEST(ChangeOperation, SelectingResignAgainKeepsItsChoices) {
-    RuleForm form = Opened(FullRule(L"RESG"));
+    editors::RuleForm form = Opened(FullRule(L"RESG"));
     SelectOperation(form, L"RESG");
     EXPECT_EQ(form.choices[0].index, 1);
     EXPECT_EQ(form.choices[1].index, 1);
@@ -188,14 +188,14 @@ TEST(ChangeOperation, SelectingResignAgainKeepsItsChoices) {
 }
 
 TEST(ChangeOperation, TheNewSignatureProfileOutlivesOtherOperations) {
-    RuleForm form = Opened(FullRule(L"RESG"));
+    editors::RuleForm form = Opened(FullRule(L"RESG"));
     Select(form, {L"MOVE", L"ARCH", L"RESG"});
     EXPECT_EQ(form.choices[2].index, 2);
 }
 
 TEST(ChangeOperation, TheRowOneChoiceIsResetOnlyOnTheWayFromAnArchivingOperationToMoveOrArchive) {
     for (const std::wstring to : kCodes) {
-        RuleForm form = Opened(FullRule(L"RESG"));
+        editors::RuleForm form = Opened(FullRule(L"RESG"));
         SelectOperation(form, L"ENCR");
         ASSERT_EQ(form.choices[0].index, 1);
         SelectOperation(form, to);
@@ -205,7 +205,7 @@ TEST(ChangeOperation, TheRowOneChoiceIsResetOnlyOnTheWayFromAnArchivingOperation
 
 // A signature format is no archiver, so there is nothing that a change of the list could carry over.
 TEST(ChangeOperation, FormatsBecomeArchiversByTheirPosition) {
-    RuleForm form = Opened(FullRule(L"RESG"));
+    editors::RuleForm form = Opened(FullRule(L"RESG"));
     SelectOperation(form, L"ARCH");
     EXPECT_EQ(form.choices[1].index, 1);
     form = Opened(FullRule(L"RESG"));
@@ -217,7 +217,7 @@ TEST(ChangeOperation, FormatsBecomeArchiversByTheirPosition) {
 }
 
 TEST(ChangeOperation, DeleteEmptiesAndDisablesTheOutputFolder) {
-    RuleForm form = Opened(FullRule(L"HASH"));
+    editors::RuleForm form = Opened(FullRule(L"HASH"));
     SelectOperation(form, L"DELE");
     EXPECT_EQ(form.outputFolder.text, L"");
     EXPECT_FALSE(form.outputFolder.isEnabled);
@@ -225,7 +225,7 @@ TEST(ChangeOperation, DeleteEmptiesAndDisablesTheOutputFolder) {
 }
 
 TEST(ChangeOperation, LeavingDeleteLeavesTheOutputFolderEmptyAndEnabled) {
-    RuleForm form = Opened(FullRule(L"HASH"));
+    editors::RuleForm form = Opened(FullRule(L"HASH"));
     Select(form, {L"DELE", L"HASH"});
     EXPECT_EQ(form.outputFolder.text, L"");
     EXPECT_TRUE(form.outputFolder.isEnabled);
@@ -234,7 +234,7 @@ TEST(ChangeOperation, LeavingDeleteLeavesTheOutputFolderEmptyAndEnabled) {
 
 // Another program can put text into a field that is disabled for users.
 TEST(ChangeOperation, LeavingDeleteEmptiesWhatStandsInTheDisabledOutputFolder) {
-    RuleForm form = Opened(FullRule(L"DELE"));
+    editors::RuleForm form = Opened(FullRule(L"DELE"));
     form.outputFolder.text = L"C:\\put in";
     SelectOperation(form, L"HASH");
     EXPECT_EQ(form.outputFolder.text, L"");
@@ -243,8 +243,8 @@ TEST(ChangeOperation, LeavingDeleteEmptiesWhatStandsInTheDisabledOutputFolder) {
 TEST(ChangeOperation, FoldersDescriptionMasksAndCsProfileSurviveEveryChange) {
     for (const std::wstring from : kCodes) {
         for (const std::wstring to : kCodes) {
-            RuleForm form = Opened(FullRule(from));
-            const RuleForm before = form;
+            editors::RuleForm form = Opened(FullRule(from));
+            const editors::RuleForm before = form;
             SelectOperation(form, to);
             EXPECT_EQ(form.inputFolder.text, L"C:\\in");
             EXPECT_EQ(form.errorFolder.text, L"C:\\error");
@@ -257,7 +257,7 @@ TEST(ChangeOperation, FoldersDescriptionMasksAndCsProfileSurviveEveryChange) {
 }
 
 TEST(ChangeOperation, MoveToPackKeepsNoAccountingCopyFormat) {
-    RuleForm form = Opened(FullRule(L"MOVE"));
+    editors::RuleForm form = Opened(FullRule(L"MOVE"));
     SelectOperation(form, L"PACK");
     EXPECT_EQ(form.texts[3].text, L"");
     EXPECT_EQ(form.rowLabels[3], L"Archives name format:");
@@ -266,7 +266,7 @@ TEST(ChangeOperation, MoveToPackKeepsNoAccountingCopyFormat) {
 }
 
 TEST(ChangeOperation, PackToMoveKeepsNoArchiveName) {
-    RuleForm form = Opened(FullRule(L"PACK"));
+    editors::RuleForm form = Opened(FullRule(L"PACK"));
     SelectOperation(form, L"MOVE");
     EXPECT_EQ(form.texts[3].text, L"");
     EXPECT_EQ(form.rowLabels[3], L"Accounting copy format:");
@@ -274,23 +274,23 @@ TEST(ChangeOperation, PackToMoveKeepsNoArchiveName) {
 }
 
 TEST(ChangeOperation, LeavingMoveEmptiesItsThreeRows) {
-    RuleForm form = Opened(FullRule(L"MOVE"));
+    editors::RuleForm form = Opened(FullRule(L"MOVE"));
     Select(form, {L"HASH", L"MOVE"});
-    for (const TextField& field : form.texts) {
+    for (const editors::TextField& field : form.texts) {
         EXPECT_EQ(field.text, L"");
     }
 }
 
 TEST(ChangeOperation, PackStartsWithZeros) {
-    RuleForm form = Opened(FullRule(L"PACK"));
+    editors::RuleForm form = Opened(FullRule(L"PACK"));
     Select(form, {L"UNPK", L"PACK"});
-    for (const NumberField& field : form.numbers) {
+    for (const editors::NumberField& field : form.numbers) {
         EXPECT_EQ(field.number, 0);
     }
 }
 
 TEST(ChangeOperation, PackToExecuteHidesRowsTwoAndThreeAndResetsTheTimeout) {
-    RuleForm form = Opened(FullRule(L"PACK"));
+    editors::RuleForm form = Opened(FullRule(L"PACK"));
     SelectOperation(form, L"EXEC");
     EXPECT_TRUE(form.numbers[0].isShown);
     EXPECT_EQ(form.numbers[0].number, 0);
@@ -302,7 +302,7 @@ TEST(ChangeOperation, PackToExecuteHidesRowsTwoAndThreeAndResetsTheTimeout) {
 
 TEST(ChangeOperation, SelectingTheSameOperationAgainChangesNothing) {
     for (const std::wstring code : kCodes) {
-        RuleForm form = Opened(FullRule(code));
+        editors::RuleForm form = Opened(FullRule(code));
         const std::string before = DescribeForm(form);
         SelectOperation(form, code);
         EXPECT_EQ(DescribeForm(form), before);
@@ -311,13 +311,13 @@ TEST(ChangeOperation, SelectingTheSameOperationAgainChangesNothing) {
 
 TEST(ChangeOperation, NoSelectionChangesNothing) {
     for (const int index : {-1, 24}) {
-        RuleForm form = Opened(FullRule(L"MOVE"));
+        editors::RuleForm form = Opened(FullRule(L"MOVE"));
         form.operation.index = index;
         const std::string before = DescribeForm(form);
-        ChangeOperation(form);
+        editors::ChangeOperation(form);
         EXPECT_EQ(DescribeForm(form), before);
     }
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

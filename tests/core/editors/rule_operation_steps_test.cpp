@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include "editors/rule_operation_change.h"
+#include "editors/rule/rule_operation_change.h"
 #include "tests/core/editors/described_form.h"
 #include "tests/core/editors/literal_operation_steps.h"
 #include "tests/core/editors/sample_rules.h"
 #include "tests/support/registry_snapshot.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 // What the user can enter in the fields that are shown, different from what any rule holds.
-void EnterSomethingEverywhere(RuleForm& form, int choiceIndex) {
+void EnterSomethingEverywhere(editors::RuleForm& form, int choiceIndex) {
     form.inputFolder.text = L"D:\\typed";
     form.description.text = L"typed";
     if (form.outputFolder.isEnabled) {
@@ -21,29 +21,30 @@ void EnterSomethingEverywhere(RuleForm& form, int choiceIndex) {
     if (!form.cert.isReadOnly) {
         form.cert.text = L"D:\\typed path";
     }
-    for (TextField& field : form.texts) {
+    for (editors::TextField& field : form.texts) {
         field.text = field.isShown ? L"typed" : field.text;
     }
-    for (NumberField& field : form.numbers) {
+    for (editors::NumberField& field : form.numbers) {
         field.number = field.isShown ? 77 : field.number;
     }
-    for (ChoiceField& field : form.choices) {
+    for (editors::ChoiceField& field : form.choices) {
         const int last = static_cast<int>(field.entries.size()) - 1;
         field.index = field.isShown ? std::min(choiceIndex, last) : field.index;
     }
-    const CertUse use = LayoutOf(form.laidOutOperation).cert;
-    if (use == CertUse::kRecipients) {
+    const editors::CertUse use = editors::LayoutOf(form.laidOutOperation).cert;
+    if (use == editors::CertUse::kRecipients) {
         form.recipients = {L"CN=Typed", L"CN=Too"};
         form.cert.text = L"2";
-    } else if (use == CertUse::kSigners) {
+    } else if (use == editors::CertUse::kSigners) {
         form.result.signerGroups = {{L"typed", {L"CN=Signer"}}};
         form.cert.text = L"1";
     }
 }
 
 // Changes the operation in both readings and tells where they differ.
-::testing::AssertionResult ChangesAlike(RuleForm& form, const std::wstring& from, const std::wstring& to) {
-    RuleForm literal = form;
+::testing::AssertionResult ChangesAlike(editors::RuleForm& form, const std::wstring& from,
+                                        const std::wstring& to) {
+    editors::RuleForm literal = form;
     TakeStepsOneByOne(literal, from, to);
     SelectOperation(form, to);
     if (form == literal) {
@@ -59,9 +60,9 @@ TEST(ChangeOperation, All576ChangesOfAnOpenedRuleFollowTheSteps) {
     for (const std::wstring from : kCodes) {
         for (const std::wstring to : kCodes) {
             for (const std::int32_t archiveFormat : {0, 1, 2}) {
-                Rule rule = FullRule(from);
+                store::Rule rule = FullRule(from);
                 rule.archiveFormat = archiveFormat;
-                RuleForm form = Opened(rule);
+                editors::RuleForm form = Opened(rule);
                 ASSERT_TRUE(ChangesAlike(form, from, to)) << "archive format " << archiveFormat;
             }
         }
@@ -73,12 +74,12 @@ TEST(ChangeOperation, All576ChangesFollowTheStepsAfterEveryEarlierOperation) {
     for (const std::wstring first : kCodes) {
         for (const std::wstring from : kCodes) {
             for (const int choiceIndex : {0, 1, 2}) {
-                RuleForm before = Opened(FullRule(first));
+                editors::RuleForm before = Opened(FullRule(first));
                 EnterSomethingEverywhere(before, choiceIndex);
                 SelectOperation(before, from);
                 EnterSomethingEverywhere(before, choiceIndex);
                 for (const std::wstring to : kCodes) {
-                    RuleForm form = before;
+                    editors::RuleForm form = before;
                     ASSERT_TRUE(ChangesAlike(form, from, to))
                         << "first " << Printable(first) << ", choice " << choiceIndex;
                 }
@@ -88,7 +89,7 @@ TEST(ChangeOperation, All576ChangesFollowTheStepsAfterEveryEarlierOperation) {
 }
 
 TEST(ChangeOperation, ALongWalkThroughTheOperationsFollowsTheSteps) {
-    RuleForm form = Opened(Rule());
+    editors::RuleForm form = Opened(store::Rule());
     std::wstring from = L"ENCR";
     std::uint32_t random = 2463534242U;
     for (int step = 0; step < 5000; ++step) {
@@ -105,4 +106,4 @@ TEST(ChangeOperation, ALongWalkThroughTheOperationsFollowsTheSteps) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

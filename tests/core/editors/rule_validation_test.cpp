@@ -1,52 +1,56 @@
-#include "editors/rule_validation.h"
+#include "editors/rule/rule_validation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "app/reporting/app_title.h"
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/editors/sample_rules.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using RefusedRule = std::optional<RuleRefusal>;
+using RefusedRule = std::optional<editors::RuleRefusal>;
 
 /// Where what a refusal says can be mended.
-RuleField FieldFor(const std::wstring& text) {
-    static const std::map<std::wstring, RuleField> kFields = {
-        {L"No operation selected.", RuleField::kOperation},
-        {L"No Input folder selected.", RuleField::kInputFolder},
-        {L"No Output folder selected.", RuleField::kOutputFolder},
-        {L"No Error folder selected.", RuleField::kErrorFolder},
-        {L"Bad Input folder.", RuleField::kInputFolder},
-        {L"Bad Output folder.", RuleField::kOutputFolder},
-        {L"Bad Error folder.", RuleField::kErrorFolder},
-        {L"No Mask selected.", RuleField::kMasks},
-        {L"No certificate is selected for operation.", RuleField::kCertificates},
-        {L"Bad Second Output folder.", RuleField::kCertPath},
-        {L"Executable file is not set.", RuleField::kCertPath},
+editors::RuleField FieldFor(const std::wstring& text) {
+    static const std::map<std::wstring, editors::RuleField> kFields = {
+        {L"No operation selected.", editors::RuleField::kOperation},
+        {L"No Input folder selected.", editors::RuleField::kInputFolder},
+        {L"No Output folder selected.", editors::RuleField::kOutputFolder},
+        {L"No Error folder selected.", editors::RuleField::kErrorFolder},
+        {L"Bad Input folder.", editors::RuleField::kInputFolder},
+        {L"Bad Output folder.", editors::RuleField::kOutputFolder},
+        {L"Bad Error folder.", editors::RuleField::kErrorFolder},
+        {L"No Mask selected.", editors::RuleField::kMasks},
+        {L"No certificate is selected for operation.", editors::RuleField::kCertificates},
+        {L"Bad Second Output folder.", editors::RuleField::kCertPath},
+        {L"Executable file is not set.", editors::RuleField::kCertPath},
     };
     return kFields.at(text);
 }
 
-RuleRefusal Box(const wchar_t* text, RuleIcon icon) {
-    return {RefusalKind::kErrorBox, text, icon, L"", 0, FieldFor(text)};
+editors::RuleRefusal Box(const wchar_t* text, editors::RuleIcon icon) {
+    return {editors::RefusalKind::kErrorBox, text, icon, L"", 0, FieldFor(text)};
 }
 
-RuleRefusal Message(const wchar_t* text) {
-    return {RefusalKind::kMessage, text, RuleIcon::kInputFolder, L"", 0, FieldFor(text)};
+editors::RuleRefusal Message(const wchar_t* text) {
+    return {editors::RefusalKind::kMessage, text, editors::RuleIcon::kInputFolder, L"", 0, FieldFor(text)};
 }
 
-RuleRefusal Report(const wchar_t* detail, const std::wstring& folder, std::uint32_t code) {
-    return {RefusalKind::kFileReport, detail, RuleIcon::kInputFolder, folder, code, FieldFor(detail)};
+editors::RuleRefusal Report(const wchar_t* detail, const std::wstring& folder, std::uint32_t code) {
+    return {editors::RefusalKind::kFileReport,
+            detail,
+            editors::RuleIcon::kInputFolder,
+            folder,
+            code,
+            FieldFor(detail)};
 }
 
 class RuleCheck : public ::testing::Test {
@@ -58,16 +62,17 @@ class RuleCheck : public ::testing::Test {
         }
     }
 
-    RefusedRule Check() { return CheckRule(form_, files_); }
+    RefusedRule Check() { return editors::CheckRule(form_, files_); }
 
-    void Show(const RuleRefusal& refusal) {
-        ShowRefusal(refusal, fixture_.reporter, dialog_, [this](const std::wstring& text, RuleIcon icon) {
-            errorBoxes_.emplace_back(text, icon);
-        });
+    void Show(const editors::RuleRefusal& refusal) {
+        editors::ShowRefusal(refusal, fixture_.reporter, dialog_,
+                             [this](const std::wstring& text, editors::RuleIcon icon) {
+                                 errorBoxes_.emplace_back(text, icon);
+                             });
     }
 
-    [[nodiscard]] corvane::TextList AskedPaths() const {
-        corvane::TextList paths;
+    [[nodiscard]] corvane::store::TextList AskedPaths() const {
+        corvane::store::TextList paths;
         for (const FileCall& call : files_.Calls()) {
             paths.push_back(call.path);
         }
@@ -77,8 +82,8 @@ class RuleCheck : public ::testing::Test {
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(7);
     ReporterFixture fixture_;
     MemoryFiles files_;
-    RuleForm form_ = Opened(FullRule(L"HASH"));
-    std::vector<std::pair<std::wstring, RuleIcon>> errorBoxes_;
+    editors::RuleForm form_ = Opened(FullRule(L"HASH"));
+    std::vector<std::pair<std::wstring, editors::RuleIcon>> errorBoxes_;
 };
 
 TEST_F(RuleCheck, ARuleOfEveryOperationThatIsCompletePasses) {
@@ -98,13 +103,13 @@ TEST_F(RuleCheck, EachFolderThatIsNotSetIsRefusedWithItsPicture) {
     for (const wchar_t* const notSet : {L"", L"0"}) {
         form_ = Opened(FullRule(L"HASH"));
         form_.inputFolder.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", RuleIcon::kInputFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", editors::RuleIcon::kInputFolder)));
         form_ = Opened(FullRule(L"HASH"));
         form_.outputFolder.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No Output folder selected.", RuleIcon::kOutputFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Output folder selected.", editors::RuleIcon::kOutputFolder)));
         form_ = Opened(FullRule(L"HASH"));
         form_.errorFolder.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", RuleIcon::kErrorFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", editors::RuleIcon::kErrorFolder)));
     }
     EXPECT_THAT(AskedPaths(), IsEmpty());
 }
@@ -112,13 +117,13 @@ TEST_F(RuleCheck, EachFolderThatIsNotSetIsRefusedWithItsPicture) {
 TEST_F(RuleCheck, ARuleWithThreeMissingFoldersReportsOnlyTheInputFolder) {
     form_.inputFolder.text = form_.outputFolder.text = form_.errorFolder.text = L"";
     form_.result.masks.clear();
-    EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", RuleIcon::kInputFolder)));
+    EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", editors::RuleIcon::kInputFolder)));
 }
 
 TEST_F(RuleCheck, AFolderThatIsNotSetComesBeforeABadOne) {
     form_.inputFolder.text = L"relative";
     form_.errorFolder.text = L"";
-    EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", RuleIcon::kErrorFolder)));
+    EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", editors::RuleIcon::kErrorFolder)));
 }
 
 TEST_F(RuleCheck, BlanksAreAFolderLikeAnyOther) {
@@ -178,8 +183,9 @@ TEST_F(RuleCheck, AFolderThatDoesNotExistWithCode80RefusesSilently) {
     files_.FailCall(0, 80);
     const RefusedRule refusal = Check();
     ASSERT_TRUE(refusal.has_value());
-    EXPECT_EQ(refusal->kind, RefusalKind::kSilent);
-    EXPECT_EQ(refusal->field, RuleField::kInputFolder) << "It is told nowhere, but the caret goes there.";
+    EXPECT_EQ(refusal->kind, editors::RefusalKind::kSilent);
+    EXPECT_EQ(refusal->field, editors::RuleField::kInputFolder)
+        << "It is told nowhere, but the caret goes there.";
     Show(*refusal);
     EXPECT_THAT(fixture_.presenter.Boxes(), IsEmpty());
     EXPECT_THAT(errorBoxes_, IsEmpty());
@@ -197,7 +203,7 @@ TEST_F(RuleCheck, AFolderOf300CharactersIsAskedForAndReportedWhole) {
     const RefusedRule refusal = Check();
     EXPECT_EQ(refusal, RefusedRule(Report(L"Bad Input folder.", folder, 206)));
     EXPECT_THAT(AskedPaths(), ElementsAre(folder));
-    Show(refusal.value_or(RuleRefusal()));
+    Show(refusal.value_or(editors::RuleRefusal()));
     EXPECT_EQ(fixture_.presenter.OnlyText(),
               L"Opening file " + folder + L".\r\nError 0xCE - System text 206.Bad Input folder.");
 }
@@ -213,8 +219,8 @@ TEST_F(RuleCheck, ARecipientOperationWithoutRecipientsIsRefusedOnlyAfterFoldersA
     for (const std::wstring code : {L"ENCR", L"LENC", L"SGEN"}) {
         form_ = Opened(FullRule(code));
         form_.recipients.clear();
-        EXPECT_EQ(Check(),
-                  RefusedRule(Box(L"No certificate is selected for operation.", RuleIcon::kCertificates)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No certificate is selected for operation.",
+                                           editors::RuleIcon::kCertificates)));
         form_.result.masks.clear();
         EXPECT_EQ(Check(), RefusedRule(Message(L"No Mask selected.")));
         form_.errorFolder.text = L"relative";
@@ -254,7 +260,7 @@ TEST_F(RuleCheck, AnExecuteRuleWithoutAnExecutableIsRefused) {
     for (const wchar_t* const notSet : {L"", L"0"}) {
         form_ = Opened(FullRule(L"EXEC"));
         form_.cert.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"Executable file is not set.", RuleIcon::kExecutable)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"Executable file is not set.", editors::RuleIcon::kExecutable)));
     }
 }
 
@@ -274,16 +280,17 @@ TEST_F(RuleCheck, ACountInTheCertificateFieldIsNoPath) {
 
 TEST_F(RuleCheck, AMessageIsShownOverTheEditor) {
     Show(Message(L"No Mask selected."));
-    EXPECT_THAT(fixture_.presenter.Boxes(),
-                ElementsAre(ShownBox{
-                    .owner = dialog_, .text = L"No Mask selected.", .title = AppTitle, .style = 0x30}));
+    EXPECT_THAT(
+        fixture_.presenter.Boxes(),
+        ElementsAre(ShownBox{
+            .owner = dialog_, .text = L"No Mask selected.", .title = reporting::AppTitle, .style = 0x30}));
     EXPECT_THAT(errorBoxes_, IsEmpty());
 }
 
 TEST_F(RuleCheck, AnErrorBoxIsShownWithItsPicture) {
-    Show(Box(L"No Output folder selected.", RuleIcon::kOutputFolder));
-    EXPECT_THAT(errorBoxes_,
-                ElementsAre(std::pair(std::wstring(L"No Output folder selected."), RuleIcon::kOutputFolder)));
+    Show(Box(L"No Output folder selected.", editors::RuleIcon::kOutputFolder));
+    EXPECT_THAT(errorBoxes_, ElementsAre(std::pair(std::wstring(L"No Output folder selected."),
+                                                   editors::RuleIcon::kOutputFolder)));
     EXPECT_THAT(fixture_.presenter.Boxes(), IsEmpty());
 }
 
@@ -293,9 +300,9 @@ TEST_F(RuleCheck, AReportNamesTheFolderAndTheSystemsCode) {
         fixture_.presenter.Boxes(),
         ElementsAre(ShownBox{.owner = dialog_,
                              .text = L"Opening file C:\\вход.\r\nError 0x3 - System text 3.Bad Input folder.",
-                             .title = AppTitle,
-                             .style = kErrorStyle}));
+                             .title = reporting::AppTitle,
+                             .style = reporting::kErrorStyle}));
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,8 +1,8 @@
 #include "tests/core/editors/sample_profiles.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
-CsProfile FilledCsProfile(const std::wstring& name, std::int32_t seed) {
+store::CsProfile FilledCsProfile(const std::wstring& name, std::int32_t seed) {
     return {.name = name,
             .timeStampServer = L"http://" + std::to_wstring(seed),
             .autoUseTimeStamp = 1,
@@ -16,12 +16,12 @@ CsProfile FilledCsProfile(const std::wstring& name, std::int32_t seed) {
             .useAuthorityAccess = 1};
 }
 
-Profile ProfileWith(const std::wstring& name, const TextList& csProfiles) {
-    Profile profile;
+store::Profile ProfileWith(const std::wstring& name, const store::TextList& csProfiles) {
+    store::Profile profile;
     profile.name = name;
     std::int32_t seed = 0;
     for (const std::wstring& csProfile : csProfiles) {
-        const CsProfile entry = FilledCsProfile(csProfile, seed++);
+        const store::CsProfile entry = FilledCsProfile(csProfile, seed++);
         profile.csProfiles.push_back(entry.name);
         profile.timeStampServers.push_back(entry.timeStampServer);
         profile.autoUseTimeStamp.push_back(entry.autoUseTimeStamp);
@@ -37,7 +37,7 @@ Profile ProfileWith(const std::wstring& name, const TextList& csProfiles) {
     return profile;
 }
 
-std::vector<std::size_t> ListLengths(const Profile& profile) {
+std::vector<std::size_t> ListLengths(const store::Profile& profile) {
     return {profile.csProfiles.size(),         profile.timeStampServers.size(),
             profile.notUseDirectory.size(),    profile.notAddCertificate.size(),
             profile.notCopyToLocal.size(),     profile.autoVerifyTimeStamp.size(),
@@ -46,4 +46,4 @@ std::vector<std::size_t> ListLengths(const Profile& profile) {
             profile.crlUpdatePeriods.size()};
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "editors/rule_opening.h"
-#include "editors/rule_operation_change.h"
+#include "editors/rule/rule_opening.h"
+#include "editors/rule/rule_operation_change.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 int IndexOfCode(const std::wstring& code) {
     const auto found = std::find(kCodes.begin(), kCodes.end(), code);
@@ -20,8 +20,8 @@ bool IsOneOf(const std::wstring& code, const std::wstring& codes) {
     return (L" " + codes + L" ").find(L" " + code + L" ") != std::wstring::npos;
 }
 
-Profile SampleProfile() {
-    Profile profile;
+store::Profile SampleProfile() {
+    store::Profile profile;
     profile.name = L"sample";
     profile.csProfiles = {L"First", L"Second", L"Third"};
     profile.timeStampServers = {L"0", L"http://second", L"0"};
@@ -30,8 +30,8 @@ Profile SampleProfile() {
     return profile;
 }
 
-Rule FullRule(const std::wstring& code) {
-    Rule rule;
+store::Rule FullRule(const std::wstring& code) {
+    store::Rule rule;
     rule.csProfile = L"Second";
     rule.resignProfile = L"Third";
     rule.operation = code;
@@ -61,14 +61,14 @@ Rule FullRule(const std::wstring& code) {
     return rule;
 }
 
-RuleForm Opened(const Rule& rule) {
-    AcceptedCsProfile accepted;
-    return OpenRule(SampleProfile(), rule, accepted);
+editors::RuleForm Opened(const store::Rule& rule) {
+    editors::AcceptedCsProfile accepted;
+    return editors::OpenRule(SampleProfile(), rule, accepted);
 }
 
-void SelectOperation(RuleForm& form, const std::wstring& code) {
+void SelectOperation(editors::RuleForm& form, const std::wstring& code) {
     form.operation.index = IndexOfCode(code);
-    ChangeOperation(form);
+    editors::ChangeOperation(form);
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

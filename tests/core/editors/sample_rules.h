@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
-#include "config/records.h"
-#include "editors/rule_form.h"
+#include "editors/rule/rule_form.h"
+#include "store/records.h"
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// The codes in the order of the operation choice, written down by the tests themselves.
 inline constexpr std::array kCodes = {L"ENCR", L"DECR", L"HASH", L"B64E", L"B64D", L"SIGN", L"CHCK", L"CHKX",
@@ -20,15 +20,15 @@ inline constexpr std::array kCodes = {L"ENCR", L"DECR", L"HASH", L"B64E", L"B64D
 [[nodiscard]] bool IsOneOf(const std::wstring& code, const std::wstring& codes);
 
 /// A profile with the CS profiles "First", "Second" and "Third".
-[[nodiscard]] Profile SampleProfile();
+[[nodiscard]] store::Profile SampleProfile();
 
 /// A rule in which every field has a value of its own, whatever the operation.
-[[nodiscard]] Rule FullRule(const std::wstring& code);
+[[nodiscard]] store::Rule FullRule(const std::wstring& code);
 
 /// The form of a rule, opened by itself.
-[[nodiscard]] RuleForm Opened(const Rule& rule);
+[[nodiscard]] editors::RuleForm Opened(const store::Rule& rule);
 
 /// Selects an operation, as the user does.
-void SelectOperation(RuleForm& form, const std::wstring& code);
+void SelectOperation(editors::RuleForm& form, const std::wstring& code);
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

@@ -1,17 +1,13 @@
 #include <gtest/gtest.h>
 
-#include "app/reporting/provider_error_stack.h"
+#include "reporting/provider_error_stack.h"
 #include "tests/core/reporting/failed_call.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-using testing::kSession;
-using testing::ReleasedText;
-using testing::ReporterFixture;
-
-std::wstring StackOf(ReporterFixture& fixture, ProviderContext session = kSession) {
+std::wstring StackOf(ReporterFixture& fixture, provider::ProviderContext session = kSession) {
     std::wstring description = L"D";
     fixture.reporter.AppendProviderErrorStack(session, description);
     return description;
@@ -101,7 +97,7 @@ TEST(AppendProviderErrorStack, ALengthThatCountsTheTerminatorBringsNoNulIntoTheM
 }
 
 TEST(AppendProviderErrorStack, TextsAreWidenedFromTheSystemsCodePage) {
-    ReporterFixture fixture(testing::CodePage::kCyrillic);
+    ReporterFixture fixture(CodePage::kCyrillic);
     fixture.provider.PushError(kSession, {"\xC4\xE0", "\xC5", 3, "\xC6"});
     EXPECT_EQ(StackOf(fixture), L"D\r\nДа,\r\nfile: Е, line 3, data: Ж.\r\n");
 }
@@ -124,16 +120,17 @@ TEST(AppendProviderErrorStack, AStackThatNeverEndsIsLeftAfterTheMostEntries) {
     fixture.provider.PushError(kSession, {"for ever", "a.c", 1, "d"});
     const std::wstring description = StackOf(fixture);
     const std::wstring line = L"for ever,\r\nfile: a.c, line 1, data: d.\r\n";
-    EXPECT_EQ(description.size(), std::wstring(L"D\r\n").size() + kMostProviderErrors * line.size());
-    EXPECT_EQ(fixture.provider.ErrorLineCalls(), kMostProviderErrors);
+    EXPECT_EQ(description.size(),
+              std::wstring(L"D\r\n").size() + reporting::kMostProviderErrors * line.size());
+    EXPECT_EQ(fixture.provider.ErrorLineCalls(), reporting::kMostProviderErrors);
     EXPECT_EQ(fixture.provider.TextsOut(), 0U);
 }
 
 TEST(PopProviderErrors, TheStackOfAFailedInitialisationCanBeReadAndReleasedUnderNoContext) {
     ReporterFixture fixture;
     fixture.provider.PushError(0, {"first", "a.c", 10, "one"});
-    const std::vector<ProviderError> errors =
-        PopProviderErrors(*fixture.provider.Functions(), 0, 0, fixture.text);
+    const std::vector<reporting::ProviderError> errors =
+        reporting::PopProviderErrors(*fixture.provider.Functions(), 0, 0, fixture.text);
     ASSERT_EQ(errors.size(), 1U);
     EXPECT_EQ(errors[0].text, L"first");
     EXPECT_EQ(errors[0].file, L"a.c");
@@ -145,9 +142,10 @@ TEST(PopProviderErrors, TheStackOfAFailedInitialisationCanBeReadAndReleasedUnder
 TEST(PopProviderErrors, TheContextOfTheReleaseMayDifferFromThatOfTheStack) {
     ReporterFixture fixture;
     fixture.provider.PushError(kSession, {"first", std::nullopt, 10, std::nullopt});
-    EXPECT_EQ(PopProviderErrors(*fixture.provider.Functions(), kSession, 0, fixture.text).size(), 1U);
+    EXPECT_EQ(reporting::PopProviderErrors(*fixture.provider.Functions(), kSession, 0, fixture.text).size(),
+              1U);
     EXPECT_EQ(fixture.provider.Released(), (std::vector<ReleasedText>{{0, "first"}}));
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

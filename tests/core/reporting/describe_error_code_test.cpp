@@ -3,14 +3,10 @@
 #include "tests/core/reporting/failed_call.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-using testing::kProviderCode;
-using testing::kSession;
-using testing::ReporterFixture;
-
-std::wstring Describe(ReporterFixture& fixture, std::uint32_t code, ProviderContext session = 0) {
+std::wstring Describe(ReporterFixture& fixture, std::uint32_t code, provider::ProviderContext session = 0) {
     std::wstring description = L"what was there before";
     fixture.reporter.DescribeErrorCode(code, description, session);
     return description;
@@ -57,7 +53,7 @@ TEST(DescribeErrorCode, TheProviderIsGivenABufferOf1024Bytes) {
 }
 
 TEST(DescribeErrorCode, AProviderTextIsWidenedFromTheSystemsCodePage) {
-    ReporterFixture fixture(testing::CodePage::kCyrillic);
+    ReporterFixture fixture(CodePage::kCyrillic);
     fixture.provider.SetErrorText(kProviderCode, "\xCE\xF8\xE8\xE1\xEA\xE0");
     EXPECT_EQ(Describe(fixture, kProviderCode), L"Ошибка");
 }
@@ -176,4 +172,4 @@ TEST(DescribeErrorCode, PointsAndLineEndsAreCutInAnyOrderButSpacesStay) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

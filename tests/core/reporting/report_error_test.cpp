@@ -2,23 +2,17 @@
 
 #include <new>
 
-#include "app/reporting/message_styles.h"
+#include "reporting/message_styles.h"
 #include "tests/core/reporting/failed_call.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::kProviderCode;
-using testing::kSession;
-using testing::RecordingPresenter;
-using testing::ReporterFixture;
-using testing::ShownBox;
 
 // The text that a report without an owner shows.
 std::wstring ShownText(ReporterFixture& fixture, std::uint32_t code, const char* format,
                        const char* argument) {
-    fixture.reporter.ReportError(nullptr, 0, kShowReport, code, format, nullptr, argument);
+    fixture.reporter.ReportError(nullptr, 0, reporting::kShowReport, code, format, nullptr, argument);
     return fixture.presenter.OnlyText();
 }
 
@@ -37,8 +31,9 @@ TEST(ReportError, FlagsZeroTouchNothingAndGiveTheCode) {
 
 TEST(ReportError, AReportIsOneErrorBoxOfTheFixedShape) {
     ReporterFixture fixture;
-    const std::uint32_t code = fixture.reporter.ReportError(
-        nullptr, 0, kShowReport, 5, "Reading integer value '%s' from register", nullptr, "Window_top");
+    const std::uint32_t code =
+        fixture.reporter.ReportError(nullptr, 0, reporting::kShowReport, 5,
+                                     "Reading integer value '%s' from register", nullptr, "Window_top");
     EXPECT_EQ(code, 5U);
     ASSERT_EQ(fixture.presenter.Boxes().size(), 1U);
     EXPECT_EQ(
@@ -50,7 +45,9 @@ TEST(ReportError, AReportIsOneErrorBoxOfTheFixedShape) {
 TEST(ReportError, EveryCodeIsGivenBackUnchanged) {
     ReporterFixture fixture;
     for (const std::uint32_t code : {0U, 5U, 0x80070005U, kProviderCode, 0xFFFFFFFFU}) {
-        EXPECT_EQ(fixture.reporter.ReportError(nullptr, 0, kShowReport, code, "x", nullptr, nullptr), code);
+        EXPECT_EQ(
+            fixture.reporter.ReportError(nullptr, 0, reporting::kShowReport, code, "x", nullptr, nullptr),
+            code);
     }
 }
 
@@ -71,7 +68,7 @@ TEST(ReportError, FlagsThreeShowLikeFlagsOne) {
 TEST(ReportError, ADetailEndsTheShownMessageAndIsLeftOutOfTheText) {
     ReporterFixture fixture;
     std::wstring text = L"\r\nTry another folder.";
-    fixture.reporter.ReportError(nullptr, 0, kShowReport, 5, "Opening file %s", &text, "a.prx");
+    fixture.reporter.ReportError(nullptr, 0, reporting::kShowReport, 5, "Opening file %s", &text, "a.prx");
     EXPECT_EQ(fixture.presenter.OnlyText(),
               L"Opening file a.prx.\r\nError 0x5 - System text 5.\r\nTry another folder.");
     EXPECT_EQ(text, L"Opening file a.prx.\r\nError 0x5 - System text 5.");
@@ -80,7 +77,7 @@ TEST(ReportError, ADetailEndsTheShownMessageAndIsLeftOutOfTheText) {
 TEST(ReportError, AnEmptyTextBringsNoDetailAndTakesTheMessage) {
     ReporterFixture fixture;
     std::wstring text;
-    fixture.reporter.ReportError(nullptr, 0, kShowReport, 5, "Opening file %s", &text, "a.prx");
+    fixture.reporter.ReportError(nullptr, 0, reporting::kShowReport, 5, "Opening file %s", &text, "a.prx");
     EXPECT_EQ(fixture.presenter.OnlyText(), text);
     EXPECT_EQ(text, L"Opening file a.prx.\r\nError 0x5 - System text 5.");
 }
@@ -108,7 +105,7 @@ TEST(ReportError, AProviderCodeBringsTheErrorStackOfTheSession) {
     ReporterFixture fixture;
     fixture.provider.SetErrorText(kProviderCode, "Closing failed");
     fixture.provider.PushError(kSession, {"busy", "close.c", 3, "none"});
-    fixture.reporter.ReportError(nullptr, kSession, kShowReport, kProviderCode,
+    fixture.reporter.ReportError(nullptr, kSession, reporting::kShowReport, kProviderCode,
                                  "Cryptocontext uninitialization", nullptr, nullptr);
     EXPECT_EQ(fixture.presenter.OnlyText(),
               L"Cryptocontext uninitialization.\r\nXSIG error 0xE0700012 - Closing failed\r\n"
@@ -124,13 +121,13 @@ TEST(ReportError, WithoutTheLibraryAProviderCodeIsReportedAllTheSame) {
 }
 
 TEST(ReportError, FormatAndArgumentAreWidenedFromTheSystemsCodePage) {
-    ReporterFixture fixture(testing::CodePage::kCyrillic);
+    ReporterFixture fixture(CodePage::kCyrillic);
     EXPECT_EQ(ShownText(fixture, 5, "\xD4\xE0\xE9\xEB %s", "\xEF\xF0\xE0\xE2\xE8\xEB\xE0.prx"),
               L"Файл правила.prx.\r\nError 0x5 - System text 5.");
 }
 
 TEST(ReportError, TheSameBytesReadDifferentlyUnderAnotherCodePage) {
-    ReporterFixture fixture(testing::CodePage::kLatin);
+    ReporterFixture fixture(CodePage::kLatin);
     EXPECT_EQ(ShownText(fixture, 5, "Opening file %s", "\xEF\xF0"),
               L"Opening file ïð.\r\nError 0x5 - System text 5.");
 }
@@ -158,14 +155,14 @@ TEST(ReportError, ALiveOwnerOwnsTheReport) {
     ReporterFixture fixture;
     const toolkit::WindowHandle owner = RecordingPresenter::Window(9);
     fixture.presenter.MakeLive(owner);
-    fixture.reporter.ReportError(owner, 0, kShowReport, 5, "Memory allocation", nullptr, nullptr);
+    fixture.reporter.ReportError(owner, 0, reporting::kShowReport, 5, "Memory allocation", nullptr, nullptr);
     EXPECT_EQ(fixture.presenter.Boxes().front().owner, owner);
 }
 
 TEST(ReportError, AnOwnerThatIsGoneMeansAReportWithoutOwner) {
     ReporterFixture fixture;
-    fixture.reporter.ReportError(RecordingPresenter::Window(9), 0, kShowReport, 5, "Memory allocation",
-                                 nullptr, nullptr);
+    fixture.reporter.ReportError(RecordingPresenter::Window(9), 0, reporting::kShowReport, 5,
+                                 "Memory allocation", nullptr, nullptr);
     ASSERT_EQ(fixture.presenter.Boxes().size(), 1U);
     EXPECT_EQ(fixture.presenter.Boxes().front().owner, nullptr);
 }
@@ -173,7 +170,7 @@ TEST(ReportError, AnOwnerThatIsGoneMeansAReportWithoutOwner) {
 TEST(ReportError, NothingIsKeptFromOneReportToTheNext) {
     ReporterFixture fixture;
     std::wstring text = L" First detail";
-    fixture.reporter.ReportError(nullptr, 0, kShowReport, 5, "First", &text, nullptr);
+    fixture.reporter.ReportError(nullptr, 0, reporting::kShowReport, 5, "First", &text, nullptr);
     fixture.presenter.Clear();
     EXPECT_EQ(ShownText(fixture, 6, "Second", nullptr), L"Second.\r\nError 0x6 - System text 6.");
 }
@@ -194,16 +191,17 @@ class ExhaustedText : public toolkit::SystemText {
 TEST(ReportError, ShortMemoryGivesTheCodeAndDoesNotThrow) {
     ReporterFixture fixture;
     const ExhaustedText exhausted;
-    ErrorReporter reporter(fixture.presenter, fixture.messages, fixture.provider, exhausted);
+    reporting::ErrorReporter reporter(fixture.presenter, fixture.messages, fixture.provider, exhausted);
     std::wstring text = L"as it was";
-    EXPECT_EQ(reporter.ReportError(nullptr, 0, kShowReport, 8, "Memory allocation", &text, nullptr), 8U);
+    EXPECT_EQ(
+        reporter.ReportError(nullptr, 0, reporting::kShowReport, 8, "Memory allocation", &text, nullptr), 8U);
     EXPECT_EQ(text, L"as it was");
 }
 
 TEST(PopProviderErrors, ShortMemoryWhileAnEntryIsReadReleasesItsTexts) {
     ReporterFixture fixture;
     const ExhaustedText exhausted;
-    ErrorReporter reporter(fixture.presenter, fixture.messages, fixture.provider, exhausted);
+    reporting::ErrorReporter reporter(fixture.presenter, fixture.messages, fixture.provider, exhausted);
     fixture.provider.PushError(kSession, {"text", "file", 1, "data"});
     std::wstring description;
     EXPECT_THROW(reporter.AppendProviderErrorStack(kSession, description), std::bad_alloc);
@@ -212,4 +210,4 @@ TEST(PopProviderErrors, ShortMemoryWhileAnEntryIsReadReleasesItsTexts) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

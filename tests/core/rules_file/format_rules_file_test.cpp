@@ -1,18 +1,14 @@
 #include <gtest/gtest.h>
 
-#include "config/rules_file_text.h"
+#include "store/rules_file/rules_file.h"
 #include "tests/core/rules_file/record_text.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-using testing::FieldsWith;
-using testing::RecordText;
-using testing::Wide;
-
 // A rule in which no two fields are alike, so that no two can change places unseen.
-Rule RuleWithEveryField() {
-    Rule rule;
+store::Rule RuleWithEveryField() {
+    store::Rule rule;
     rule.operation = L"ENCR";
     rule.inputFolder = L"C:\\in";
     rule.outputFolder = L"C:\\out";
@@ -43,7 +39,7 @@ Rule RuleWithEveryField() {
 }
 
 TEST(FormatRulesFile, ARuleIsItsTwentyFiveFieldsInTheOrderOfTheFile) {
-    EXPECT_EQ(FormatRulesFile({RuleWithEveryField()}),
+    EXPECT_EQ(store::FormatRulesFile({RuleWithEveryField()}),
               L"ENCR\n"
               L"C:\\in\n"
               L"C:\\out\n"
@@ -72,75 +68,76 @@ TEST(FormatRulesFile, ARuleIsItsTwentyFiveFieldsInTheOrderOfTheFile) {
 }
 
 TEST(FormatRulesFile, ANewRuleHasZeroForEveryNumberAndEveryList) {
-    EXPECT_EQ(FormatRulesFile({Rule()}), L"\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
+    EXPECT_EQ(store::FormatRulesFile({store::Rule()}),
+              L"\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
 }
 
 TEST(FormatRulesFile, ARecordEndsWithLineFeedBeforeCarriageReturn) {
-    const std::wstring text = FormatRulesFile({Rule(), Rule()});
-    const std::wstring record = FormatRulesFile({Rule()});
+    const std::wstring text = store::FormatRulesFile({store::Rule(), store::Rule()});
+    const std::wstring record = store::FormatRulesFile({store::Rule()});
     EXPECT_EQ(text, record + record);
     EXPECT_EQ(text.substr(text.size() - 2), L"\n\r");
     EXPECT_EQ(text.find(L"\r\n\r"), std::wstring::npos);
 }
 
 TEST(FormatRulesFile, NoRulesGiveAnEmptyText) {
-    EXPECT_EQ(FormatRulesFile({}), L"");
+    EXPECT_EQ(store::FormatRulesFile({}), L"");
 }
 
 TEST(FormatRulesFile, RulesStandInListOrderAndThoseWithoutAnOperationAreIncluded) {
-    Rule first;
+    store::Rule first;
     first.operation = L"MOVE";
-    Rule second;
-    Rule third;
+    store::Rule second;
+    store::Rule third;
     third.operation = L"DELE";
-    EXPECT_EQ(FormatRulesFile({first, second, third}),
-              Wide(RecordText(FieldsWith(0, "MOVE")) + RecordText(testing::EmptyFields()) +
+    EXPECT_EQ(store::FormatRulesFile({first, second, third}),
+              Wide(RecordText(FieldsWith(0, "MOVE")) + RecordText(EmptyFields()) +
                    RecordText(FieldsWith(0, "DELE"))));
 }
 
 TEST(FormatRulesFile, TheLegacyMaskIsNotWritten) {
-    Rule rule;
+    store::Rule rule;
     rule.legacyMask = L"*.old";
-    EXPECT_EQ(FormatRulesFile({rule}), FormatRulesFile({Rule()}));
+    EXPECT_EQ(store::FormatRulesFile({rule}), store::FormatRulesFile({store::Rule()}));
 }
 
 TEST(FormatRulesFile, AListOfOneElementHasNoSeparator) {
-    Rule rule;
+    store::Rule rule;
     rule.masks = {L"*.*"};
-    EXPECT_EQ(FormatRulesFile({rule}), Wide(RecordText(FieldsWith(4, "*.*"))));
+    EXPECT_EQ(store::FormatRulesFile({rule}), Wide(RecordText(FieldsWith(4, "*.*"))));
 }
 
 TEST(FormatRulesFile, AListOfOneEmptyElementIsAnEmptyField) {
-    Rule rule;
+    store::Rule rule;
     rule.masks = {L""};
-    EXPECT_EQ(FormatRulesFile({rule}), Wide(RecordText(FieldsWith(4, ""))));
+    EXPECT_EQ(store::FormatRulesFile({rule}), Wide(RecordText(FieldsWith(4, ""))));
 }
 
 TEST(FormatRulesFile, EmptyElementsKeepTheirSeparators) {
-    Rule rule;
+    store::Rule rule;
     rule.recipients = {L"", L"CN=A", L"", L""};
-    EXPECT_EQ(FormatRulesFile({rule}), Wide(RecordText(FieldsWith(5, ";;CN=A;;;;"))));
+    EXPECT_EQ(store::FormatRulesFile({rule}), Wide(RecordText(FieldsWith(5, ";;CN=A;;;;"))));
 }
 
 TEST(FormatRulesFile, ASignerListWithoutSignersIsItsName) {
-    Rule rule;
+    store::Rule rule;
     rule.signerGroups = {{L"first", {}}, {L"second", {}}};
-    EXPECT_EQ(FormatRulesFile({rule}), Wide(RecordText(FieldsWith(13, "first;\\;second"))));
+    EXPECT_EQ(store::FormatRulesFile({rule}), Wide(RecordText(FieldsWith(13, "first;\\;second"))));
 }
 
 TEST(FormatRulesFile, AnEmptySignerKeepsItsSeparator) {
-    Rule rule;
+    store::Rule rule;
     rule.signerGroups = {{L"list", {L"", L"CN=A"}}};
-    EXPECT_EQ(FormatRulesFile({rule}), Wide(RecordText(FieldsWith(13, "list;;;;CN=A"))));
+    EXPECT_EQ(store::FormatRulesFile({rule}), Wide(RecordText(FieldsWith(13, "list;;;;CN=A"))));
 }
 
 TEST(FormatRulesFile, SeparatorsInsideValuesAreNotEscaped) {
-    Rule rule;
+    store::Rule rule;
     rule.inputFolder = L"a\nb";
     rule.masks = {L"c;;d"};
     rule.description = L"e\n\rf";
     rule.signerGroups = {{L"g;\\;h", {L"i;;j"}}};
-    const std::wstring text = FormatRulesFile({rule});
+    const std::wstring text = store::FormatRulesFile({rule});
     EXPECT_NE(text.find(L"\na\nb\n"), std::wstring::npos);
     EXPECT_NE(text.find(L"\nc;;d\n"), std::wstring::npos);
     EXPECT_NE(text.find(L"\ne\n\rf\n"), std::wstring::npos);
@@ -148,10 +145,10 @@ TEST(FormatRulesFile, SeparatorsInsideValuesAreNotEscaped) {
 }
 
 TEST(FormatRulesFile, TheSmallestNumberIsWrittenWhole) {
-    Rule rule;
+    store::Rule rule;
     rule.archiveSize = -2147483647 - 1;
-    EXPECT_EQ(FormatRulesFile({rule}), Wide(RecordText(FieldsWith(20, "-2147483648"))));
+    EXPECT_EQ(store::FormatRulesFile({rule}), Wide(RecordText(FieldsWith(20, "-2147483648"))));
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -10,7 +10,7 @@
 
 // The faults that are looked for elsewhere are seen through this stand-in, so it must not be blind itself.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 constexpr wchar_t kFilePath[] = L"C:\\file";
@@ -93,4 +93,4 @@ TEST(MemoryFiles, TheCallOfTheIndexFailsAndDoesNothing) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

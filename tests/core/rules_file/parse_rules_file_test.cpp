@@ -1,89 +1,85 @@
 #include <gtest/gtest.h>
 
-#include "config/rules_file_text.h"
+#include "store/rules_file/rules_file.h"
 #include "tests/core/rules_file/record_text.h"
 #include "tests/support/test_system_text.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 using ::std::string_literals::operator""s;
-using testing::CodePage;
-using testing::FieldsWith;
-using testing::RecordText;
-using testing::TestSystemText;
 
-TextList Records(std::string_view bytes) {
-    return SplitRecords(bytes, TestSystemText(CodePage::kLatin));
+store::TextList Records(std::string_view bytes) {
+    return store::SplitRecords(bytes, TestSystemText(CodePage::kLatin));
 }
 
-std::vector<Rule> Rules(std::string_view bytes) {
-    return ParseRulesFile(bytes, TestSystemText(CodePage::kLatin));
+std::vector<store::Rule> Rules(std::string_view bytes) {
+    return store::ParseRulesFile(bytes, TestSystemText(CodePage::kLatin));
 }
 
 // The one rule of a record; the test fails if there is another number of rules.
-Rule OneRule(const std::vector<std::string>& fields) {
-    const std::vector<Rule> rules = Rules(RecordText(fields));
+store::Rule OneRule(const std::vector<std::string>& fields) {
+    const std::vector<store::Rule> rules = Rules(RecordText(fields));
     EXPECT_EQ(rules.size(), 1U);
-    return rules.empty() ? Rule() : rules.front();
+    return rules.empty() ? store::Rule() : rules.front();
 }
 
 TEST(SplitRecords, ARecordEndsWithLineFeedThenCarriageReturn) {
-    EXPECT_EQ(Records("a\nb\n\rc\nd\n\r"), (TextList{L"a\nb", L"c\nd"}));
+    EXPECT_EQ(Records("a\nb\n\rc\nd\n\r"), (store::TextList{L"a\nb", L"c\nd"}));
 }
 
 TEST(SplitRecords, CarriageReturnThenLineFeedEndsNoRecord) {
-    EXPECT_EQ(Records("a\r\nb\r\nc\n\r"), (TextList{L"a\r\nb\r\nc"}));
+    EXPECT_EQ(Records("a\r\nb\r\nc\n\r"), (store::TextList{L"a\r\nb\r\nc"}));
 }
 
 TEST(SplitRecords, TextAfterTheLastRecordEndIsNoRecord) {
-    EXPECT_EQ(Records("a\nb\n\rc\nd\n"), TextList{L"a\nb"});
+    EXPECT_EQ(Records("a\nb\n\rc\nd\n"), store::TextList{L"a\nb"});
 }
 
 TEST(SplitRecords, AFileWithoutARecordEndHasNoRecords) {
-    EXPECT_EQ(Records("a\nb\nc"), TextList());
-    EXPECT_EQ(Records("a\r\nb\r\n"), TextList());
-    EXPECT_EQ(Records("\r\r\n\n"), TextList());
+    EXPECT_EQ(Records("a\nb\nc"), store::TextList());
+    EXPECT_EQ(Records("a\r\nb\r\n"), store::TextList());
+    EXPECT_EQ(Records("\r\r\n\n"), store::TextList());
 }
 
 TEST(SplitRecords, AnEmptyFileHasNoRecords) {
-    EXPECT_EQ(Records(""), TextList());
+    EXPECT_EQ(Records(""), store::TextList());
 }
 
 TEST(SplitRecords, EmptyRecordsAreNotKept) {
-    EXPECT_EQ(Records("\n\r\n\ra\nb\n\r\n\r"), TextList{L"a\nb"});
+    EXPECT_EQ(Records("\n\r\n\ra\nb\n\r\n\r"), store::TextList{L"a\nb"});
 }
 
 TEST(SplitRecords, ARecordWithoutALineFeedIsNotKept) {
-    EXPECT_EQ(Records("a\n\rb\nc\n\r"), TextList{L"b\nc"});
+    EXPECT_EQ(Records("a\n\rb\nc\n\r"), store::TextList{L"b\nc"});
 }
 
 TEST(SplitRecords, ARecordOfOnlyALineFeedIsKept) {
-    EXPECT_EQ(Records("\n\n\r"), TextList{L"\n"});
+    EXPECT_EQ(Records("\n\n\r"), store::TextList{L"\n"});
 }
 
 TEST(SplitRecords, ARecordMayBeginWithCarriageReturn) {
-    EXPECT_EQ(Records("a\nb\n\r\rc\nd\n\r"), (TextList{L"a\nb", L"\rc\nd"}));
+    EXPECT_EQ(Records("a\nb\n\r\rc\nd\n\r"), (store::TextList{L"a\nb", L"\rc\nd"}));
 }
 
 TEST(SplitRecords, AZeroByteEndsTheText) {
-    EXPECT_EQ(Records("a\nb\n\rc\nd\0e\n\rf\ng\n\r"s), TextList{L"a\nb"});
-    EXPECT_EQ(Records("\0a\nb\n\r"s), TextList());
+    EXPECT_EQ(Records("a\nb\n\rc\nd\0e\n\rf\ng\n\r"s), store::TextList{L"a\nb"});
+    EXPECT_EQ(Records("\0a\nb\n\r"s), store::TextList());
 }
 
 TEST(SplitRecords, AZeroByteBetweenLineFeedAndCarriageReturnLosesTheRecord) {
-    EXPECT_EQ(Records("a\nb\n\0\r"s), TextList());
+    EXPECT_EQ(Records("a\nb\n\0\r"s), store::TextList());
 }
 
 TEST(SplitRecords, RecordsThatGiveNoRuleAreKeptNonetheless) {
     // What an import refreshes hangs on the records, not on the rules that they give.
-    const TextList records = Records("a\nb\n\r");
+    const store::TextList records = Records("a\nb\n\r");
     EXPECT_EQ(records.size(), 1U);
-    EXPECT_EQ(ParseRecords(records), std::vector<Rule>());
+    EXPECT_EQ(store::ParseRecords(records), std::vector<store::Rule>());
 }
 
 TEST(ParseRulesFile, EveryFieldOfARecordReachesItsPlace) {
-    Rule expected;
+    store::Rule expected;
     expected.operation = L"ENCR";
     expected.inputFolder = L"C:\\in";
     expected.outputFolder = L"C:\\out";
@@ -113,20 +109,20 @@ TEST(ParseRulesFile, EveryFieldOfARecordReachesItsPlace) {
                     "Main profile\n2\n3\nOther profile\nD:\\second\nLetters to the bank\n"
                     "chiefs;;CN=Chief;;CN=Deputy;\\;clerks;;CN=Clerk\n4\ntmp\np7e\n%Y\n%M\n5\n6\n-7\nmail%n\n"
                     "C:\\handler.exe\n8\n\r"),
-              std::vector<Rule>{expected});
+              std::vector<store::Rule>{expected});
 }
 
 TEST(ParseRulesFile, ARecordOfElevenFieldsIsSkipped) {
     std::vector<std::string> fields = FieldsWith(0, "ENCR");
     fields.resize(11);
     EXPECT_EQ(Rules(RecordText(fields) + RecordText(FieldsWith(0, "DECR"))).size(), 1U);
-    EXPECT_EQ(Rules(RecordText(fields)), std::vector<Rule>());
+    EXPECT_EQ(Rules(RecordText(fields)), std::vector<store::Rule>());
 }
 
 TEST(ParseRulesFile, ARecordOfTwelveFieldsLeavesTheRestAtItsDefaults) {
-    const Rule rule =
+    const store::Rule rule =
         OneRule({"ARCH", "in", "out", "err", "*.*", "CN=A", "1", "cs", "1", "1", "other", "second"});
-    Rule expected;
+    store::Rule expected;
     expected.operation = L"ARCH";
     expected.inputFolder = L"in";
     expected.outputFolder = L"out";
@@ -171,7 +167,7 @@ TEST(ParseRulesFile, EachFieldAfterTheTwelfthIsTakenAsSoonAsItIsThere) {
     for (std::size_t index = 12; index < fields.size(); ++index) {
         fields[index] = "7";
     }
-    Rule expected;
+    store::Rule expected;
     expected.operation = L"ENCR";
     for (std::size_t fieldCount = 12; fieldCount <= 25; ++fieldCount) {
         switch (fieldCount) {
@@ -230,8 +226,8 @@ TEST(ParseRulesFile, FieldsAfterTheTwentyFifthAreIgnored) {
 }
 
 TEST(ParseRulesFile, EmptyFieldsKeepTheirPositions) {
-    const Rule rule = OneRule({"", "", "", "", "", "", "", "", "", "", "", "last"});
-    Rule expected;
+    const store::Rule rule = OneRule({"", "", "", "", "", "", "", "", "", "", "", "last"});
+    store::Rule expected;
     expected.secondOutput = L"last";
     EXPECT_EQ(rule, expected);
 }
@@ -242,48 +238,50 @@ TEST(ParseRulesFile, AnEmptyLastFieldCounts) {
 }
 
 TEST(ParseRulesFile, ZeroStandsForAnEmptyList) {
-    const Rule rule = OneRule(testing::EmptyFields());
-    EXPECT_EQ(rule, Rule());
+    const store::Rule rule = OneRule(EmptyFields());
+    EXPECT_EQ(rule, store::Rule());
 }
 
 TEST(ParseRulesFile, OnlyZeroAloneStandsForAnEmptyList) {
-    EXPECT_EQ(OneRule(FieldsWith(4, "00")).masks, TextList{L"00"});
-    EXPECT_EQ(OneRule(FieldsWith(4, "0;;0")).masks, (TextList{L"0", L"0"}));
-    EXPECT_EQ(OneRule(FieldsWith(13, "0;;0")).signerGroups, (std::vector<SignerGroup>{{L"0", {L"0"}}}));
+    EXPECT_EQ(OneRule(FieldsWith(4, "00")).masks, store::TextList{L"00"});
+    EXPECT_EQ(OneRule(FieldsWith(4, "0;;0")).masks, (store::TextList{L"0", L"0"}));
+    EXPECT_EQ(OneRule(FieldsWith(13, "0;;0")).signerGroups,
+              (std::vector<store::SignerGroup>{{L"0", {L"0"}}}));
 }
 
 TEST(ParseRulesFile, EmptyMasksAndRecipientsAreDropped) {
-    EXPECT_EQ(OneRule(FieldsWith(4, "")).masks, TextList());
-    EXPECT_EQ(OneRule(FieldsWith(4, ";;*.a;;;;*.b;;")).masks, (TextList{L"*.a", L"*.b"}));
-    EXPECT_EQ(OneRule(FieldsWith(5, ";;;;")).recipients, TextList());
+    EXPECT_EQ(OneRule(FieldsWith(4, "")).masks, store::TextList());
+    EXPECT_EQ(OneRule(FieldsWith(4, ";;*.a;;;;*.b;;")).masks, (store::TextList{L"*.a", L"*.b"}));
+    EXPECT_EQ(OneRule(FieldsWith(5, ";;;;")).recipients, store::TextList());
 }
 
 TEST(ParseRulesFile, SeparatorsAreFoundFromTheLeft) {
-    EXPECT_EQ(OneRule(FieldsWith(4, "a;;;b")).masks, (TextList{L"a", L";b"}));
-    EXPECT_EQ(OneRule(FieldsWith(4, "a;b")).masks, TextList{L"a;b"});
+    EXPECT_EQ(OneRule(FieldsWith(4, "a;;;b")).masks, (store::TextList{L"a", L";b"}));
+    EXPECT_EQ(OneRule(FieldsWith(4, "a;b")).masks, store::TextList{L"a;b"});
     EXPECT_EQ(OneRule(FieldsWith(13, "a;;\\;b")).signerGroups,
-              (std::vector<SignerGroup>{{L"a;", {}}, {L"b", {}}}));
+              (std::vector<store::SignerGroup>{{L"a;", {}}, {L"b", {}}}));
 }
 
 TEST(ParseRulesFile, EmptySignersAreKept) {
     EXPECT_EQ(OneRule(FieldsWith(13, "list;;;;CN=A;;")).signerGroups,
-              (std::vector<SignerGroup>{{L"list", {L"", L"CN=A", L""}}}));
+              (std::vector<store::SignerGroup>{{L"list", {L"", L"CN=A", L""}}}));
 }
 
 TEST(ParseRulesFile, ASignerListWithoutSignersIsKept) {
     EXPECT_EQ(OneRule(FieldsWith(13, "first;\\;second")).signerGroups,
-              (std::vector<SignerGroup>{{L"first", {}}, {L"second", {}}}));
+              (std::vector<store::SignerGroup>{{L"first", {}}, {L"second", {}}}));
 }
 
 TEST(ParseRulesFile, ASignerListOfNothingIsSkipped) {
-    EXPECT_EQ(OneRule(FieldsWith(13, "")).signerGroups, std::vector<SignerGroup>());
-    EXPECT_EQ(OneRule(FieldsWith(13, ";\\;")).signerGroups, std::vector<SignerGroup>());
+    EXPECT_EQ(OneRule(FieldsWith(13, "")).signerGroups, std::vector<store::SignerGroup>());
+    EXPECT_EQ(OneRule(FieldsWith(13, ";\\;")).signerGroups, std::vector<store::SignerGroup>());
     EXPECT_EQ(OneRule(FieldsWith(13, ";\\;list;;CN=A;\\;")).signerGroups,
-              (std::vector<SignerGroup>{{L"list", {L"CN=A"}}}));
+              (std::vector<store::SignerGroup>{{L"list", {L"CN=A"}}}));
 }
 
 TEST(ParseRulesFile, ASignerListMayHaveAnEmptyName) {
-    EXPECT_EQ(OneRule(FieldsWith(13, ";;CN=A")).signerGroups, (std::vector<SignerGroup>{{L"", {L"CN=A"}}}));
+    EXPECT_EQ(OneRule(FieldsWith(13, ";;CN=A")).signerGroups,
+              (std::vector<store::SignerGroup>{{L"", {L"CN=A"}}}));
 }
 
 TEST(ParseRulesFile, NumbersAreReadAsFarAsTheyGo) {
@@ -301,7 +299,7 @@ TEST(ParseRulesFile, NothingIsCheckedAgainstTheOperations) {
 
 TEST(ParseRulesFile, TheSameRecordTwiceGivesTwoRules) {
     const std::string record = RecordText(FieldsWith(0, "ENCR"));
-    const std::vector<Rule> rules = Rules(record + record);
+    const std::vector<store::Rule> rules = Rules(record + record);
     ASSERT_EQ(rules.size(), 2U);
     EXPECT_EQ(rules[0], rules[1]);
 }
@@ -309,13 +307,13 @@ TEST(ParseRulesFile, TheSameRecordTwiceGivesTwoRules) {
 TEST(ParseRulesFile, AMissingLastRecordEndLosesThatRecordOnly) {
     std::string text = RecordText(FieldsWith(0, "ENCR")) + RecordText(FieldsWith(0, "DECR"));
     text.pop_back();
-    const std::vector<Rule> rules = Rules(text);
+    const std::vector<store::Rule> rules = Rules(text);
     ASSERT_EQ(rules.size(), 1U);
     EXPECT_EQ(rules[0].operation, L"ENCR");
 }
 
 TEST(ParseRulesFile, RulesComeInFileOrderAndSkippedRecordsLeaveNoGap) {
-    const std::vector<Rule> rules =
+    const std::vector<store::Rule> rules =
         Rules(RecordText(FieldsWith(0, "ENCR")) + "too\nshort\n\r" + RecordText(FieldsWith(0, "DECR")));
     ASSERT_EQ(rules.size(), 2U);
     EXPECT_EQ(rules[0].operation, L"ENCR");
@@ -332,4 +330,4 @@ TEST(ParseRulesFile, LoadingRulesOfOtherOperationsAreNotAppliedHere) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

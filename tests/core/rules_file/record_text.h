@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace corvane::testing {
+namespace corvane::test {
 
 /// A record written by hand, field by field: the fields joined by LF, then LF CR.
 inline std::string RecordText(const std::vector<std::string>& fields) {
@@ -35,4 +35,4 @@ inline std::wstring Wide(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
-}  // namespace corvane::testing
+}  // namespace corvane::test

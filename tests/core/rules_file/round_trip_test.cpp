@@ -1,22 +1,20 @@
 #include <gtest/gtest.h>
 
-#include "config/rules_file_text.h"
+#include "store/rules_file/rules_file.h"
 #include "tests/core/rules_file/record_text.h"
 
 #include "tests/support/test_system_text.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-using testing::CodePage;
-using testing::TestSystemText;
-
-std::vector<Rule> ThereAndBack(const std::vector<Rule>& rules, const toolkit::SystemText& systemText) {
-    return ParseRulesFile(systemText.Narrow(FormatRulesFile(rules)), systemText);
+std::vector<store::Rule> ThereAndBack(const std::vector<store::Rule>& rules,
+                                      const toolkit::SystemText& systemText) {
+    return store::ParseRulesFile(systemText.Narrow(store::FormatRulesFile(rules)), systemText);
 }
 
-Rule DescribedRule(const std::wstring& description) {
-    Rule rule;
+store::Rule DescribedRule(const std::wstring& description) {
+    store::Rule rule;
     rule.operation = L"SIGN";
     rule.inputFolder = L"C:\\in";
     rule.description = description;
@@ -28,64 +26,65 @@ constexpr wchar_t kCyrillic[] =
     L"\x041F\x0438\x0441\x044C\x043C\x0430 \x0432 \x0431\x0430\x043D\x043A: \x0401\x0436\x0438\x043A";
 
 TEST(RulesFileRoundTrip, ExportThenImportYieldsTheSameRulesInTheSameOrder) {
-    Rule first = DescribedRule(L"first");
+    store::Rule first = DescribedRule(L"first");
     first.masks = {L"*.doc", L"*.xls"};
     first.recipients = {L"CN=A,O=B", L"CN=C"};
     first.signerGroups = {{L"chiefs", {L"CN=D", L""}}, {L"nobody", {}}};
     first.archiveFormat = 2;
     first.isOn = 1;
-    Rule second = DescribedRule(L"second");
+    store::Rule second = DescribedRule(L"second");
     second.executable = L"C:\\a b\\c.exe";
     second.executionTimeout = 3;
-    const Rule third;
-    const std::vector<Rule> rules = {first, second, third};
+    const store::Rule third;
+    const std::vector<store::Rule> rules = {first, second, third};
     EXPECT_EQ(ThereAndBack(rules, TestSystemText(CodePage::kLatin)), rules);
 }
 
 TEST(RulesFileRoundTrip, EmptyMasksAndRecipientsStayEmptyLists) {
-    const std::vector<Rule> rules = ThereAndBack({Rule()}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({store::Rule()}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
-    EXPECT_EQ(rules[0].masks, TextList());
-    EXPECT_EQ(rules[0].recipients, TextList());
+    EXPECT_EQ(rules[0].masks, store::TextList());
+    EXPECT_EQ(rules[0].recipients, store::TextList());
 }
 
 TEST(RulesFileRoundTrip, AnEmptyMaskOrRecipientElementIsLost) {
-    Rule rule;
+    store::Rule rule;
     rule.masks = {L"", L"*.doc"};
     rule.recipients = {L""};
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
-    EXPECT_EQ(rules[0].masks, TextList{L"*.doc"});
-    EXPECT_EQ(rules[0].recipients, TextList());
+    EXPECT_EQ(rules[0].masks, store::TextList{L"*.doc"});
+    EXPECT_EQ(rules[0].recipients, store::TextList());
 }
 
 TEST(RulesFileRoundTrip, TheLegacyMaskIsLost) {
-    Rule rule;
+    store::Rule rule;
     rule.legacyMask = L"*.old";
-    EXPECT_EQ(ThereAndBack({rule}, TestSystemText(CodePage::kLatin)), std::vector<Rule>{Rule()});
+    EXPECT_EQ(ThereAndBack({rule}, TestSystemText(CodePage::kLatin)),
+              std::vector<store::Rule>{store::Rule()});
 }
 
 TEST(RulesFileRoundTrip, AMaskWithTheElementSeparatorComesBackAsTwo) {
-    Rule rule;
+    store::Rule rule;
     rule.masks = {L"a;;b"};
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
-    EXPECT_EQ(rules[0].masks, (TextList{L"a", L"b"}));
+    EXPECT_EQ(rules[0].masks, (store::TextList{L"a", L"b"}));
 }
 
 TEST(RulesFileRoundTrip, ASignerWithTheGroupSeparatorComesBackAsTwoLists) {
-    Rule rule;
+    store::Rule rule;
     rule.signerGroups = {{L"list", {L"CN=A;\\;CN=B"}}};
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
-    EXPECT_EQ(rules[0].signerGroups, (std::vector<SignerGroup>{{L"list", {L"CN=A"}}, {L"CN=B", {}}}));
+    EXPECT_EQ(rules[0].signerGroups, (std::vector<store::SignerGroup>{{L"list", {L"CN=A"}}, {L"CN=B", {}}}));
 }
 
 TEST(RulesFileRoundTrip, AValueWithALineFeedShiftsTheFieldsAfterIt) {
-    Rule rule;
+    store::Rule rule;
     rule.resignProfile = L"one\ntwo";
     rule.secondOutput = L"three";
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
     EXPECT_EQ(rules[0].resignProfile, L"one");
     EXPECT_EQ(rules[0].secondOutput, L"two");
@@ -93,9 +92,9 @@ TEST(RulesFileRoundTrip, AValueWithALineFeedShiftsTheFieldsAfterIt) {
 }
 
 TEST(RulesFileRoundTrip, AValueWithARecordEndEndsTheRecord) {
-    Rule rule = DescribedRule(L"one\n\rtwo");
+    store::Rule rule = DescribedRule(L"one\n\rtwo");
     rule.executable = L"lost";
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     // The rest of the record begins in the description, so it counts 13 fields, and is taken for a rule.
     ASSERT_EQ(rules.size(), 2U);
     EXPECT_EQ(rules[0].operation, L"SIGN");
@@ -105,7 +104,8 @@ TEST(RulesFileRoundTrip, AValueWithARecordEndEndsTheRecord) {
 }
 
 TEST(RulesFileRoundTrip, AValueThatBeginsWithCarriageReturnEndsTheRecordToo) {
-    const std::vector<Rule> rules = ThereAndBack({DescribedRule(L"\rtwo")}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules =
+        ThereAndBack({DescribedRule(L"\rtwo")}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 2U);
     EXPECT_EQ(rules[0].operation, L"SIGN");
     EXPECT_EQ(rules[0].description, L"");
@@ -113,21 +113,21 @@ TEST(RulesFileRoundTrip, AValueThatBeginsWithCarriageReturnEndsTheRecordToo) {
 }
 
 TEST(RulesFileRoundTrip, AnArchRuleWithoutAFormatComesBackAsZip) {
-    Rule rule;
+    store::Rule rule;
     rule.operation = L"ARCH";
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
     EXPECT_EQ(rules[0].archiveFormat, 1);
 }
 
 TEST(RulesFileRoundTrip, CyrillicDescriptionsAreUnharmedUnder1251) {
-    const std::vector<Rule> rules = {DescribedRule(kCyrillic), DescribedRule(L"plain")};
+    const std::vector<store::Rule> rules = {DescribedRule(kCyrillic), DescribedRule(L"plain")};
     EXPECT_EQ(ThereAndBack(rules, TestSystemText(CodePage::kCyrillic)), rules);
 }
 
 TEST(RulesFileRoundTrip, ACyrillicDescriptionTakesOneByteACharacterUnder1251) {
     const std::string bytes =
-        TestSystemText(CodePage::kCyrillic).Narrow(FormatRulesFile({DescribedRule(kCyrillic)}));
+        TestSystemText(CodePage::kCyrillic).Narrow(store::FormatRulesFile({DescribedRule(kCyrillic)}));
     EXPECT_EQ(bytes,
               "SIGN\nC:\\in\n\n\n0\n0\n0\n\n0\n0\n\n\n"
               "\xCF\xE8\xF1\xFC\xEC\xE0 \xE2 \xE1\xE0\xED\xEA: \xA8\xE6\xE8\xEA"
@@ -135,43 +135,43 @@ TEST(RulesFileRoundTrip, ACyrillicDescriptionTakesOneByteACharacterUnder1251) {
 }
 
 TEST(RulesFileRoundTrip, WesternDescriptionsAreUnharmedUnder1252) {
-    const std::vector<Rule> rules = {
+    const std::vector<store::Rule> rules = {
         DescribedRule(L"\x00DC\x0062\x0065rgr\x00F6\x00DF\x0065 \x20AC 5 \x2013 caf\x00E9")};
     EXPECT_EQ(ThereAndBack(rules, TestSystemText(CodePage::kLatin)), rules);
 }
 
 TEST(RulesFileRoundTrip, CharactersOutsideTheCodePageAreReplacedAndNothingElseIsHarmed) {
-    Rule rule = DescribedRule(
+    store::Rule rule = DescribedRule(
         L"a\x0416"
         L"b");
     rule.executable = L"C:\\x.exe";
-    const std::vector<Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
+    const std::vector<store::Rule> rules = ThereAndBack({rule}, TestSystemText(CodePage::kLatin));
     ASSERT_EQ(rules.size(), 1U);
     EXPECT_EQ(rules[0].description, L"a?b");
     EXPECT_EQ(rules[0].executable, L"C:\\x.exe");
 }
 
 TEST(RulesFileRoundTrip, NothingIsCutWhereOneCharacterTakesSeveralBytes) {
-    const std::vector<Rule> rules = {DescribedRule(kCyrillic), DescribedRule(L"\x65E5\x672C \xD83D\xDE00"),
-                                     DescribedRule(L"last")};
+    const std::vector<store::Rule> rules = {
+        DescribedRule(kCyrillic), DescribedRule(L"\x65E5\x672C \xD83D\xDE00"), DescribedRule(L"last")};
     EXPECT_EQ(ThereAndBack(rules, TestSystemText(CodePage::kUtf8)), rules);
 }
 
 TEST(RulesFileRoundTrip, SecondBytesOfACharacterAreNoSeparators) {
     // The second byte of each of these is 0x5C under 932, the backslash of the separator of signer lists.
-    Rule rule = DescribedRule(L"\x8868;\x80FD");
+    store::Rule rule = DescribedRule(L"\x8868;\x80FD");
     rule.signerGroups = {{L"\x30BD", {L"a;\x8868;b"}}, {L"\x80FD", {}}};
     const TestSystemText shiftJis(CodePage::kShiftJis);
     ASSERT_NE(shiftJis.Narrow(L"\x8868").find('\\'), std::string::npos);
-    EXPECT_EQ(ThereAndBack({rule}, shiftJis), std::vector<Rule>{rule});
+    EXPECT_EQ(ThereAndBack({rule}, shiftJis), std::vector<store::Rule>{rule});
 }
 
 TEST(RulesFileRoundTrip, ThousandsOfRulesComeBack) {
-    Rule rule = DescribedRule(L"many");
+    store::Rule rule = DescribedRule(L"many");
     rule.masks = {L"*.a", L"*.b"};
-    const std::vector<Rule> rules(3000, rule);
+    const std::vector<store::Rule> rules(3000, rule);
     EXPECT_EQ(ThereAndBack(rules, TestSystemText(CodePage::kLatin)), rules);
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,23 +1,18 @@
-#include "config/rules_file.h"
+#include "store/rules_file/rules_file.h"
 
 #include <gtest/gtest.h>
 
-#include "config/rules_file_text.h"
 #include "tests/core/rules_file/record_text.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::CodePage;
-using testing::MemoryFiles;
-using testing::ReporterFixture;
 
 constexpr wchar_t kRulesPath[] = L"C:\\exchange\\rules.prx";
 
-Rule MoveRule(const std::wstring& description) {
-    Rule rule;
+store::Rule MoveRule(const std::wstring& description) {
+    store::Rule rule;
     rule.operation = L"MOVE";
     rule.description = description;
     return rule;
@@ -26,8 +21,8 @@ Rule MoveRule(const std::wstring& description) {
 TEST(WriteRulesFile, TheFileHoldsTheRecordsInTheSystemsCodePage) {
     MemoryFiles files;
     ReporterFixture reports(CodePage::kCyrillic);
-    EXPECT_TRUE(
-        WriteRulesFile(kRulesPath, {MoveRule(L"\x0416\x0431"), Rule()}, files, reports.reporter, nullptr));
+    EXPECT_TRUE(store::WriteRulesFile(kRulesPath, {MoveRule(L"\x0416\x0431"), store::Rule()}, files,
+                                      reports.reporter, nullptr));
     EXPECT_EQ(files.contents[kRulesPath],
               "MOVE\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\xC6\xE1\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r"
               "\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
@@ -37,8 +32,8 @@ TEST(WriteRulesFile, TheFileHoldsTheRecordsInTheSystemsCodePage) {
 TEST(WriteRulesFile, EveryByteIsWrittenWhereACharacterTakesSeveral) {
     MemoryFiles files;
     ReporterFixture reports(CodePage::kShiftJis);
-    EXPECT_TRUE(
-        WriteRulesFile(kRulesPath, {MoveRule(L"\x65E5\x672C\x8A9E")}, files, reports.reporter, nullptr));
+    EXPECT_TRUE(store::WriteRulesFile(kRulesPath, {MoveRule(L"\x65E5\x672C\x8A9E")}, files, reports.reporter,
+                                      nullptr));
     EXPECT_EQ(files.contents[kRulesPath],
               "MOVE\n\n\n\n0\n0\n0\n\n0\n0\n\n\n\x93\xFA\x96\x7B\x8C\xEA\n0\n0\n\n\n\n\n0\n0\n0\n\n\n0\n\r");
 }
@@ -47,7 +42,7 @@ TEST(WriteRulesFile, WithoutRulesNoFileIsTouched) {
     MemoryFiles files;
     ReporterFixture reports;
     files.contents[kRulesPath] = "old";
-    EXPECT_TRUE(WriteRulesFile(kRulesPath, {}, files, reports.reporter, nullptr));
+    EXPECT_TRUE(store::WriteRulesFile(kRulesPath, {}, files, reports.reporter, nullptr));
     EXPECT_EQ(files.Calls().size(), 0U);
     EXPECT_EQ(files.contents[kRulesPath], "old");
 }
@@ -57,33 +52,36 @@ TEST(ReadRulesFile, TheImportReadsWhatSuchAnExportWrote) {
          {CodePage::kLatin, CodePage::kCyrillic, CodePage::kShiftJis, CodePage::kUtf8}) {
         MemoryFiles files;
         ReporterFixture reports(codePage);
-        const std::vector<Rule> rules = {MoveRule(L"one"), MoveRule(L"two"), Rule()};
-        ASSERT_TRUE(WriteRulesFile(kRulesPath, rules, files, reports.reporter, nullptr));
-        const std::optional<std::string> bytes = ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
+        const std::vector<store::Rule> rules = {MoveRule(L"one"), MoveRule(L"two"), store::Rule()};
+        ASSERT_TRUE(store::WriteRulesFile(kRulesPath, rules, files, reports.reporter, nullptr));
+        const std::optional<std::string> bytes =
+            store::ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
         ASSERT_TRUE(bytes.has_value());
-        EXPECT_EQ(ParseRulesFile(*bytes, reports.text), rules) << static_cast<int>(codePage);
+        EXPECT_EQ(store::ParseRulesFile(*bytes, reports.text), rules) << static_cast<int>(codePage);
     }
 }
 
 TEST(ReadRulesFile, CharactersOfSeveralBytesComeBack) {
     MemoryFiles files;
     ReporterFixture reports(CodePage::kShiftJis);
-    const std::vector<Rule> rules = {MoveRule(L"\x65E5\x672C\x8A9E"), MoveRule(L"last")};
-    ASSERT_TRUE(WriteRulesFile(kRulesPath, rules, files, reports.reporter, nullptr));
-    const std::optional<std::string> bytes = ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
+    const std::vector<store::Rule> rules = {MoveRule(L"\x65E5\x672C\x8A9E"), MoveRule(L"last")};
+    ASSERT_TRUE(store::WriteRulesFile(kRulesPath, rules, files, reports.reporter, nullptr));
+    const std::optional<std::string> bytes =
+        store::ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
     ASSERT_TRUE(bytes.has_value());
-    EXPECT_EQ(ParseRulesFile(*bytes, reports.text), rules);
+    EXPECT_EQ(store::ParseRulesFile(*bytes, reports.text), rules);
 }
 
 TEST(ReadRulesFile, ReadingTheSameFileTwiceGivesTheRulesTwice) {
     MemoryFiles files;
     ReporterFixture reports;
-    files.contents[kRulesPath] = testing::RecordText(testing::FieldsWith(0, "ENCR"));
-    std::vector<Rule> rules;
+    files.contents[kRulesPath] = RecordText(FieldsWith(0, "ENCR"));
+    std::vector<store::Rule> rules;
     for (int times = 0; times < 2; ++times) {
-        const std::optional<std::string> bytes = ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
+        const std::optional<std::string> bytes =
+            store::ReadRulesFile(kRulesPath, files, reports.reporter, nullptr);
         ASSERT_TRUE(bytes.has_value());
-        for (const Rule& rule : ParseRulesFile(*bytes, reports.text)) {
+        for (const store::Rule& rule : store::ParseRulesFile(*bytes, reports.text)) {
             rules.push_back(rule);
         }
     }
@@ -92,4 +90,4 @@ TEST(ReadRulesFile, ReadingTheSameFileTwiceGivesTheRulesTwice) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "config/whole_file.h"
+#include "store/whole_file.h"
 
 #include <gtest/gtest.h>
 
@@ -9,16 +9,8 @@
 #include "tests/support/memory_files.h"
 #include "tests/support/reporter_fixture.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::CodePage;
-using testing::FileCall;
-using testing::FileOperation;
-using testing::MemoryFiles;
-using testing::RecordingPresenter;
-using testing::ReporterFixture;
-using testing::ShownBox;
 
 constexpr wchar_t kPath[] = L"C:\\folder\\file.txt";
 
@@ -32,7 +24,9 @@ std::vector<FileOperation> Operations(const MemoryFiles& files) {
 
 // What a test of whole files needs; at its end every file must have been closed, and none twice.
 struct WholeFileTest : public ::testing::Test {
-    WholeFile File(const wchar_t* path = kPath) { return WholeFile(path, files, reports.reporter, owner); }
+    store::WholeFile File(const wchar_t* path = kPath) {
+        return store::WholeFile(path, files, reports.reporter, owner);
+    }
 
     void TearDown() override {
         EXPECT_EQ(files.OpenHandles(), 0U);
@@ -258,15 +252,15 @@ class OpenFilesWatcher : public RecordingPresenter {
 
 TEST_F(WholeFileTest, TheFileIsNoLongerLockedWhileAReportIsShown) {
     OpenFilesWatcher presenter(files);
-    ErrorReporter reporter(presenter, reports.messages, reports.provider, reports.text);
+    reporting::ErrorReporter reporter(presenter, reports.messages, reports.provider, reports.text);
     files.contents[kPath] = "abc";
     files.FailCall(2, 1117);
-    EXPECT_EQ(WholeFile(kPath, files, reporter, nullptr).Read(), std::nullopt);
+    EXPECT_EQ(store::WholeFile(kPath, files, reporter, nullptr).Read(), std::nullopt);
     files.FailCall(files.Calls().size() + 1, 112);
-    EXPECT_FALSE(WholeFile(kPath, files, reporter, nullptr).Write("abc"));
+    EXPECT_FALSE(store::WholeFile(kPath, files, reporter, nullptr).Write("abc"));
     EXPECT_EQ(presenter.Boxes().size(), 2U);
     EXPECT_EQ(presenter.openWhenShown, 0U);
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -60,7 +60,7 @@ TEST(FindCert, ANetworkStoreThatDoesNotAnswerFailsTheSearchAndIsAskedAgain) {
 TEST(FindCert, TheProbeOfAnAnsweringNetworkStoreFindsNothing) {
     const FakeSystem system = TwoStores();
     Session session(system);
-    EXPECT_EQ(session.Search(0xE04, "CN=QQQ,C=RU", 0), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0xE04, "CN=QQQ,C=RU", 0), provider::kStatusNothingFound);
     EXPECT_THAT(PopErrors(session.provider, session.context), IsEmpty());
 }
 
@@ -77,7 +77,7 @@ TEST(FindCert, LetterCaseDoesNotMatterCyrillicIncluded) {
     system.local = {CertificateOf(L"\u0418\u0432\u0430\u043D", L"Northgate", {1})};
     Session session(system);
     EXPECT_EQ(session.Search(0, "cn=\xE8\xC2*"), kStatusOk);
-    EXPECT_EQ(session.Search(0, "cn=\xE9\xC2*"), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0, "cn=\xE9\xC2*"), provider::kStatusNothingFound);
 }
 
 TEST(FindCert, AnOwnerTextThatTheCodePageSpoiltStillFindsItsOwner) {
@@ -115,7 +115,7 @@ TEST(FindCert, ACertificateOutsideItsPeriodIsNotServed) {
     system.local = {CertificateOf(L"Helen Marsh", L"Northgate", {1})};
     system.local->front().isValidNow = false;
     Session session(system);
-    EXPECT_EQ(session.Search(0, nullptr), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0, nullptr), provider::kStatusNothingFound);
 }
 
 TEST(FindCert, SigningCertificatesAreServedInEverySearchWithTheirUsageByte) {
@@ -123,10 +123,10 @@ TEST(FindCert, SigningCertificatesAreServedInEverySearchWithTheirUsageByte) {
     system.local = {CertificateOf(L"Erik Sandberg", L"Lindholm", {1}, kKeyUsageSigning)};
     Session session(system);
     for (const std::uint32_t flags : {0U, 0x100U}) {
-        CertQuery query;
+        provider::CertQuery query;
         query.searchFlags = flags;
         query.fieldsWanted = kListFields;
-        CertFindResult result;
+        provider::CertFindResult result;
         ASSERT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusOk);
         EXPECT_EQ(result.entries[0].usage, 0x03);
         EXPECT_EQ(session.provider.FreeFindResult(session.context, &result), kStatusOk);
@@ -137,9 +137,9 @@ TEST(FindCert, OnlyTheWantedFieldsAreFilledIn) {
     FakeSystem system;
     system.local = {CertificateOf(L"Helen Marsh", L"Northgate", {0xFF, 0x1B, 0x0A})};
     Session session(system);
-    CertQuery query;
+    provider::CertQuery query;
     query.fieldsWanted = kListFields;
-    CertFindResult result;
+    provider::CertFindResult result;
     ASSERT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusOk);
     EXPECT_STREQ(result.entries[0].owner, kMarsh);
     EXPECT_EQ(result.entries[0].issuer, nullptr);
@@ -149,7 +149,7 @@ TEST(FindCert, OnlyTheWantedFieldsAreFilledIn) {
     query.fieldsWanted = kCertificateFields;
     ASSERT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusOk);
     EXPECT_STREQ(result.entries[0].issuer, "CN=Test CA");
-    const CertEntry& entry = result.entries[0];
+    const provider::CertEntry& entry = result.entries[0];
     EXPECT_THAT(Bytes(entry.serial, entry.serial + entry.serialLength), ElementsAre(0x0A, 0x1B, 0xFF));
     EXPECT_EQ(session.provider.FreeFindResult(session.context, &result), kStatusOk);
 }
@@ -157,9 +157,9 @@ TEST(FindCert, OnlyTheWantedFieldsAreFilledIn) {
 TEST(FindCert, AResultOutlivesItsContext) {
     const FakeSystem system = TwoStores();
     Session session(system);
-    CertQuery query;
+    provider::CertQuery query;
     query.fieldsWanted = kListFields;
-    CertFindResult result;
+    provider::CertFindResult result;
     ASSERT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusOk);
     ASSERT_EQ(session.provider.Uninitialize(session.context), kStatusOk);
     EXPECT_STREQ(result.entries[0].owner, kMarsh);
@@ -168,8 +168,8 @@ TEST(FindCert, AResultOutlivesItsContext) {
 TEST(FindCert, NullArgumentsAreRefused) {
     const FakeSystem system;
     Session session(system);
-    CertQuery query;
-    CertFindResult result;
+    provider::CertQuery query;
+    provider::CertFindResult result;
     EXPECT_EQ(session.provider.FindCert(session.context, nullptr, &result), 0xFFFFFFFEU);
     EXPECT_EQ(session.provider.FindCert(session.context, &query, nullptr), 0xFFFFFFFDU);
 }

@@ -19,17 +19,17 @@ TEST(Initialize, AContextNeedsMoreThanThirtyTwoBits) {
 TEST(Initialize, TwoContextsAreTwo) {
     const FakeSystem system;
     Session session(system);
-    ProviderContext second = 0;
+    provider::ProviderContext second = 0;
     ASSERT_EQ(session.provider.Initialize("Clearing", 0, &second), kStatusOk);
     EXPECT_NE(second, session.context);
     EXPECT_EQ(session.provider.Uninitialize(second), kStatusOk);
-    EXPECT_EQ(session.Search(0, nullptr), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0, nullptr), provider::kStatusNothingFound);
 }
 
 TEST(Initialize, AnUnknownCsProfileFailsAndSaysSoInTheStackOfContextZero) {
     const FakeSystem system;
     StandInProvider provider(system);
-    ProviderContext context = 77;
+    provider::ProviderContext context = 77;
     EXPECT_EQ(provider.Initialize("Nobody", 0, &context), kStatusUnknownCsProfile);
     EXPECT_EQ(context, 0U);
     EXPECT_THAT(PopErrors(provider, 0),
@@ -41,7 +41,7 @@ TEST(Initialize, AnUnknownCsProfileFailsAndSaysSoInTheStackOfContextZero) {
 TEST(Initialize, ASuccessLeavesTheStackOfContextZeroEmpty) {
     const FakeSystem system;
     StandInProvider provider(system);
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     ASSERT_EQ(provider.Initialize("Nobody", 0, &context), kStatusUnknownCsProfile);
     ASSERT_EQ(provider.Initialize("Clearing", 0, &context), kStatusOk);
     EXPECT_THAT(PopErrors(provider, 0), IsEmpty());
@@ -51,7 +51,7 @@ TEST(Initialize, ALocalStoreThatCannotBeReadFailsIt) {
     FakeSystem system;
     system.local.reset();
     StandInProvider provider(system);
-    ProviderContext context = 77;
+    provider::ProviderContext context = 77;
     EXPECT_EQ(provider.Initialize("Clearing", 0, &context), kStatusLocalStoreClosed);
     EXPECT_EQ(context, 0U);
     EXPECT_THAT(PopErrors(provider, 0), ElementsAre("The local certificate store cannot be read|Clearing"));
@@ -60,7 +60,7 @@ TEST(Initialize, ALocalStoreThatCannotBeReadFailsIt) {
 TEST(Initialize, NullArgumentsAreRefused) {
     const FakeSystem system;
     StandInProvider provider(system);
-    ProviderContext context = 77;
+    provider::ProviderContext context = 77;
     EXPECT_EQ(provider.Initialize(nullptr, 0, &context), 0xFFFFFFFFU);
     EXPECT_EQ(context, 0U);
     EXPECT_EQ(provider.Initialize("Clearing", 0, nullptr), 0xFFFFFFFDU);
@@ -78,13 +78,13 @@ TEST(Uninitialize, AClosedContextServesNothing) {
     const FakeSystem system;
     Session session(system);
     ASSERT_EQ(session.provider.Uninitialize(session.context), kStatusOk);
-    CertQuery query;
-    CertFindResult result;
+    provider::CertQuery query;
+    provider::CertFindResult result;
     result.count = 5;
     EXPECT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusUnknownContext);
     EXPECT_EQ(result.count, 0U);
     EXPECT_EQ(session.provider.Control(session.context, 4, nullptr), kStatusUnknownContext);
-    XsigBlob blob;
+    provider::XsigBlob blob;
     std::uint32_t line = 0;
     EXPECT_EQ(session.provider.GetErrorLine(session.context, &blob, &blob, &line, &blob),
               kStatusUnknownContext);
@@ -94,7 +94,7 @@ TEST(GetErrorText, EveryStatusOfTheLibraryHasAText) {
     for (const std::uint32_t status :
          {kStatusOk, kStatusOutOfMemory, kStatusUnexpected, kStatusUnknownCsProfile, kStatusUnknownContext,
           kStatusUnknownControlCode, kStatusForeignMemory, kStatusStackEmpty, kStatusLocalStoreClosed,
-          kStatusNetworkStoreSilent, kStatusNothingFound, kStatusDistributionPointSilent,
+          kStatusNetworkStoreSilent, provider::kStatusNothingFound, kStatusDistributionPointSilent,
           kStatusRevocationListRefused}) {
         std::array<char, 1024> buffer = {};
         EXPECT_NE(StandInProvider::GetErrorText(status, buffer.data(), buffer.size()), 0U) << status;
@@ -110,11 +110,11 @@ TEST(GetErrorText, AStatusOfSomebodyElseHasNone) {
 
 TEST(GetErrorText, ATextIsCutAtTheCapacity) {
     std::array<char, 4> buffer = {'x', 'x', 'x', 'x'};
-    EXPECT_NE(StandInProvider::GetErrorText(kStatusNothingFound, buffer.data(), 3), 0U);
+    EXPECT_NE(StandInProvider::GetErrorText(provider::kStatusNothingFound, buffer.data(), 3), 0U);
     EXPECT_STREQ(buffer.data(), "No");
     EXPECT_EQ(buffer[3], 'x');
-    EXPECT_EQ(StandInProvider::GetErrorText(kStatusNothingFound, buffer.data(), 0), 0U);
-    EXPECT_EQ(StandInProvider::GetErrorText(kStatusNothingFound, nullptr, 9), 0U);
+    EXPECT_EQ(StandInProvider::GetErrorText(provider::kStatusNothingFound, buffer.data(), 0), 0U);
+    EXPECT_EQ(StandInProvider::GetErrorText(provider::kStatusNothingFound, nullptr, 9), 0U);
 }
 
 }  // namespace

@@ -10,11 +10,11 @@ namespace {
 TEST(FreeMem, ATextIsReleasedOnce) {
     const FakeSystem system;
     StandInProvider provider(system);
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     ASSERT_EQ(provider.Initialize("Nobody", 0, &context), kStatusUnknownCsProfile);
-    XsigBlob text;
-    XsigBlob file;
-    XsigBlob data;
+    provider::XsigBlob text;
+    provider::XsigBlob file;
+    provider::XsigBlob data;
     std::uint32_t line = 0;
     ASSERT_EQ(provider.GetErrorLine(0, &text, &file, &line, &data), kStatusOk);
     EXPECT_EQ(text.data[text.length], '\0') << "texts are ended by NUL, although their length is told";
@@ -38,9 +38,9 @@ TEST(FreeMem, AForeignPointerIsRefused) {
 TEST(GetErrorLine, NullArgumentsTakeNothingOffTheStack) {
     const FakeSystem system;
     StandInProvider provider(system);
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     ASSERT_EQ(provider.Initialize("Nobody", 0, &context), kStatusUnknownCsProfile);
-    XsigBlob blob;
+    provider::XsigBlob blob;
     std::uint32_t line = 0;
     EXPECT_EQ(provider.GetErrorLine(0, nullptr, &blob, &line, &blob), 0xFFFFFFFEU);
     EXPECT_EQ(PopErrors(provider, 0).size(), 2U);
@@ -50,26 +50,26 @@ TEST(FreeFindResult, AResultIsReleasedAndEmptied) {
     FakeSystem system;
     system.local = {CertificateOf(L"Helen Marsh", L"Northgate", {1})};
     Session session(system);
-    CertQuery query;
+    provider::CertQuery query;
     query.fieldsWanted = kCertificateFields;
-    CertFindResult result;
+    provider::CertFindResult result;
     ASSERT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusOk);
-    const CertFindResult copy = result;
+    const provider::CertFindResult copy = result;
     EXPECT_EQ(session.provider.HandedOutCount(), 1U);
     EXPECT_EQ(session.provider.FreeFindResult(session.context, &result), kStatusOk);
     EXPECT_EQ(result.count, 0U);
     EXPECT_EQ(result.entries, nullptr);
     EXPECT_EQ(session.provider.HandedOutCount(), 0U);
     EXPECT_EQ(session.provider.FreeFindResult(session.context, &result), kStatusOk) << "an empty result";
-    CertFindResult stale = copy;
+    provider::CertFindResult stale = copy;
     EXPECT_EQ(session.provider.FreeFindResult(session.context, &stale), kStatusForeignMemory);
 }
 
 TEST(FreeFindResult, AForeignResultIsRefused) {
     const FakeSystem system;
     Session session(system);
-    CertEntry foreign;
-    CertFindResult result = {1, &foreign};
+    provider::CertEntry foreign;
+    provider::CertFindResult result = {1, &foreign};
     EXPECT_EQ(session.provider.FreeFindResult(session.context, &result), kStatusForeignMemory);
     EXPECT_EQ(session.provider.FreeFindResult(session.context, nullptr), 0xFFFFFFFEU);
     EXPECT_EQ(session.provider.FreeFindResult(0, &result), kStatusUnknownContext);
@@ -79,9 +79,9 @@ TEST(FreeFindResult, ReleasingAResultLeavesTheErrorStackForItsReader) {
     FakeSystem system;
     system.network.reset();
     Session session(system);
-    CertQuery query;
+    provider::CertQuery query;
     query.searchFlags = 0xE04;
-    CertFindResult result;
+    provider::CertFindResult result;
     ASSERT_EQ(session.provider.FindCert(session.context, &query, &result), kStatusNetworkStoreSilent);
     EXPECT_EQ(session.provider.FreeFindResult(session.context, &result), kStatusOk);
     EXPECT_EQ(PopErrors(session.provider, session.context).size(), 2U);
@@ -92,7 +92,7 @@ TEST(ErrorStack, ASearchDoesNotShowTheErrorsOfTheOneBefore) {
     system.network.reset();
     Session session(system);
     EXPECT_EQ(session.Search(0xE04, "*=*"), kStatusNetworkStoreSilent);
-    EXPECT_EQ(session.Search(0, nullptr), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0, nullptr), provider::kStatusNothingFound);
     EXPECT_TRUE(PopErrors(session.provider, session.context).empty());
 }
 

@@ -28,7 +28,7 @@ TEST(Control, ARevokedCertificateIsServedNoMoreInThisContextAndLaterOnes) {
     EXPECT_EQ(session.Search(0, nullptr), kStatusOk);
     EXPECT_EQ(session.owners.size(), 2U);
     std::array<char, 1024> text = {};
-    XsigBlob buffer = {text.size(), text.data()};
+    provider::XsigBlob buffer = {text.size(), text.data()};
     EXPECT_EQ(session.provider.Control(session.context, 4, &buffer), kStatusOk);
     EXPECT_STREQ(text.data(), "good.crl: loaded, 1 revoked\r\n");
     EXPECT_EQ(buffer.length, text.size()) << "the capacity is the caller's";
@@ -36,7 +36,7 @@ TEST(Control, ARevokedCertificateIsServedNoMoreInThisContextAndLaterOnes) {
     EXPECT_THAT(session.owners, ElementsAre("CN=Ruth Vale,O=Ferrow,C=GB"));
     ASSERT_EQ(session.provider.Uninitialize(session.context), kStatusOk);
     ASSERT_EQ(session.provider.Initialize("Clearing", 0, &session.context), kStatusOk);
-    EXPECT_EQ(session.Search(0, "CN=Peter*"), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0, "CN=Peter*"), provider::kStatusNothingFound);
 }
 
 TEST(Control, ARefusedListFailsButTheOthersAreLoaded) {
@@ -45,13 +45,13 @@ TEST(Control, ARefusedListFailsButTheOthersAreLoaded) {
     system.revocationFiles = {LoadedFile({{5}}), RefusedFile()};
     Session session(system);
     std::array<char, 1024> text = {};
-    XsigBlob buffer = {text.size(), text.data()};
+    provider::XsigBlob buffer = {text.size(), text.data()};
     EXPECT_EQ(session.provider.Control(session.context, 4, &buffer), kStatusRevocationListRefused);
     EXPECT_STREQ(text.data(),
                  "bad.crl: not a certificate revocation list\r\ngood.crl: loaded, 1 revoked\r\n");
     EXPECT_THAT(PopErrors(session.provider, session.context),
                 ElementsAre("not a certificate revocation list|bad.crl"));
-    EXPECT_EQ(session.Search(0, nullptr), kStatusNothingFound);
+    EXPECT_EQ(session.Search(0, nullptr), provider::kStatusNothingFound);
 }
 
 TEST(Control, NoListAtAllIsASilentDistributionPoint) {
@@ -63,7 +63,7 @@ TEST(Control, NoListAtAllIsASilentDistributionPoint) {
             system.revocationFiles.emplace();
         }
         std::array<char, 1024> text = {};
-        XsigBlob buffer = {text.size(), text.data()};
+        provider::XsigBlob buffer = {text.size(), text.data()};
         EXPECT_EQ(session.provider.Control(session.context, 4, &buffer), kStatusDistributionPointSilent);
         EXPECT_STREQ(text.data(), "No certificate revocation list in C:\\certificates\\crl\r\n");
     }

@@ -8,13 +8,13 @@ namespace {
 constexpr std::uint32_t kOpenedWithNetwork = 0x80000040;
 
 bool IncludesNetwork(std::uint32_t searchFlags, std::uint32_t openFlags = kOpenedWithNetwork) {
-    CertQuery query;
+    provider::CertQuery query;
     query.searchFlags = searchFlags;
     return PlanSearch(query, openFlags).includesNetwork;
 }
 
 PatternUse UseOf(const char* pattern, std::uint32_t matchMode) {
-    CertQuery query;
+    provider::CertQuery query;
     query.ownerPattern = pattern;
     query.matchMode = matchMode;
     return PlanSearch(query, kOpenedWithNetwork).patternUse;
@@ -44,7 +44,7 @@ TEST(PlanSearch, OnlyMatchModeFourMakesThePatternAWildcardPattern) {
 }
 
 TEST(PlanSearch, TheWantedFieldsAreTheirBits) {
-    CertQuery query;
+    provider::CertQuery query;
     query.fieldsWanted = 0x84;
     const SearchPlan list = PlanSearch(query, kOpenedWithNetwork);
     EXPECT_TRUE(list.wantsOwner && list.wantsUsage && !list.wantsIssuer && !list.wantsSerial);

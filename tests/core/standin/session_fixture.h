@@ -23,12 +23,12 @@ class Session {
 
     /// The status of a search; the owners found are in `owners`. With the match mode 4 unless said otherwise.
     std::uint32_t Search(std::uint32_t flags, const char* pattern, std::uint32_t matchMode = 4) {
-        CertQuery query;
+        provider::CertQuery query;
         query.searchFlags = flags;
         query.matchMode = pattern == nullptr ? 0 : matchMode;
         query.ownerPattern = pattern;
         query.fieldsWanted = kListFields;
-        CertFindResult result;
+        provider::CertFindResult result;
         const std::uint32_t status = provider.FindCert(context, &query, &result);
         owners.clear();
         for (std::uint32_t index = 0; index < result.count; ++index) {
@@ -39,22 +39,22 @@ class Session {
     }
 
     StandInProvider provider;
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     std::vector<std::string> owners;
 };
 
 /// Pops the whole error stack of `context` as "text|data" lines and releases its texts.
-inline std::vector<std::string> PopErrors(StandInProvider& provider, ProviderContext context) {
+inline std::vector<std::string> PopErrors(StandInProvider& provider, provider::ProviderContext context) {
     std::vector<std::string> lines;
-    XsigBlob text;
-    XsigBlob file;
-    XsigBlob data;
+    provider::XsigBlob text;
+    provider::XsigBlob file;
+    provider::XsigBlob data;
     std::uint32_t line = 0;
     while (provider.GetErrorLine(context, &text, &file, &line, &data) == 0) {
         EXPECT_EQ(std::string(file.data, file.length), "standin_provider.cpp");
         EXPECT_GT(line, 0U);
         lines.push_back(std::string(text.data, text.length) + "|" + std::string(data.data, data.length));
-        for (const XsigBlob& blob : {text, file, data}) {
+        for (const provider::XsigBlob& blob : {text, file, data}) {
             EXPECT_EQ(provider.FreeMem(0, blob.data), kStatusOk);
         }
     }

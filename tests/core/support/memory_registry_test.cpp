@@ -7,12 +7,12 @@
 
 // What the registry in memory has of Windows and cannot be compared with Wine's; the rest is compared there.
 
-namespace corvane::testing {
+namespace corvane::test {
 namespace {
 
 TEST(MemoryRegistry, MakesNoKeyWhoseNameIsLongerThan255Characters) {
     MemoryRegistry registry;
-    RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key key = nullptr;
     ASSERT_EQ(registry.Create(nullptr, std::wstring(255, L'n'), 0x2001F, nullptr, key), 0U);
     EXPECT_EQ(registry.Close(key), 0U);
     EXPECT_EQ(registry.Create(nullptr, std::wstring(256, L'm'), 0x2001F, nullptr, key), 87U);
@@ -22,7 +22,7 @@ TEST(MemoryRegistry, MakesNoKeyWhoseNameIsLongerThan255Characters) {
 TEST(MemoryRegistry, FailsOnFromTheCallThatItIsToldUntilItIsMended) {
     MemoryRegistry registry;
     registry.PutKey(L"One");
-    RegistryCalls::Key key = nullptr;
+    store::RegistryCalls::Key key = nullptr;
     registry.FailCallsFrom(1, 5);
     EXPECT_EQ(registry.Open(nullptr, L"One", 0x2001F, nullptr, key), 0U);
     EXPECT_EQ(registry.Close(key), 5U) << "closed nonetheless";
@@ -34,4 +34,4 @@ TEST(MemoryRegistry, FailsOnFromTheCallThatItIsToldUntilItIsMended) {
 }
 
 }  // namespace
-}  // namespace corvane::testing
+}  // namespace corvane::test

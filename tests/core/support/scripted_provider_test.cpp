@@ -4,18 +4,16 @@
 
 #include "tests/support/scripted_provider.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
-
-using testing::ScriptedProvider;
 
 TEST(ScriptedProvider, ATextIsOutUntilItComesBack) {
     ScriptedProvider provider;
     provider.PushError(1, {"text", std::nullopt, 2, std::nullopt});
-    const ProviderFunctions& functions = *provider.Functions();
-    XsigBlob text;
-    XsigBlob file;
-    XsigBlob data;
+    const provider::ProviderFunctions& functions = *provider.Functions();
+    provider::XsigBlob text;
+    provider::XsigBlob file;
+    provider::XsigBlob data;
     std::uint32_t line = 0;
     ASSERT_EQ(functions.getErrorLine(1, &text, &file, &line, &data), 0U);
     EXPECT_EQ(provider.TextsOut(), 1U);
@@ -34,7 +32,7 @@ TEST(ScriptedProvider, ASecondOrForeignReleaseIsCounted) {
 
 TEST(ScriptedProvider, ACallThatCannotBeLaidDownIsCountedAndFails) {
     ScriptedProvider provider;
-    ProviderContext context = 0;
+    provider::ProviderContext context = 0;
     EXPECT_NE(provider.Functions()->initialize("name", 0, &context), 0U);
     EXPECT_NE(provider.Functions()->uninitialize(1), 0U);
     EXPECT_EQ(provider.UnexpectedCalls(), 2U);
@@ -56,4 +54,4 @@ TEST(ScriptedProvider, TwoAtOnceAreRefused) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -2,13 +2,10 @@
 
 #include "tests/support/test_system_text.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 // The native half and the one that calls Windows must agree, or a test would mean two things.
-
-using testing::CodePage;
-using testing::TestSystemText;
 
 TEST(TestSystemText, CyrillicGoesOutAndInUnder1251) {
     const TestSystemText text(CodePage::kCyrillic);
@@ -97,4 +94,4 @@ TEST(TestSystemText, LowerCaseCoversAllOfUnicodeAndKeepsTheLength) {
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/format_text.h"
+#include "toolkit/text/format_text.h"
 
 #include <gtest/gtest.h>
 
@@ -6,106 +6,107 @@
 #include <limits>
 #include <string>
 
-namespace toolkit::testing {
+namespace corvane::test {
 namespace {
 
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
 
 TEST(FormatText, PutsTextsAndNumbersInTheirPlaces) {
-    EXPECT_EQ(FormatText(L"%s has %d", {L"list", 3}), L"list has 3");
-    EXPECT_EQ(FormatText(L"%s%s", {std::wstring(L"a"), std::wstring_view(L"b")}), L"ab");
+    EXPECT_EQ(toolkit::FormatText(L"%s has %d", {L"list", 3}), L"list has 3");
+    EXPECT_EQ(toolkit::FormatText(L"%s%s", {std::wstring(L"a"), std::wstring_view(L"b")}), L"ab");
 }
 
 TEST(FormatText, WithoutPlacesIsTheFormat) {
-    EXPECT_EQ(FormatText(L"plain", {}), L"plain");
-    EXPECT_EQ(FormatText(L"", {}), L"");
+    EXPECT_EQ(toolkit::FormatText(L"plain", {}), L"plain");
+    EXPECT_EQ(toolkit::FormatText(L"", {}), L"");
 }
 
 TEST(FormatText, WritesNumbersWithTheirSign) {
-    EXPECT_EQ(FormatText(L"%d %d %d", {0, kLowest, kHighest}), L"0 -2147483648 2147483647");
-    EXPECT_EQ(FormatText(L"%d", {std::uint32_t{4294967295U}}), L"4294967295");
-    EXPECT_EQ(FormatText(L"%lld", {std::numeric_limits<std::int64_t>::min()}), L"-9223372036854775808");
+    EXPECT_EQ(toolkit::FormatText(L"%d %d %d", {0, kLowest, kHighest}), L"0 -2147483648 2147483647");
+    EXPECT_EQ(toolkit::FormatText(L"%d", {std::uint32_t{4294967295U}}), L"4294967295");
+    EXPECT_EQ(toolkit::FormatText(L"%lld", {std::numeric_limits<std::int64_t>::min()}),
+              L"-9223372036854775808");
 }
 
 TEST(FormatText, WritesHexadecimalInUpperCaseWithoutLeadingZeros) {
-    EXPECT_EQ(FormatText(L"0x%X", {std::uint32_t{0xE0700046}}), L"0xE0700046");
-    EXPECT_EQ(FormatText(L"0x%X", {std::uint32_t{0xAB}}), L"0xAB");
-    EXPECT_EQ(FormatText(L"0x%X", {0}), L"0x0");
-    EXPECT_EQ(FormatText(L"0x%X", {-1}), L"0xFFFFFFFF");
+    EXPECT_EQ(toolkit::FormatText(L"0x%X", {std::uint32_t{0xE0700046}}), L"0xE0700046");
+    EXPECT_EQ(toolkit::FormatText(L"0x%X", {std::uint32_t{0xAB}}), L"0xAB");
+    EXPECT_EQ(toolkit::FormatText(L"0x%X", {0}), L"0x0");
+    EXPECT_EQ(toolkit::FormatText(L"0x%X", {-1}), L"0xFFFFFFFF");
 }
 
 TEST(FormatText, DoublePercentIsAPercentSign) {
-    EXPECT_EQ(FormatText(L"100%% of %s", {L"x"}), L"100% of x");
-    EXPECT_EQ(FormatText(L"%%s", {L"x"}), L"%s");
+    EXPECT_EQ(toolkit::FormatText(L"100%% of %s", {L"x"}), L"100% of x");
+    EXPECT_EQ(toolkit::FormatText(L"%%s", {L"x"}), L"%s");
 }
 
 TEST(FormatText, APercentSignInAnArgumentStandsForItself) {
-    EXPECT_EQ(FormatText(L"<%s><%d>", {L"%d%s", 1}), L"<%d%s><1>");
+    EXPECT_EQ(toolkit::FormatText(L"<%s><%d>", {L"%d%s", 1}), L"<%d%s><1>");
 }
 
 TEST(FormatText, APlaceWithoutArgumentStaysAndAnArgumentWithoutPlaceIsIgnored) {
-    EXPECT_EQ(FormatText(L"%s and %s", {L"a"}), L"a and %s");
-    EXPECT_EQ(FormatText(L"%s", {L"a", L"b"}), L"a");
+    EXPECT_EQ(toolkit::FormatText(L"%s and %s", {L"a"}), L"a and %s");
+    EXPECT_EQ(toolkit::FormatText(L"%s", {L"a", L"b"}), L"a");
 }
 
 TEST(FormatText, AConversionThatIsNoneStaysAsItStands) {
-    EXPECT_EQ(FormatText(L"%q %", {L"a"}), L"%q %");
-    EXPECT_EQ(FormatText(L"%ld", {1}), L"%ld");
+    EXPECT_EQ(toolkit::FormatText(L"%q %", {L"a"}), L"%q %");
+    EXPECT_EQ(toolkit::FormatText(L"%ld", {1}), L"%ld");
 }
 
 TEST(FormatText, AMismatchIsWrittenAsTheArgumentIs) {
-    EXPECT_EQ(FormatText(L"%s %d", {5, L"five"}), L"5 five");
+    EXPECT_EQ(toolkit::FormatText(L"%s %d", {5, L"five"}), L"5 five");
 }
 
 TEST(ParseDecimal, ReadsDigitsAndSigns) {
-    EXPECT_EQ(ParseDecimal(L"0"), 0);
-    EXPECT_EQ(ParseDecimal(L"42"), 42);
-    EXPECT_EQ(ParseDecimal(L"-42"), -42);
-    EXPECT_EQ(ParseDecimal(L"+42"), 42);
-    EXPECT_EQ(ParseDecimal(L"007"), 7);
+    EXPECT_EQ(toolkit::ParseDecimal(L"0"), 0);
+    EXPECT_EQ(toolkit::ParseDecimal(L"42"), 42);
+    EXPECT_EQ(toolkit::ParseDecimal(L"-42"), -42);
+    EXPECT_EQ(toolkit::ParseDecimal(L"+42"), 42);
+    EXPECT_EQ(toolkit::ParseDecimal(L"007"), 7);
 }
 
 TEST(ParseDecimal, SkipsLeadingWhiteSpace) {
-    EXPECT_EQ(ParseDecimal(L" \t\r\n\v\f42"), 42);
-    EXPECT_EQ(ParseDecimal(L"  -7"), -7);
+    EXPECT_EQ(toolkit::ParseDecimal(L" \t\r\n\v\f42"), 42);
+    EXPECT_EQ(toolkit::ParseDecimal(L"  -7"), -7);
 }
 
 TEST(ParseDecimal, EndsAtTheFirstCharacterThatIsNoDigit) {
-    EXPECT_EQ(ParseDecimal(L"12abc"), 12);
-    EXPECT_EQ(ParseDecimal(L"12 34"), 12);
-    EXPECT_EQ(ParseDecimal(L"1.9"), 1);
-    EXPECT_EQ(ParseDecimal(L"0x10"), 0);
-    EXPECT_EQ(ParseDecimal(std::wstring(L"1\0"
-                                        L"2",
-                                        3)),
+    EXPECT_EQ(toolkit::ParseDecimal(L"12abc"), 12);
+    EXPECT_EQ(toolkit::ParseDecimal(L"12 34"), 12);
+    EXPECT_EQ(toolkit::ParseDecimal(L"1.9"), 1);
+    EXPECT_EQ(toolkit::ParseDecimal(L"0x10"), 0);
+    EXPECT_EQ(toolkit::ParseDecimal(std::wstring(L"1\0"
+                                                 L"2",
+                                                 3)),
               1);
 }
 
 TEST(ParseDecimal, WithoutANumberIsZero) {
     for (const wchar_t* const text : {L"", L" ", L"abc", L"-", L"+", L"--1", L"+-1", L"- 1", L"\x0661"}) {
-        EXPECT_EQ(ParseDecimal(text), 0) << text;
+        EXPECT_EQ(toolkit::ParseDecimal(text), 0) << text;
     }
 }
 
 TEST(ParseDecimal, WhatDoesNotFitBecomesTheNearestNumber) {
-    EXPECT_EQ(ParseDecimal(L"2147483647"), kHighest);
-    EXPECT_EQ(ParseDecimal(L"2147483648"), kHighest);
-    EXPECT_EQ(ParseDecimal(L"4294967296"), kHighest);
-    EXPECT_EQ(ParseDecimal(L"-2147483648"), kLowest);
-    EXPECT_EQ(ParseDecimal(L"-2147483649"), kLowest);
-    EXPECT_EQ(ParseDecimal(std::wstring(1000, L'9')), kHighest);
-    EXPECT_EQ(ParseDecimal(L"-" + std::wstring(1000, L'9')), kLowest);
+    EXPECT_EQ(toolkit::ParseDecimal(L"2147483647"), kHighest);
+    EXPECT_EQ(toolkit::ParseDecimal(L"2147483648"), kHighest);
+    EXPECT_EQ(toolkit::ParseDecimal(L"4294967296"), kHighest);
+    EXPECT_EQ(toolkit::ParseDecimal(L"-2147483648"), kLowest);
+    EXPECT_EQ(toolkit::ParseDecimal(L"-2147483649"), kLowest);
+    EXPECT_EQ(toolkit::ParseDecimal(std::wstring(1000, L'9')), kHighest);
+    EXPECT_EQ(toolkit::ParseDecimal(L"-" + std::wstring(1000, L'9')), kLowest);
 }
 
 TEST(ParseDecimal, ReadsNarrowTextAlike) {
-    EXPECT_EQ(ParseDecimal(" -42x"), -42);
-    EXPECT_EQ(ParseDecimal("99999999999"), kHighest);
-    EXPECT_EQ(ParseDecimal("\xFF"
-                           "1"),
+    EXPECT_EQ(toolkit::ParseDecimal(" -42x"), -42);
+    EXPECT_EQ(toolkit::ParseDecimal("99999999999"), kHighest);
+    EXPECT_EQ(toolkit::ParseDecimal("\xFF"
+                                    "1"),
               0);
-    EXPECT_EQ(ParseDecimal(""), 0);
+    EXPECT_EQ(toolkit::ParseDecimal(""), 0);
 }
 
 }  // namespace
-}  // namespace toolkit::testing
+}  // namespace corvane::test

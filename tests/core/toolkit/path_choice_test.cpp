@@ -1,10 +1,10 @@
-#include "toolkit/path_choice.h"
+#include "toolkit/files/paths.h"
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 TEST(CommonDialogFailure, TheSystemsCodeSaysTheSameAsNearAsItCan) {
@@ -12,14 +12,16 @@ TEST(CommonDialogFailure, TheSystemsCodeSaysTheSameAsNearAsItCan) {
                                                                 {0x3002, 123},  {0x3003, 111}, {0xFFFF, 1359},
                                                                 {0x0002, 1359}, {0x0001, 1359}};
     for (const auto& [commonDialogError, code] : expected) {
-        EXPECT_EQ(CommonDialogFailure(commonDialogError).code, code) << std::hex << commonDialogError;
+        EXPECT_EQ(toolkit::CommonDialogFailure(commonDialogError).code, code)
+            << std::hex << commonDialogError;
     }
 }
 
 TEST(CommonDialogFailure, TheDetailHasTheNumberOfTheCommonDialog) {
-    EXPECT_EQ(CommonDialogFailure(0x300A),
-              (DialogFailure{kShowFileDialogOperation, "common dialog error 0x300A", 1359}));
+    EXPECT_EQ(
+        toolkit::CommonDialogFailure(0x300A),
+        (toolkit::DialogFailure{toolkit::kShowFileDialogOperation, "common dialog error 0x300A", 1359}));
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

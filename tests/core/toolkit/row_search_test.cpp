@@ -1,16 +1,17 @@
-#include "toolkit/row_search.h"
+#include "toolkit/controls/row_search.h"
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string_view>
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 // The first row found of those that are marked with an x.
 int Find(std::string_view rows, int start, bool wraps) {
-    return FirstRowFound(rows.size(), start, wraps, [rows](std::size_t row) { return rows.at(row) == 'x'; });
+    return toolkit::FirstRowFound(rows.size(), start, wraps,
+                                  [rows](std::size_t row) { return rows.at(row) == 'x'; });
 }
 
 TEST(FirstRowFound, IsTheFirstFromTheStartOn) {
@@ -33,11 +34,11 @@ TEST(FirstRowFound, AWrapGoesOnFromTheFirstRow) {
 
 TEST(FirstRowFound, AWrapPassesEachRowOnce) {
     int asked = 0;
-    EXPECT_EQ(FirstRowFound(4, 2, true,
-                            [&asked](std::size_t) {
-                                ++asked;
-                                return false;
-                            }),
+    EXPECT_EQ(toolkit::FirstRowFound(4, 2, true,
+                                     [&asked](std::size_t) {
+                                         ++asked;
+                                         return false;
+                                     }),
               -1);
     EXPECT_EQ(asked, 4);
 }
@@ -60,18 +61,18 @@ constexpr unsigned kBySubstring = 0x4;
 constexpr unsigned kByBeginning = 0x8;
 constexpr unsigned kWraps = 0x20;
 
-std::optional<RowSearch> Typed(unsigned flags) {
-    return RowSearchFor({.flags = flags, .start = 3, .after = std::nullopt});
+std::optional<toolkit::RowSearch> Typed(unsigned flags) {
+    return toolkit::RowSearchFor({.flags = flags, .start = 3, .after = std::nullopt});
 }
-std::optional<RowSearch> ByMessage(unsigned flags) {
-    return RowSearchFor({.flags = flags, .start = 3, .after = 2});
+std::optional<toolkit::RowSearch> ByMessage(unsigned flags) {
+    return toolkit::RowSearchFor({.flags = flags, .start = 3, .after = 2});
 }
 
 TEST(RowSearchFor, TypedLettersAreABeginningAndWrapWhateverTheirFlagsSay) {
     for (const unsigned flags : {kByText, kByBeginning, kBySubstring, kByText | kByBeginning,
                                  kByText | kBySubstring, kWraps, kByText | kWraps, kByBeginning | kWraps,
                                  kBySubstring | kWraps, kByText | kByBeginning | kBySubstring | kWraps, 0U}) {
-        const std::optional<RowSearch> search = Typed(flags);
+        const std::optional<toolkit::RowSearch> search = Typed(flags);
         ASSERT_TRUE(search) << flags;
         EXPECT_TRUE(search->isBeginningEnough) << flags;
         EXPECT_TRUE(search->wraps) << flags;
@@ -81,7 +82,7 @@ TEST(RowSearchFor, TypedLettersAreABeginningAndWrapWhateverTheirFlagsSay) {
 
 TEST(RowSearchFor, AMessageForATextWantsTheWholeOfIt) {
     for (const unsigned flags : {kByText, kWraps, kByText | kWraps}) {
-        const std::optional<RowSearch> search = ByMessage(flags);
+        const std::optional<toolkit::RowSearch> search = ByMessage(flags);
         ASSERT_TRUE(search) << flags;
         EXPECT_FALSE(search->isBeginningEnough) << flags;
         EXPECT_EQ(search->wraps, (flags & kWraps) != 0) << flags;
@@ -91,7 +92,7 @@ TEST(RowSearchFor, AMessageForATextWantsTheWholeOfIt) {
 TEST(RowSearchFor, AMessageForABeginningSaysSoInEitherWay) {
     for (const unsigned flags : {kByBeginning, kBySubstring, kByText | kByBeginning, kByText | kBySubstring,
                                  kBySubstring | kWraps}) {
-        const std::optional<RowSearch> search = ByMessage(flags);
+        const std::optional<toolkit::RowSearch> search = ByMessage(flags);
         ASSERT_TRUE(search) << flags;
         EXPECT_TRUE(search->isBeginningEnough) << flags;
         EXPECT_EQ(search->wraps, (flags & kWraps) != 0) << flags;
@@ -112,11 +113,11 @@ TEST(RowSearchFor, AParameterOrAPlaceIsNoText) {
 }
 
 TEST(RowSearchFor, AMessageBeginsBehindItsRowWhicheverOfTheTwoIsNamed) {
-    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = 5, .after = 4})->start, 5);
-    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = 4, .after = 4})->start, 5);
-    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = -1, .after = -1})->start, 0);
-    EXPECT_EQ(RowSearchFor({.flags = kByText, .start = 0, .after = -1})->start, 0);
+    EXPECT_EQ(toolkit::RowSearchFor({.flags = kByText, .start = 5, .after = 4})->start, 5);
+    EXPECT_EQ(toolkit::RowSearchFor({.flags = kByText, .start = 4, .after = 4})->start, 5);
+    EXPECT_EQ(toolkit::RowSearchFor({.flags = kByText, .start = -1, .after = -1})->start, 0);
+    EXPECT_EQ(toolkit::RowSearchFor({.flags = kByText, .start = 0, .after = -1})->start, 0);
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -4,20 +4,18 @@
 #include <string>
 
 #include "tests/toolkit/seams/temporary_folder.h"
-#include "toolkit/file_calls_windows.h"
-#include "toolkit/handles.h"
+#include "toolkit/files/file_calls.h"
+#include "toolkit/system/handles.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TemporaryFolder;
 
 constexpr std::uint32_t kUntouchedCount = 77;
 
 // A file with these bytes.
 void PutFile(const std::wstring& path, const std::string& bytes) {
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     ASSERT_EQ(files.Create(path, file), 0U);
     std::size_t written = 0;
     EXPECT_EQ(files.Write(file, bytes.data(), bytes.size(), written), 0U);
@@ -27,8 +25,8 @@ void PutFile(const std::wstring& path, const std::string& bytes) {
 
 // The bytes of a file, as far as they fit into one read.
 std::string BytesOf(const std::wstring& path) {
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     if (files.Open(path, file) != 0) {
         return "(not there)";
     }
@@ -62,8 +60,8 @@ TEST(WindowsFileCalls, CreatingReplacesWhatWasThere) {
 
 TEST(WindowsFileCalls, CreatingInAFolderThatIsNotThereFailsAndLeavesTheHandle) {
     const TemporaryFolder folder;
-    WindowsFileCalls files;
-    FileCalls::Handle file = &files;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = &files;
     EXPECT_EQ(files.Create(folder.File(L"no folder\\a.prx"), file),
               static_cast<std::uint32_t>(ERROR_PATH_NOT_FOUND));
     EXPECT_EQ(file, &files);
@@ -71,8 +69,8 @@ TEST(WindowsFileCalls, CreatingInAFolderThatIsNotThereFailsAndLeavesTheHandle) {
 
 TEST(WindowsFileCalls, OpeningAFileThatIsNotThereFailsAndLeavesTheHandle) {
     const TemporaryFolder folder;
-    WindowsFileCalls files;
-    FileCalls::Handle file = &files;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = &files;
     EXPECT_EQ(files.Open(folder.File(L"a.prx"), file), static_cast<std::uint32_t>(ERROR_FILE_NOT_FOUND));
     EXPECT_EQ(file, &files);
 }
@@ -80,12 +78,13 @@ TEST(WindowsFileCalls, OpeningAFileThatIsNotThereFailsAndLeavesTheHandle) {
 TEST(WindowsFileCalls, OthersMayReadButNotWriteMeanwhile) {
     const TemporaryFolder folder;
     const std::wstring path = folder.File(L"a.prx");
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     ASSERT_EQ(files.Create(path, file), 0U);
     const auto openToo = [&path](DWORD access) {
-        const UniqueKernelHandle other(CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                                   nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+        const toolkit::UniqueKernelHandle other(CreateFileW(path.c_str(), access,
+                                                            FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
         return static_cast<bool>(other);
     };
     EXPECT_TRUE(openToo(GENERIC_READ));
@@ -102,8 +101,8 @@ TEST(WindowsFileCalls, OthersMayReadButNotWriteMeanwhile) {
 TEST(WindowsFileCalls, TheSizeIsThatInBytes) {
     const TemporaryFolder folder;
     PutFile(folder.File(L"a.prx"), "12345");
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     ASSERT_EQ(files.Open(folder.File(L"a.prx"), file), 0U);
     std::uint64_t sizeBytes = 0;
     EXPECT_EQ(files.Size(file, sizeBytes), 0U);
@@ -116,7 +115,7 @@ TEST(WindowsFileCalls, ASizeBeyond32BitIsToldWhole) {
     const std::wstring path = folder.File(L"large");
     constexpr LONGLONG kSize = 0x1'4000'0003;
     {
-        const UniqueKernelHandle large(
+        const toolkit::UniqueKernelHandle large(
             CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
         ASSERT_TRUE(large);
         LARGE_INTEGER end{};
@@ -124,8 +123,8 @@ TEST(WindowsFileCalls, ASizeBeyond32BitIsToldWhole) {
         ASSERT_NE(SetFilePointerEx(large.Get(), end, nullptr, FILE_BEGIN), FALSE);
         ASSERT_NE(SetEndOfFile(large.Get()), FALSE);
     }
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     ASSERT_EQ(files.Open(path, file), 0U);
     std::uint64_t sizeBytes = 0;
     EXPECT_EQ(files.Size(file, sizeBytes), 0U);
@@ -143,8 +142,8 @@ TEST(WindowsFileCalls, ARequestThatDoesNotFit32BitMovesWhatOneCallMay) {
     // Cut to 32 bits the request would be one for 3 bytes.
     constexpr std::size_t kRequest = 0x1'0000'0003;
     const TemporaryFolder folder;
-    WindowsFileCalls files(8);
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files(8);
+    toolkit::FileCalls::Handle file = nullptr;
     ASSERT_EQ(files.Create(folder.File(L"a.prx"), file), 0U);
     std::size_t moved = 0;
     EXPECT_EQ(files.Write(file, "12345678", kRequest, moved), 0U);
@@ -163,8 +162,8 @@ TEST(WindowsFileCalls, ARequestThatDoesNotFit32BitMovesWhatOneCallMay) {
 
 TEST(WindowsFileCalls, CallsTheWrongWayRoundFailWithTheSystemsCode) {
     const TemporaryFolder folder;
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     ASSERT_EQ(files.Create(folder.File(L"a.prx"), file), 0U);
     char byte = 0;
     std::size_t moved = kUntouchedCount;
@@ -179,7 +178,7 @@ TEST(WindowsFileCalls, CallsTheWrongWayRoundFailWithTheSystemsCode) {
 }
 
 TEST(WindowsFileCalls, AHandleThatIsNoFileFailsWithTheSystemsCode) {
-    WindowsFileCalls files;
+    toolkit::WindowsFileCalls files;
     std::uint64_t sizeBytes = kUntouchedCount;
     EXPECT_EQ(files.Size(nullptr, sizeBytes), static_cast<std::uint32_t>(ERROR_INVALID_HANDLE));
     EXPECT_EQ(sizeBytes, kUntouchedCount);
@@ -189,7 +188,7 @@ TEST(WindowsFileCalls, AHandleThatIsNoFileFailsWithTheSystemsCode) {
 TEST(WindowsFileCalls, FilesAndFoldersExist) {
     const TemporaryFolder folder;
     PutFile(folder.File(L"a.prx"), "");
-    WindowsFileCalls files;
+    toolkit::WindowsFileCalls files;
     EXPECT_EQ(files.CheckExists(folder.File(L"a.prx")), 0U);
     EXPECT_EQ(files.CheckExists(folder.Path().wstring()), 0U);
 }
@@ -201,7 +200,7 @@ TEST(WindowsFileCalls, AFolderOfMoreCharactersThanTheSystemTakesByItselfIsAsGood
         path += L"\\" + std::wstring(50, L'x');
         ASSERT_NE(CreateDirectoryW((L"\\\\?\\" + path).c_str(), nullptr), FALSE) << GetLastError();
     }
-    WindowsFileCalls files;
+    toolkit::WindowsFileCalls files;
     EXPECT_EQ(files.CheckExists(path), 0U);
     EXPECT_EQ(files.CheckExists(path + L"\\"), 0U);
     EXPECT_EQ(files.CheckExists(path + L"y"), static_cast<std::uint32_t>(ERROR_FILE_NOT_FOUND));
@@ -211,7 +210,7 @@ TEST(WindowsFileCalls, AFolderOfMoreCharactersThanTheSystemTakesByItselfIsAsGood
 
 TEST(WindowsFileCalls, WhatDoesNotExistIsToldWithTheSystemsCode) {
     const TemporaryFolder folder;
-    WindowsFileCalls files;
+    toolkit::WindowsFileCalls files;
     EXPECT_EQ(files.CheckExists(folder.File(L"a.prx")), static_cast<std::uint32_t>(ERROR_FILE_NOT_FOUND));
     EXPECT_EQ(files.CheckExists(folder.File(L"no folder\\a.prx")),
               static_cast<std::uint32_t>(ERROR_PATH_NOT_FOUND));
@@ -222,8 +221,8 @@ TEST(WindowsFileCalls, TheThreadsErrorModeStaysAsItWas) {
     const TemporaryFolder folder;
     DWORD former = 0;
     SetThreadErrorMode(SEM_NOGPFAULTERRORBOX, &former);
-    WindowsFileCalls files;
-    FileCalls::Handle file = nullptr;
+    toolkit::WindowsFileCalls files;
+    toolkit::FileCalls::Handle file = nullptr;
     EXPECT_NE(files.Open(folder.File(L"a"), file), 0U);
     EXPECT_NE(files.CheckExists(folder.File(L"a")), 0U);
     EXPECT_EQ(GetThreadErrorMode(), static_cast<DWORD>(SEM_NOGPFAULTERRORBOX));
@@ -231,4 +230,4 @@ TEST(WindowsFileCalls, TheThreadsErrorModeStaysAsItWas) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

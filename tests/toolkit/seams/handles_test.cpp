@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "toolkit/handles.h"
+#include "toolkit/system/handles.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 // A handle is the address of the number that counts its closings.
@@ -13,7 +13,7 @@ struct CountingCloser {
     static bool IsOwned(Handle handle) { return handle != nullptr; }
     static void Close(Handle handle) { ++*handle; }
 };
-using CountedHandle = UniqueHandle<CountingCloser>;
+using CountedHandle = toolkit::UniqueHandle<CountingCloser>;
 
 TEST(UniqueHandle, ClosesOnceAtTheEnd) {
     int closed = 0;
@@ -88,15 +88,15 @@ TEST(UniqueHandle, ReceivingClosesTheFormerAndOwnsTheNew) {
 }
 
 TEST(UniqueKernelHandle, BothWaysToSayNoneAreNone) {
-    EXPECT_FALSE(UniqueKernelHandle(nullptr));
-    EXPECT_FALSE(UniqueKernelHandle(INVALID_HANDLE_VALUE));
+    EXPECT_FALSE(toolkit::UniqueKernelHandle(nullptr));
+    EXPECT_FALSE(toolkit::UniqueKernelHandle(INVALID_HANDLE_VALUE));
 }
 
 TEST(UniqueKernelHandle, TheSystemsHandleIsGone) {
     const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     ASSERT_NE(event, nullptr);
     {
-        const UniqueKernelHandle owner(event);
+        const toolkit::UniqueKernelHandle owner(event);
         EXPECT_TRUE(owner);
     }
     DWORD flags = 0;
@@ -104,4 +104,4 @@ TEST(UniqueKernelHandle, TheSystemsHandleIsGone) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

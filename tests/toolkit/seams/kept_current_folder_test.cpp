@@ -1,4 +1,4 @@
-#include "toolkit/kept_current_folder.h"
+#include "toolkit/files/path_pickers.h"
 
 #include <gtest/gtest.h>
 
@@ -6,16 +6,16 @@
 
 #include "tests/toolkit/seams/temporary_folder.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 TEST(KeptCurrentFolder, IsPutBackAtTheEnd) {
-    const testing::TemporaryFolder first;
-    const testing::TemporaryFolder second;
-    const KeptCurrentFolder ofTheTests;
+    const TemporaryFolder first;
+    const TemporaryFolder second;
+    const toolkit::KeptCurrentFolder ofTheTests;
     std::filesystem::current_path(first.Path());
     {
-        const KeptCurrentFolder kept;
+        const toolkit::KeptCurrentFolder kept;
         std::filesystem::current_path(second.Path());
     }
     EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), first.Path()))
@@ -23,4 +23,4 @@ TEST(KeptCurrentFolder, IsPutBackAtTheEnd) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "toolkit/message_presenter_windows.h"
+#include "toolkit/system/message_presenter.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 std::wstring TextOf(HWND window) {
@@ -97,8 +97,8 @@ class HiddenWindow {
 TEST(WindowsMessagePresenter, AQuestionIsShownAsAskedAndGivesTheAnswer) {
     const HiddenWindow owner;
     const BoxWatcher watcher(IDYES);
-    const int answer = WindowsMessagePresenter().Show(owner.Handle(), L"Жук löschen?", L"Title",
-                                                      MB_ICONQUESTION | MB_YESNO | MB_DEFBUTTON2);
+    const int answer = toolkit::WindowsMessagePresenter().Show(owner.Handle(), L"Жук löschen?", L"Title",
+                                                               MB_ICONQUESTION | MB_YESNO | MB_DEFBUTTON2);
     EXPECT_EQ(answer, IDYES);
     EXPECT_EQ(watcher.title, L"Title");
     EXPECT_EQ(watcher.text, L"Жук löschen?");
@@ -109,14 +109,15 @@ TEST(WindowsMessagePresenter, AQuestionIsShownAsAskedAndGivesTheAnswer) {
 
 TEST(WindowsMessagePresenter, ABoxNeedsNoOwner) {
     const BoxWatcher watcher(IDCANCEL);
-    EXPECT_EQ(WindowsMessagePresenter().Show(nullptr, L"Text", L"Title", MB_ICONWARNING | MB_OKCANCEL),
-              IDCANCEL);
+    EXPECT_EQ(
+        toolkit::WindowsMessagePresenter().Show(nullptr, L"Text", L"Title", MB_ICONWARNING | MB_OKCANCEL),
+        IDCANCEL);
     EXPECT_EQ(watcher.owner, nullptr);
     EXPECT_EQ(watcher.preselectedButton, IDOK);
 }
 
 TEST(WindowsMessagePresenter, AWindowIsLiveUntilItIsDestroyed) {
-    const WindowsMessagePresenter presenter;
+    const toolkit::WindowsMessagePresenter presenter;
     HWND window = nullptr;
     {
         const HiddenWindow hidden;
@@ -129,4 +130,4 @@ TEST(WindowsMessagePresenter, AWindowIsLiveUntilItIsDestroyed) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 std::filesystem::path OwnFolder() {
     constexpr DWORD kLongestPathChars = 0x8000;
@@ -13,4 +13,4 @@ std::filesystem::path OwnFolder() {
     return std::filesystem::path(path).parent_path();
 }
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

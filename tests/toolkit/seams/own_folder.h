@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 /// The folder that this program was started from.
 [[nodiscard]] std::filesystem::path OwnFolder();
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

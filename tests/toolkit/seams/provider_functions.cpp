@@ -1,13 +1,13 @@
-#include "certs/provider/provider_records.h"
+#include "provider/provider_functions.h"
 
 // Functions that only say which of them was called.
 
 namespace {
 
-using corvane::CertFindResult;
-using corvane::CertQuery;
-using corvane::ProviderContext;
-using corvane::XsigBlob;
+using corvane::provider::CertFindResult;
+using corvane::provider::CertQuery;
+using corvane::provider::ProviderContext;
+using corvane::provider::XsigBlob;
 
 }  // namespace
 

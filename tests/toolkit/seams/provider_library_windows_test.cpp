@@ -4,17 +4,17 @@
 #include <string>
 #include <system_error>
 
-#include "certs/provider/provider_library_windows.h"
+#include "provider/provider_library.h"
 #include "tests/toolkit/seams/own_folder.h"
 #include "tests/toolkit/seams/temporary_folder.h"
-#include "toolkit/kept_current_folder.h"
-#include "toolkit/library_search.h"
+#include "toolkit/files/path_pickers.h"
+#include "toolkit/system/libraries.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
-using toolkit::testing::OwnFolder;
-using toolkit::testing::TemporaryFolder;
+using corvane::test::OwnFolder;
+using corvane::test::TemporaryFolder;
 
 constexpr const char* kFunctionNames[] = {"XSIG_Initialize",   "XSIG_Uninitialize",   "XSIG_Ctrl",
                                           "XSIG_FindCert",     "XSIG_FreeFindResult", "XSIG_FreeMem",
@@ -75,7 +75,7 @@ class SystemProviderLibraryTest : public ::testing::Test {
 };
 
 TEST_F(SystemProviderLibraryTest, AMissingLibraryIsAFailureThatNamesIt) {
-    SystemProviderLibrary library;
+    provider::SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_MOD_NOT_FOUND));
     EXPECT_EQ(library.LastFailure().missing, "tarn1.dll");
@@ -83,7 +83,7 @@ TEST_F(SystemProviderLibraryTest, AMissingLibraryIsAFailureThatNamesIt) {
 
 TEST_F(SystemProviderLibraryTest, NothingIsLoadedBeforeTheFirstUse) {
     const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
-    SystemProviderLibrary library;
+    provider::SystemProviderLibrary library;
     EXPECT_FALSE(IsLoaded());
     EXPECT_NE(library.Functions(), nullptr);
     EXPECT_TRUE(IsLoaded());
@@ -91,8 +91,8 @@ TEST_F(SystemProviderLibraryTest, NothingIsLoadedBeforeTheFirstUse) {
 
 TEST_F(SystemProviderLibraryTest, EachNameIsBoundToItsOwnPlace) {
     const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
-    SystemProviderLibrary library;
-    const ProviderFunctions* functions = library.Functions();
+    provider::SystemProviderLibrary library;
+    const provider::ProviderFunctions* functions = library.Functions();
     ASSERT_NE(functions, nullptr) << library.LastFailure().missing;
     EXPECT_EQ(functions->initialize("", 0, nullptr), 1U);
     EXPECT_EQ(functions->uninitialize(0), 2U);
@@ -109,7 +109,7 @@ TEST_F(SystemProviderLibraryTest, EachNameIsBoundToItsOwnPlace) {
 TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnyFunctionIsNotBoundAndNotKept) {
     for (const char* missing : kFunctionNames) {
         const PlacedLibrary placed(FolderOnThePath(), std::string("without_") + missing);
-        SystemProviderLibrary library;
+        provider::SystemProviderLibrary library;
         EXPECT_EQ(library.Functions(), nullptr) << missing;
         EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_PROC_NOT_FOUND)) << missing;
         EXPECT_EQ(library.LastFailure().missing, missing);
@@ -118,8 +118,8 @@ TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnyFunctionIsNotBoundAndNotKe
 }
 
 TEST_F(SystemProviderLibraryTest, ALibraryThatIsInstalledMeanwhileIsFoundByTheNextCall) {
-    SystemProviderLibrary library;
-    const ProviderFunctions* before = library.Functions();
+    provider::SystemProviderLibrary library;
+    const provider::ProviderFunctions* before = library.Functions();
     const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     EXPECT_EQ(before, nullptr);
     EXPECT_NE(library.Functions(), nullptr);
@@ -128,8 +128,8 @@ TEST_F(SystemProviderLibraryTest, ALibraryThatIsInstalledMeanwhileIsFoundByTheNe
 
 TEST_F(SystemProviderLibraryTest, ABoundLibraryStaysBound) {
     const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
-    SystemProviderLibrary library;
-    const ProviderFunctions* first = library.Functions();
+    provider::SystemProviderLibrary library;
+    const provider::ProviderFunctions* first = library.Functions();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(library.Functions(), first);
 }
@@ -138,7 +138,7 @@ TEST_F(SystemProviderLibraryTest, ABoundLibraryStaysBound) {
 TEST_F(SystemProviderLibraryTest, ABoundLibraryStaysLoadedWhenItsOwnerIsGone) {
     const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     {
-        SystemProviderLibrary library;
+        provider::SystemProviderLibrary library;
         ASSERT_NE(library.Functions(), nullptr);
     }
     EXPECT_TRUE(IsLoaded());
@@ -149,7 +149,7 @@ TEST_F(SystemProviderLibraryTest, ALibraryInTheCurrentFolderIsNeverTaken) {
     const PlacedLibrary placed(folder.Path(), "without_nothing");
     const toolkit::KeptCurrentFolder ofTheTests;
     std::filesystem::current_path(folder.Path());
-    SystemProviderLibrary library;
+    provider::SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_MOD_NOT_FOUND));
     EXPECT_EQ(library.LastFailure().missing, "tarn1.dll");
@@ -158,7 +158,7 @@ TEST_F(SystemProviderLibraryTest, ALibraryInTheCurrentFolderIsNeverTaken) {
 
 TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnotherOneIsNotCalledMissing) {
     const PlacedLibrary placed(FolderOnThePath(), "with_needs");
-    SystemProviderLibrary library;
+    provider::SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_EQ(library.LastFailure().code, static_cast<std::uint32_t>(ERROR_MOD_NOT_FOUND));
     EXPECT_EQ(library.LastFailure().missing, "a library that tarn1.dll needs");
@@ -168,7 +168,7 @@ TEST_F(SystemProviderLibraryTest, ALibraryThatLacksAnotherOneIsNotCalledMissing)
 TEST_F(SystemProviderLibraryTest, AFileThatIsNoLibraryIsAFailureWithTheSystemsCode) {
     const PlacedLibrary placed(FolderOnThePath(), "without_nothing");
     std::filesystem::resize_file(FolderOnThePath() / kLibraryFile, 100);
-    SystemProviderLibrary library;
+    provider::SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_NE(library.LastFailure().code, 0U);
     EXPECT_EQ(library.LastFailure().missing, "tarn1.dll");
@@ -177,11 +177,11 @@ TEST_F(SystemProviderLibraryTest, AFileThatIsNoLibraryIsAFailureWithTheSystemsCo
 TEST_F(SystemProviderLibraryTest, BindingLeavesTheThreadsErrorModeAsItWas) {
     DWORD former = 0;
     SetThreadErrorMode(SEM_NOGPFAULTERRORBOX, &former);
-    SystemProviderLibrary library;
+    provider::SystemProviderLibrary library;
     EXPECT_EQ(library.Functions(), nullptr);
     EXPECT_EQ(GetThreadErrorMode(), static_cast<DWORD>(SEM_NOGPFAULTERRORBOX));
     SetThreadErrorMode(former, nullptr);
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

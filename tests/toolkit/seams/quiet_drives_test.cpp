@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
-#include "toolkit/quiet_drives.h"
+#include "toolkit/files/quiet_drives.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 TEST(QuietDrives, AddsToTheThreadsModeAndPutsItBack) {
     DWORD former = 0;
     SetThreadErrorMode(SEM_NOGPFAULTERRORBOX, &former);
     {
-        const QuietDrives quiet;
+        const toolkit::QuietDrives quiet;
         EXPECT_EQ(GetThreadErrorMode(), static_cast<DWORD>(SEM_NOGPFAULTERRORBOX | SEM_FAILCRITICALERRORS));
     }
     EXPECT_EQ(GetThreadErrorMode(), static_cast<DWORD>(SEM_NOGPFAULTERRORBOX));
@@ -17,4 +17,4 @@ TEST(QuietDrives, AddsToTheThreadsModeAndPutsItBack) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

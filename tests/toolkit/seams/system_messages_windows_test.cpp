@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "app/reporting/system_messages_windows.h"
-#include "toolkit/handles.h"
+#include "reporting/system_messages.h"
+#include "toolkit/system/handles.h"
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 // The texts are in the user's language, so only their shape is known.
@@ -14,7 +14,8 @@ constexpr std::uint32_t kNameNotResolved = 12007;
 constexpr std::uint32_t kNoCodeAtAll = 0x0FFFFFF1;
 
 TEST(WindowsSystemMessages, TheSystemHasATextForItsCode) {
-    const std::optional<std::wstring> text = WindowsSystemMessages().FromSystem(ERROR_ACCESS_DENIED);
+    const std::optional<std::wstring> text =
+        reporting::WindowsSystemMessages().FromSystem(ERROR_ACCESS_DENIED);
     ASSERT_TRUE(text.has_value());
     EXPECT_GT(text->size(), 5U);
     EXPECT_TRUE(text->ends_with(L"\n")) << "The text comes as it stands in the table";
@@ -22,35 +23,37 @@ TEST(WindowsSystemMessages, TheSystemHasATextForItsCode) {
 }
 
 TEST(WindowsSystemMessages, PlacesForInsertsStayAsTheyAre) {
-    const std::optional<std::wstring> text = WindowsSystemMessages().FromSystem(ERROR_BAD_EXE_FORMAT);
+    const std::optional<std::wstring> text =
+        reporting::WindowsSystemMessages().FromSystem(ERROR_BAD_EXE_FORMAT);
     ASSERT_TRUE(text.has_value());
     EXPECT_NE(text->find(L"%1"), std::wstring::npos);
 }
 
 TEST(WindowsSystemMessages, ACodeThatTheSystemDoesNotKnowHasNoText) {
-    EXPECT_EQ(WindowsSystemMessages().FromSystem(kNoCodeAtAll), std::nullopt);
-    EXPECT_EQ(WindowsSystemMessages().FromSystem(kNameNotResolved), std::nullopt);
+    EXPECT_EQ(reporting::WindowsSystemMessages().FromSystem(kNoCodeAtAll), std::nullopt);
+    EXPECT_EQ(reporting::WindowsSystemMessages().FromSystem(kNameNotResolved), std::nullopt);
 }
 
 TEST(WindowsSystemMessages, TheInternetModulesTextIsFoundWhetherOrNotItIsLoaded) {
     ASSERT_EQ(GetModuleHandleW(L"wininet.dll"), nullptr) << "Nothing here may have loaded it yet";
-    const std::optional<std::wstring> unloaded = WindowsSystemMessages().FromInternetModule(kNameNotResolved);
+    const std::optional<std::wstring> unloaded =
+        reporting::WindowsSystemMessages().FromInternetModule(kNameNotResolved);
     ASSERT_TRUE(unloaded.has_value());
     EXPECT_GT(unloaded->size(), 5U);
     EXPECT_EQ(GetModuleHandleW(L"wininet.dll"), nullptr) << "It is not kept";
 
     const toolkit::UniqueModule loaded(LoadLibraryExW(L"wininet.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
     ASSERT_TRUE(loaded);
-    EXPECT_EQ(WindowsSystemMessages().FromInternetModule(kNameNotResolved), unloaded);
+    EXPECT_EQ(reporting::WindowsSystemMessages().FromInternetModule(kNameNotResolved), unloaded);
 }
 
 TEST(WindowsSystemMessages, ACodeThatTheInternetModuleDoesNotKnowHasNoText) {
-    EXPECT_EQ(WindowsSystemMessages().FromInternetModule(kNoCodeAtAll), std::nullopt);
+    EXPECT_EQ(reporting::WindowsSystemMessages().FromInternetModule(kNoCodeAtAll), std::nullopt);
 }
 
 TEST(WindowsSystemMessages, TheInternetModulesTableIsNotTheSystems) {
-    EXPECT_EQ(WindowsSystemMessages().FromInternetModule(ERROR_ACCESS_DENIED), std::nullopt);
+    EXPECT_EQ(reporting::WindowsSystemMessages().FromInternetModule(ERROR_ACCESS_DENIED), std::nullopt);
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "toolkit/system_text_windows.h"
+#include "toolkit/text/system_text.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 // A text and its bytes in the code page that the tests run with.
@@ -33,13 +33,13 @@ std::optional<Sample> SampleOfThisSystem() {
 TEST(WindowsSystemText, NarrowsToTheSystemsCodePage) {
     const std::optional<Sample> sample = SampleOfThisSystem();
     ASSERT_TRUE(sample.has_value()) << "No sample for code page " << GetACP();
-    EXPECT_EQ(WindowsSystemText().Narrow(sample->wide), sample->narrow);
+    EXPECT_EQ(toolkit::WindowsSystemText().Narrow(sample->wide), sample->narrow);
 }
 
 TEST(WindowsSystemText, WidensFromTheSystemsCodePage) {
     const std::optional<Sample> sample = SampleOfThisSystem();
     ASSERT_TRUE(sample.has_value()) << "No sample for code page " << GetACP();
-    EXPECT_EQ(WindowsSystemText().Widen(sample->narrow), sample->wide);
+    EXPECT_EQ(toolkit::WindowsSystemText().Widen(sample->narrow), sample->wide);
 }
 
 TEST(WindowsSystemText, ALongTextLosesNothing) {
@@ -51,12 +51,12 @@ TEST(WindowsSystemText, ALongTextLosesNothing) {
         wide += sample->wide;
         narrow += sample->narrow;
     }
-    EXPECT_EQ(WindowsSystemText().Narrow(wide), narrow);
-    EXPECT_EQ(WindowsSystemText().Widen(narrow), wide);
+    EXPECT_EQ(toolkit::WindowsSystemText().Narrow(wide), narrow);
+    EXPECT_EQ(toolkit::WindowsSystemText().Widen(narrow), wide);
 }
 
 TEST(WindowsSystemText, NulsAndEmptyTextsAreOrdinary) {
-    const WindowsSystemText text;
+    const toolkit::WindowsSystemText text;
     EXPECT_EQ(text.Narrow(L""), "");
     EXPECT_EQ(text.Widen(""), L"");
     EXPECT_EQ(text.UpperCase(L""), L"");
@@ -66,19 +66,19 @@ TEST(WindowsSystemText, NulsAndEmptyTextsAreOrdinary) {
 
 TEST(WindowsSystemText, WhatTheCodePageLacksBecomesTheSystemsReplacement) {
     if (GetACP() == 65001) {
-        EXPECT_EQ(WindowsSystemText().Narrow(L"\x0E01"), "\xE0\xB8\x81");
+        EXPECT_EQ(toolkit::WindowsSystemText().Narrow(L"\x0E01"), "\xE0\xB8\x81");
     } else {
-        EXPECT_EQ(WindowsSystemText().Narrow(L"a\x0E01z"), "a?z");
+        EXPECT_EQ(toolkit::WindowsSystemText().Narrow(L"a\x0E01z"), "a?z");
     }
 }
 
 TEST(WindowsSystemText, UpperCaseIsThatOfAllOfUnicodeWhateverTheCodePage) {
-    EXPECT_EQ(WindowsSystemText().UpperCase(L"abc жук ёÿ ß ω 5 表"), L"ABC ЖУК ЁŸ ß Ω 5 表");
+    EXPECT_EQ(toolkit::WindowsSystemText().UpperCase(L"abc жук ёÿ ß ω 5 表"), L"ABC ЖУК ЁŸ ß Ω 5 表");
 }
 
 TEST(WindowsSystemText, LowerCaseIsThatOfAllOfUnicodeWhateverTheCodePage) {
-    EXPECT_EQ(WindowsSystemText().LowerCase(L"ABC ЖУК ЁŸ ß Ω 5 表"), L"abc жук ёÿ ß ω 5 表");
+    EXPECT_EQ(toolkit::WindowsSystemText().LowerCase(L"ABC ЖУК ЁŸ ß Ω 5 表"), L"abc жук ёÿ ß ω 5 表");
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <system_error>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 TemporaryFolder::TemporaryFolder() {
     wchar_t parent[MAX_PATH + 1] = {};
@@ -24,4 +24,4 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 /// A new, empty folder that goes with everything in it at the end of its owner.
 class TemporaryFolder {
@@ -23,4 +23,4 @@ class TemporaryFolder {
     std::filesystem::path path_;
 };
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

@@ -1,15 +1,14 @@
-#include "toolkit/anchored_layout.h"
+#include "toolkit/dialog/anchored_layout.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/window/test_dialog.h"
-#include "toolkit/control_place.h"
+#include "toolkit/dialog/window_geometry.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
-using testing::TestDialog;
-using enum GrowthShare;
+using enum toolkit::GrowthShare;
 
 class AnchoredLayoutTest : public ::testing::Test {
   protected:
@@ -29,13 +28,13 @@ class AnchoredLayoutTest : public ::testing::Test {
     }
 
     void ExpectPlace(int control, const RECT& expected) {
-        const RECT place = PlaceOf(dialog_.Control(control));
+        const RECT place = toolkit::PlaceOf(dialog_.Control(control));
         EXPECT_TRUE(EqualRect(&place, &expected)) << "control " << control << " is at " << place.left << ", "
                                                   << place.top << ", " << place.right << ", " << place.bottom;
     }
 
     TestDialog dialog_;
-    AnchoredLayout layout_;
+    toolkit::AnchoredLayout layout_;
     int width_ = 0;
     int height_ = 0;
 };
@@ -67,7 +66,7 @@ TEST_F(AnchoredLayoutTest, WhatGrowsGivesWayInADialogSmallerThanItsTemplate) {
 
 TEST_F(AnchoredLayoutTest, NothingShrinksToLessThanNothing) {
     layout_.Arrange(width_ - 150, height_ - 100);
-    const RECT place = PlaceOf(dialog_.Control(IDC_TEXT_EDIT));
+    const RECT place = toolkit::PlaceOf(dialog_.Control(IDC_TEXT_EDIT));
     EXPECT_EQ(place.right - place.left, 0);
     EXPECT_EQ(place.bottom - place.top, 0);
 }
@@ -116,11 +115,11 @@ TEST_F(AnchoredLayoutTest, AMinimisedDialogHasNoSmallestSize) {
 }
 
 TEST(AnchoredLayoutBeforeItsDialog, LimitsNothing) {
-    const AnchoredLayout layout;
+    const toolkit::AnchoredLayout layout;
     MINMAXINFO info = {};
     layout.LimitSize(info);
     EXPECT_EQ(info.ptMinTrackSize.x, 0);
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

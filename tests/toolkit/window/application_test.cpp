@@ -1,4 +1,4 @@
-#include "toolkit/application.h"
+#include "toolkit/system/application.h"
 
 #include <gtest/gtest.h>
 
@@ -7,23 +7,21 @@
 
 #include "tests/toolkit/window/box_closer.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
-using testing::BoxCloser;
-
-class TestApplication : public Application {
+class TestApplication : public toolkit::Application {
   public:
     std::function<bool()> onInit = [] { return true; };
     std::function<void()> onExit = [] {};
     int exits = 0;
 
   protected:
-    bool InitInstance() override { return Application::InitInstance() && onInit(); }
+    bool InitInstance() override { return toolkit::Application::InitInstance() && onInit(); }
     int ExitInstance() override {
         ++exits;
         onExit();
-        return Application::ExitInstance();
+        return toolkit::Application::ExitInstance();
     }
     [[nodiscard]] std::wstring Title() const override { return L"Name of the program"; }
 };
@@ -82,4 +80,4 @@ TEST(Application, KeepsTheRegistryKeyOfTheToolkit) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "toolkit/window_text.h"
+#include "toolkit/dialog/data_exchange.h"
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -48,7 +48,7 @@ void BoxCloser::Watch(DWORD threadId) {
         HWND box = nullptr;
         EnumThreadWindows(threadId, &TakeBox, reinterpret_cast<LPARAM>(&box));
         if (box != nullptr) {
-            boxes_.push_back({WindowText(box), WindowText(GetDlgItem(box, kTextId))});
+            boxes_.push_back({toolkit::WindowText(box), toolkit::WindowText(GetDlgItem(box, kTextId))});
             if (look_) {
                 look_(box);
             }
@@ -62,4 +62,4 @@ void BoxCloser::Watch(DWORD threadId) {
     }
 }
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

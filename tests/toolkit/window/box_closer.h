@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 /// What a message box showed.
 struct ShownBox {
@@ -40,4 +40,4 @@ class BoxCloser {
     std::thread watcher_;
 };
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

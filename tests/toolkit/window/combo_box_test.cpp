@@ -1,4 +1,4 @@
-#include "toolkit/combo_box.h"
+#include "toolkit/controls/choice_controls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,15 +6,13 @@
 #include <string>
 
 #include "tests/toolkit/window/test_dialog.h"
-#include "toolkit/data_exchange.h"
-#include "toolkit/window_text.h"
+#include "toolkit/dialog/data_exchange.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using testing::TestDialog;
 
 constexpr int kComboId = 2001;
 
@@ -22,11 +20,11 @@ class ComboBoxTest : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(dialog_.CreateModeless()); }
 
-    ComboBox Make(DWORD style) {
+    toolkit::ComboBox Make(DWORD style) {
         control_ =
             CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | style, 0, 0, 100, 100, dialog_.Window(),
                             reinterpret_cast<HMENU>(INT_PTR{kComboId}), GetModuleHandleW(nullptr), nullptr);
-        return ComboBox(control_);
+        return toolkit::ComboBox(control_);
     }
 
     TestDialog dialog_;
@@ -34,7 +32,7 @@ class ComboBoxTest : public ::testing::Test {
 };
 
 TEST_F(ComboBoxTest, FillingReplacesTheEntriesAndSelectsNone) {
-    const ComboBox combo = Make(CBS_DROPDOWNLIST);
+    const toolkit::ComboBox combo = Make(CBS_DROPDOWNLIST);
     combo.Fill({L"one", L"", L"three"});
     EXPECT_THAT(combo.Entries(), ElementsAre(L"one", L"", L"three"));
     combo.Select(2);
@@ -47,32 +45,35 @@ TEST_F(ComboBoxTest, FillingReplacesTheEntriesAndSelectsNone) {
 }
 
 TEST_F(ComboBoxTest, TheTextOfAnEditableOneOutlivesTheFilling) {
-    const ComboBox combo = Make(CBS_DROPDOWN);
+    const toolkit::ComboBox combo = Make(CBS_DROPDOWN);
     SetWindowTextW(control_, L" *.xml ");
     combo.Fill({L"*.one", L"*.two"});
-    EXPECT_EQ(WindowText(control_), L" *.xml ");
+    EXPECT_EQ(toolkit::WindowText(control_), L" *.xml ");
 }
 
 TEST_F(ComboBoxTest, AnEntryThatIsNotThereIsEmpty) {
-    const ComboBox combo = Make(CBS_DROPDOWNLIST);
+    const toolkit::ComboBox combo = Make(CBS_DROPDOWNLIST);
     combo.Fill({L"one"});
     EXPECT_EQ(combo.Entry(1), L"");
     EXPECT_EQ(combo.Entry(-1), L"");
 }
 
 TEST_F(ComboBoxTest, TheChoiceIsExchangedInBothDirections) {
-    const ComboBox combo = Make(CBS_DROPDOWNLIST);
+    const toolkit::ComboBox combo = Make(CBS_DROPDOWNLIST);
     combo.Fill({L"one", L"two"});
     int choice = 1;
-    DataExchange(dialog_.Window(), DataExchange::Direction::kToControls).Choice(kComboId, choice);
+    toolkit::DataExchange(dialog_.Window(), toolkit::DataExchange::Direction::kToControls)
+        .Choice(kComboId, choice);
     EXPECT_EQ(combo.Selected(), 1);
     combo.Select(0);
-    DataExchange(dialog_.Window(), DataExchange::Direction::kFromControls).Choice(kComboId, choice);
+    toolkit::DataExchange(dialog_.Window(), toolkit::DataExchange::Direction::kFromControls)
+        .Choice(kComboId, choice);
     EXPECT_EQ(choice, 0);
     combo.Select(-1);
-    DataExchange(dialog_.Window(), DataExchange::Direction::kFromControls).Choice(kComboId, choice);
+    toolkit::DataExchange(dialog_.Window(), toolkit::DataExchange::Direction::kFromControls)
+        .Choice(kComboId, choice);
     EXPECT_EQ(choice, -1);
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

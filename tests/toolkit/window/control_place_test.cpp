@@ -1,15 +1,12 @@
-#include "toolkit/control_place.h"
+#include "toolkit/dialog/window_geometry.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
-using testing::TestWindow;
 
 void ExpectRectangle(const RECT& got, const RECT& expected) {
     EXPECT_EQ(got.left, expected.left);
@@ -29,7 +26,7 @@ TEST(PlaceOf, IsTheRectangleInTheClientArea) {
     ASSERT_TRUE(dialog.CreateModeless());
     const HWND edit = dialog.Control(IDC_TEXT_EDIT);
     MoveWindow(edit, 11, 22, 130, 24, FALSE);
-    ExpectRectangle(PlaceOf(edit), {11, 22, 141, 46});
+    ExpectRectangle(toolkit::PlaceOf(edit), {11, 22, 141, 46});
 }
 
 TEST(CenterOver, PutsTheWindowInTheMiddleOfItsOwner) {
@@ -37,7 +34,7 @@ TEST(CenterOver, PutsTheWindowInTheMiddleOfItsOwner) {
     const TestWindow window;
     SetWindowPos(owner.Handle(), nullptr, 200, 150, 600, 500, SWP_NOZORDER | SWP_NOACTIVATE);
     SetWindowPos(window.Handle(), nullptr, 0, 0, 300, 200, SWP_NOZORDER | SWP_NOACTIVATE);
-    CenterOver(window.Handle(), owner.Handle());
+    toolkit::CenterOver(window.Handle(), owner.Handle());
     ExpectRectangle(FrameOf(window.Handle()), {350, 300, 650, 500});
 }
 
@@ -51,11 +48,11 @@ TEST(CenterOver, KeepsTheWindowOnTheScreen) {
     SetWindowPos(window.Handle(), nullptr, 0, 0, 300, 200, SWP_NOZORDER | SWP_NOACTIVATE);
     SetWindowPos(owner.Handle(), nullptr, screen.right - 100, screen.bottom - 80, 150, 120,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    CenterOver(window.Handle(), owner.Handle());
+    toolkit::CenterOver(window.Handle(), owner.Handle());
     ExpectRectangle(FrameOf(window.Handle()),
                     {screen.right - 300, screen.bottom - 200, screen.right, screen.bottom});
     SetWindowPos(owner.Handle(), nullptr, screen.left, screen.top, 150, 120, SWP_NOZORDER | SWP_NOACTIVATE);
-    CenterOver(window.Handle(), owner.Handle());
+    toolkit::CenterOver(window.Handle(), owner.Handle());
     ExpectRectangle(FrameOf(window.Handle()), {screen.left, screen.top, screen.left + 300, screen.top + 200});
 }
 
@@ -74,4 +71,4 @@ TEST(RunModal, OpensInTheMiddleOfItsOwner) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

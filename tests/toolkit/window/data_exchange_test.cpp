@@ -8,26 +8,24 @@
 
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
-#include "toolkit/data_exchange.h"
-#include "toolkit/window_text.h"
+#include "toolkit/dialog/data_exchange.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::MessageWatcher;
-using testing::TestDialog;
 
 class DataExchangeTest : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(dialog_.CreateModeless()); }
 
-    [[nodiscard]] DataExchange ToControls() const {
-        return {dialog_.Window(), DataExchange::Direction::kToControls};
+    [[nodiscard]] toolkit::DataExchange ToControls() const {
+        return {dialog_.Window(), toolkit::DataExchange::Direction::kToControls};
     }
-    [[nodiscard]] DataExchange FromControls() const {
-        return {dialog_.Window(), DataExchange::Direction::kFromControls};
+    [[nodiscard]] toolkit::DataExchange FromControls() const {
+        return {dialog_.Window(), toolkit::DataExchange::Direction::kFromControls};
     }
-    [[nodiscard]] std::wstring Shown(int controlId) const { return WindowText(dialog_.Control(controlId)); }
+    [[nodiscard]] std::wstring Shown(int controlId) const {
+        return toolkit::WindowText(dialog_.Control(controlId));
+    }
 
     TestDialog dialog_;
 };
@@ -147,4 +145,4 @@ TEST_F(DataExchangeTest, ControlsAreEnabledAndDisabledById) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

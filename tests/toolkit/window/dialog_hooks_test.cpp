@@ -9,14 +9,12 @@
 #include <vector>
 
 #include "tests/toolkit/window/test_dialog.h"
-#include "toolkit/icon.h"
-#include "toolkit/list_view.h"
-#include "toolkit/window_text.h"
+#include "toolkit/controls/list_view.h"
+#include "toolkit/dialog/data_exchange.h"
+#include "toolkit/system/icon.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
 
 // A dialog with a window, but not shown and not running.
 class DialogHooks : public ::testing::Test {
@@ -75,9 +73,9 @@ TEST_F(DialogHooks, AnotherNotificationOfTheOkButtonIsNoOk) {
 
 TEST_F(DialogHooks, WhatControlsTellWhileTheyAreFilledReachesNoHandler) {
     std::wstring text = L"filled";
-    dialog_.exchangeFields = [&](DataExchange& exchange) { exchange.Text(IDC_TEXT_EDIT, text); };
+    dialog_.exchangeFields = [&](toolkit::DataExchange& exchange) { exchange.Text(IDC_TEXT_EDIT, text); };
     dialog_.PutData();
-    EXPECT_EQ(WindowText(dialog_.Control(IDC_TEXT_EDIT)), L"filled");
+    EXPECT_EQ(toolkit::WindowText(dialog_.Control(IDC_TEXT_EDIT)), L"filled");
     EXPECT_TRUE(commands_.empty());
 
     SetWindowTextW(dialog_.Control(IDC_TEXT_EDIT), L"typed");
@@ -87,20 +85,20 @@ TEST_F(DialogHooks, WhatControlsTellWhileTheyAreFilledReachesNoHandler) {
 }
 
 TEST_F(DialogHooks, ControlsAreHeardAgainWhenFillingThemFailed) {
-    dialog_.exchangeFields = [](DataExchange&) { throw std::runtime_error("no field"); };
+    dialog_.exchangeFields = [](toolkit::DataExchange&) { throw std::runtime_error("no field"); };
     EXPECT_THROW(dialog_.PutData(), std::runtime_error);
     SetWindowTextW(dialog_.Control(IDC_TEXT_EDIT), L"typed");
     EXPECT_FALSE(commands_.empty());
 }
 
 TEST_F(DialogHooks, AMenuCommandIsNoNotificationAndComesThroughWhileFilling) {
-    dialog_.exchangeFields = [this](DataExchange&) { Send(WM_COMMAND, MAKEWPARAM(32787, 0)); };
+    dialog_.exchangeFields = [this](toolkit::DataExchange&) { Send(WM_COMMAND, MAKEWPARAM(32787, 0)); };
     dialog_.PutData();
     EXPECT_EQ(commands_, (Commands{{32787, 0U}}));
 }
 
 TEST_F(DialogHooks, AListViewIsAnsweredAlsoWhileFilling) {
-    ListView list;
+    toolkit::ListView list;
     list.Attach(dialog_.Control(IDC_ROW_LIST));
     list.InsertColumn(0, L"Name");
     list.AppendRowsOnRequest(1);
@@ -112,7 +110,7 @@ TEST_F(DialogHooks, AListViewIsAnsweredAlsoWhileFilling) {
         return false;
     };
     std::wstring shown;
-    dialog_.exchangeFields = [&](DataExchange&) { shown = list.RowText(0); };
+    dialog_.exchangeFields = [&](toolkit::DataExchange&) { shown = list.RowText(0); };
     dialog_.PutData();
     EXPECT_EQ(shown, L"asked for");
 }
@@ -170,7 +168,7 @@ TEST_F(DialogHooks, AHandledSystemCommandIsNotHandledByTheSystemToo) {
 }
 
 TEST_F(DialogHooks, TheIconToDragIsTheDialogsOrTheClasss) {
-    const UniqueIcon icon = LoadIconResource(IDI_SQUARE, 32);
+    const toolkit::UniqueIcon icon = toolkit::LoadIconResource(IDI_SQUARE, 32);
     dialog_.onQueryDragIcon = [&] { return icon.get(); };
     EXPECT_EQ(Send(WM_QUERYDRAGICON), reinterpret_cast<LRESULT>(icon.get()));
     dialog_.onQueryDragIcon = nullptr;
@@ -225,7 +223,7 @@ TEST_F(DialogHooks, ADisabledDialogIsAskedForItsInputToo) {
 
 TEST_F(DialogHooks, FieldsAreReadAsShownAndKeepWhatTheyHold) {
     std::wstring text = L"held";
-    dialog_.exchangeFields = [&](DataExchange& exchange) { exchange.Text(IDC_TEXT_EDIT, text); };
+    dialog_.exchangeFields = [&](toolkit::DataExchange& exchange) { exchange.Text(IDC_TEXT_EDIT, text); };
     SetWindowTextW(dialog_.Control(IDC_TEXT_EDIT), L"typed");
     EXPECT_EQ(dialog_.FieldsAsShown(text), L"typed");
     EXPECT_EQ(text, L"held");
@@ -263,4 +261,4 @@ TEST(DialogPaint, APaintingThatFailsIsReportedOnceAndNotAskedForAgain) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

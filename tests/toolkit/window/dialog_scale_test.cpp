@@ -7,13 +7,10 @@
 #include <vector>
 
 #include "tests/toolkit/window/test_dialog.h"
-#include "toolkit/control_place.h"
-#include "toolkit/window_scale.h"
+#include "toolkit/dialog/window_geometry.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
 
 constexpr std::array<int, 8> kControls = {IDC_TEXT_EDIT, IDC_NUMBER_EDIT, IDC_NAME_TEXT, IDC_CHOICE_CHECK,
                                           IDC_ROW_LIST,  IDC_TALL_BUTTON, IDOK,          IDCANCEL};
@@ -42,7 +39,7 @@ class DialogScale : public ::testing::Test {
     std::map<int, RECT> Places() {
         std::map<int, RECT> places;
         for (const int id : kControls) {
-            places[id] = PlaceOf(dialog_.Control(id));
+            places[id] = toolkit::PlaceOf(dialog_.Control(id));
         }
         return places;
     }
@@ -84,7 +81,7 @@ void ExpectTemplatePlaceOfList(const TestDialog& dialog) {
     const SIZE units = DialogUnitsOf(dialog);
     const int left = MulDiv(7, units.cx, 4);
     const int top = MulDiv(57, units.cy, 8);
-    ExpectPlace(PlaceOf(dialog.Control(IDC_ROW_LIST)),
+    ExpectPlace(toolkit::PlaceOf(dialog.Control(IDC_ROW_LIST)),
                 {left, top, left + MulDiv(180, units.cx, 4), top + MulDiv(60, units.cy, 8)}, IDC_ROW_LIST, 0);
 }
 
@@ -115,7 +112,7 @@ TEST_F(DialogScale, ThereAndBackGivesTheSamePlacesAndFont) {
     MoveToScreenOf(after_, LargerFrame());
     MoveToScreenOf(before_, frameBefore_);
     for (const auto& [id, place] : places) {
-        ExpectPlace(PlaceOf(dialog_.Control(id)), place, id, 1);
+        ExpectPlace(toolkit::PlaceOf(dialog_.Control(id)), place, id, 1);
         EXPECT_EQ(FontHeight(dialog_.Control(id)), height) << "control " << id;
     }
     RECT frame = {};
@@ -129,7 +126,7 @@ TEST_F(DialogScale, NoRoundingAddsUpHoweverOftenTheScaleChanges) {
         MoveToScreenOf(scale, frameBefore_);
     }
     for (const auto& [id, place] : places) {
-        ExpectPlace(PlaceOf(dialog_.Control(id)), place, id, 0);
+        ExpectPlace(toolkit::PlaceOf(dialog_.Control(id)), place, id, 0);
     }
 }
 
@@ -161,7 +158,7 @@ TEST_F(DialogScale, TheSameScaleChangesNothing) {
     dialog_.onScaleChanged = [] { ADD_FAILURE() << "Nothing has changed."; };
     MoveToScreenOf(before_, LargerFrame());
     for (const auto& [id, place] : places) {
-        ExpectPlace(PlaceOf(dialog_.Control(id)), place, id, 0);
+        ExpectPlace(toolkit::PlaceOf(dialog_.Control(id)), place, id, 0);
     }
 }
 
@@ -194,7 +191,7 @@ class PlainDialogScale : public DialogScale {
         places.push_back(frame);
         for (HWND child = GetWindow(plain_.Window(), GW_CHILD); child != nullptr;
              child = GetWindow(child, GW_HWNDNEXT)) {
-            places.push_back(PlaceOf(child));
+            places.push_back(toolkit::PlaceOf(child));
         }
         return places;
     }
@@ -256,9 +253,9 @@ TEST_F(PlainDialogScale, KeepsTheSuggestedCorner) {
 
 TEST_F(PlainDialogScale, PicturesAreLoadedForTheScale) {
     const int before = PictureSize();
-    EXPECT_EQ(before, SystemMetric(SM_CXICON, scale_));
+    EXPECT_EQ(before, toolkit::SystemMetric(SM_CXICON, scale_));
     MoveTo(scale_ * 3 / 2);
-    EXPECT_EQ(PictureSize(), SystemMetric(SM_CXICON, scale_ * 3 / 2));
+    EXPECT_EQ(PictureSize(), toolkit::SystemMetric(SM_CXICON, scale_ * 3 / 2));
     MoveTo(scale_);
     EXPECT_EQ(PictureSize(), before);
 }
@@ -267,15 +264,15 @@ TEST(WindowDotsPerInch, IsThatOfTheScreen) {
     const HDC screen = GetDC(nullptr);
     const auto expected = static_cast<UINT>(GetDeviceCaps(screen, LOGPIXELSX));
     ReleaseDC(nullptr, screen);
-    EXPECT_EQ(WindowDotsPerInch(GetDesktopWindow()), expected);
-    EXPECT_EQ(WindowDotsPerInch(nullptr), expected) << "Without a window it is the system's.";
+    EXPECT_EQ(toolkit::WindowDotsPerInch(GetDesktopWindow()), expected);
+    EXPECT_EQ(toolkit::WindowDotsPerInch(nullptr), expected) << "Without a window it is the system's.";
 }
 
 TEST(SystemMetric, GrowsWithTheScale) {
-    EXPECT_EQ(SystemMetric(SM_CXICON, 96), 32);
-    EXPECT_EQ(SystemMetric(SM_CXICON, 192), 64);
-    EXPECT_EQ(SystemMetric(SM_CXSMICON, 144), 24);
+    EXPECT_EQ(toolkit::SystemMetric(SM_CXICON, 96), 32);
+    EXPECT_EQ(toolkit::SystemMetric(SM_CXICON, 192), 64);
+    EXPECT_EQ(toolkit::SystemMetric(SM_CXSMICON, 144), 24);
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

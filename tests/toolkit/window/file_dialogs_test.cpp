@@ -1,4 +1,4 @@
-#include "toolkit/file_dialogs.h"
+#include "toolkit/files/path_pickers.h"
 
 #include <gtest/gtest.h>
 
@@ -6,12 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/kept_current_folder.h"
-
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
-constexpr DWORD kInvalidFileName = kCommonDialogInvalidFileName;
+constexpr DWORD kInvalidFileName = toolkit::kCommonDialogInvalidFileName;
 
 // What file dialogs that are not there were asked, and what they answer. The functions have no other place
 // for it.
@@ -56,25 +54,25 @@ class ShownFileDialog : public ::testing::Test {
   protected:
     ShownFileDialog() { TheScript() = {}; }
 
-    static PathChoice Show(const FileDialogOffer& offer) {
-        return ShowFileDialog({.ask = &AnswerFileDialog, .lastError = &AnswerLastError}, nullptr, offer,
-                              OFN_FILEMUSTEXIST);
+    static toolkit::PathChoice Show(const toolkit::FileDialogOffer& offer) {
+        return toolkit::ShowFileDialog({.ask = &AnswerFileDialog, .lastError = &AnswerLastError}, nullptr,
+                                       offer, OFN_FILEMUSTEXIST);
     }
-    static PathChoice ShowWithName(const std::wstring& name) {
+    static toolkit::PathChoice ShowWithName(const std::wstring& name) {
         return Show({.fileName = name, .folder = {}, .defaultExtension = L"prx", .filter = L"All|*.*||"});
     }
-    static PathChoice Failure(DWORD error) { return {{}, CommonDialogFailure(error)}; }
+    static toolkit::PathChoice Failure(DWORD error) { return {{}, toolkit::CommonDialogFailure(error)}; }
 };
 
 TEST_F(ShownFileDialog, GivesTheChosenPath) {
-    EXPECT_EQ(ShowWithName(L"alpha"), (PathChoice{L"C:\\chosen.prx", {}}));
+    EXPECT_EQ(ShowWithName(L"alpha"), (toolkit::PathChoice{L"C:\\chosen.prx", {}}));
     EXPECT_EQ(TheScript().offered, std::vector<std::wstring>{L"alpha"});
     EXPECT_NE(TheScript().flags & OFN_FILEMUSTEXIST, 0U);
 }
 
 TEST_F(ShownFileDialog, ACancelIsNoFailure) {
     TheScript().errors = {0};
-    EXPECT_EQ(ShowWithName(L"alpha"), PathChoice{});
+    EXPECT_EQ(ShowWithName(L"alpha"), toolkit::PathChoice{});
 }
 
 TEST_F(ShownFileDialog, AnyNumberOfTheCommonDialogIsAFailure) {
@@ -88,7 +86,7 @@ TEST_F(ShownFileDialog, AnyNumberOfTheCommonDialogIsAFailure) {
 
 TEST_F(ShownFileDialog, ANameThatTheSystemRefusesIsLeftOut) {
     TheScript().errors = {kInvalidFileName};
-    EXPECT_EQ(ShowWithName(L"CON"), (PathChoice{L"C:\\chosen.prx", {}}));
+    EXPECT_EQ(ShowWithName(L"CON"), (toolkit::PathChoice{L"C:\\chosen.prx", {}}));
     EXPECT_EQ(TheScript().offered, (std::vector<std::wstring>{L"CON", L""}));
 }
 
@@ -99,7 +97,7 @@ TEST_F(ShownFileDialog, APathThatTheSystemRefusesIsLeftOutToo) {
                     .defaultExtension = L"grx",
                     .filter = L"All|*.*||",
                     .path = L"C:\\gone\\a.grx"}),
-              PathChoice{});
+              toolkit::PathChoice{});
     EXPECT_EQ(TheScript().offered, (std::vector<std::wstring>{L"C:\\gone\\a.grx", L""}));
 }
 
@@ -116,7 +114,7 @@ TEST_F(ShownFileDialog, WithoutANameARefusedNameIsAFailureAtOnce) {
 }
 
 TEST_F(ShownFileDialog, LeavesTheCurrentFolderAsItWas) {
-    const KeptCurrentFolder ofTheTests;
+    const toolkit::KeptCurrentFolder ofTheTests;
     ASSERT_NE(SetCurrentDirectoryW(L"C:\\"), FALSE);
     for (const std::vector<DWORD>& errors : {std::vector<DWORD>{}, {0}, {2}}) {
         TheScript() = {};
@@ -130,4 +128,4 @@ TEST_F(ShownFileDialog, LeavesTheCurrentFolderAsItWas) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,15 +1,13 @@
-#include "toolkit/icon.h"
+#include "toolkit/system/icon.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/window/test_dialog.h"
-#include "toolkit/button_icons.h"
-#include "toolkit/window_scale.h"
+#include "toolkit/controls/button_icons.h"
+#include "toolkit/dialog/window_geometry.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
 
 constexpr COLORREF kOf16 = RGB(255, 0, 0);
 constexpr COLORREF kOf32 = RGB(0, 255, 0);
@@ -49,7 +47,7 @@ TEST(LoadIconResource, TakesThePictureOfTheRequestedSize) {
         COLORREF color;
     };
     for (const Case& entry : {Case{16, kOf16}, Case{32, kOf32}, Case{48, kOf48}}) {
-        const UniqueIcon icon = LoadIconResource(IDI_SQUARE, entry.sizePixels);
+        const toolkit::UniqueIcon icon = toolkit::LoadIconResource(IDI_SQUARE, entry.sizePixels);
         ASSERT_NE(icon.get(), nullptr) << entry.sizePixels;
         const Picture picture = Look(icon.get());
         EXPECT_EQ(picture.widthPixels, entry.sizePixels);
@@ -60,40 +58,40 @@ TEST(LoadIconResource, TakesThePictureOfTheRequestedSize) {
 
 TEST(LoadIconResource, GivesAlsoASizeThatHasNoPicture) {
     for (const int sizePixels : {20, 24, 64}) {
-        const UniqueIcon icon = LoadIconResource(IDI_SQUARE, sizePixels);
+        const toolkit::UniqueIcon icon = toolkit::LoadIconResource(IDI_SQUARE, sizePixels);
         ASSERT_NE(icon.get(), nullptr) << sizePixels;
         EXPECT_EQ(Look(icon.get()).widthPixels, sizePixels);
     }
 }
 
 TEST(LoadIconResource, IsEmptyWithoutSuchAResource) {
-    EXPECT_EQ(LoadIconResource(IDI_NOWHERE, 32).get(), nullptr);
+    EXPECT_EQ(toolkit::LoadIconResource(IDI_NOWHERE, 32).get(), nullptr);
 }
 
 TEST(ShowWindowIcons, GivesTheWindowBothInTheSizesOfItsScale) {
     TestDialog dialog;
     ASSERT_TRUE(dialog.CreateModeless());
-    UniqueIcon largeIcon;
-    UniqueIcon smallIcon;
+    toolkit::UniqueIcon largeIcon;
+    toolkit::UniqueIcon smallIcon;
     for (const UINT dotsPerInch : {96U, 144U}) {
-        ShowWindowIcons(dialog.Window(), dotsPerInch, IDI_SQUARE, largeIcon, smallIcon);
+        toolkit::ShowWindowIcons(dialog.Window(), dotsPerInch, IDI_SQUARE, largeIcon, smallIcon);
         EXPECT_EQ(SendMessageW(dialog.Window(), WM_GETICON, ICON_BIG, 0),
                   reinterpret_cast<LRESULT>(largeIcon.get()));
         EXPECT_EQ(SendMessageW(dialog.Window(), WM_GETICON, ICON_SMALL, 0),
                   reinterpret_cast<LRESULT>(smallIcon.get()));
-        EXPECT_EQ(Look(largeIcon.get()).widthPixels, SystemMetric(SM_CXICON, dotsPerInch));
-        EXPECT_EQ(Look(smallIcon.get()).widthPixels, SystemMetric(SM_CXSMICON, dotsPerInch));
+        EXPECT_EQ(Look(largeIcon.get()).widthPixels, toolkit::SystemMetric(SM_CXICON, dotsPerInch));
+        EXPECT_EQ(Look(smallIcon.get()).widthPixels, toolkit::SystemMetric(SM_CXSMICON, dotsPerInch));
     }
 }
 
 TEST(ShowWindowIcons, TheIconsBeforeAreDestroyed) {
     TestDialog dialog;
     ASSERT_TRUE(dialog.CreateModeless());
-    UniqueIcon largeIcon;
-    UniqueIcon smallIcon;
-    ShowWindowIcons(dialog.Window(), 96, IDI_SQUARE, largeIcon, smallIcon);
+    toolkit::UniqueIcon largeIcon;
+    toolkit::UniqueIcon smallIcon;
+    toolkit::ShowWindowIcons(dialog.Window(), 96, IDI_SQUARE, largeIcon, smallIcon);
     const HICON before = largeIcon.get();
-    ShowWindowIcons(dialog.Window(), 144, IDI_SQUARE, largeIcon, smallIcon);
+    toolkit::ShowWindowIcons(dialog.Window(), 144, IDI_SQUARE, largeIcon, smallIcon);
     ICONINFO info = {};
     EXPECT_FALSE(GetIconInfo(before, &info));
 }
@@ -117,7 +115,7 @@ class ButtonIconsTest : public ::testing::Test {
     }
 
     TestWindow window_;
-    ButtonIcons icons_;
+    toolkit::ButtonIcons icons_;
 };
 
 TEST_F(ButtonIconsTest, AButtonShowsTheIconInTheSizeOfTheScale) {
@@ -149,4 +147,4 @@ TEST_F(ButtonIconsTest, AnotherScaleLoadsEveryIconAgain) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/input_gate_windows.h"
+#include "toolkit/dialog/modal_state.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -10,11 +10,8 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
-using testing::TestWindow;
 
 // What is left in the queue of the thread, of the given window.
 std::vector<UINT> LeftFor(HWND window) {
@@ -36,7 +33,7 @@ bool Holds(const std::vector<UINT>& messages, UINT message) {
 
 TEST(WindowsInputGate, DisablesTheWindowsWhileItIsShut) {
     const TestWindow window;
-    WindowsInputGate gate;
+    toolkit::WindowsInputGate gate;
     gate.Shut();
     EXPECT_FALSE(IsWindowEnabled(window.Handle()));
     gate.Shut();
@@ -48,7 +45,7 @@ TEST(WindowsInputGate, DisablesTheWindowsWhileItIsShut) {
 
 TEST(WindowsInputGate, MayBeShutAgain) {
     const TestWindow window;
-    WindowsInputGate gate;
+    toolkit::WindowsInputGate gate;
     for (int i = 0; i < 2; ++i) {
         gate.Shut();
         EXPECT_FALSE(IsWindowEnabled(window.Handle()));
@@ -60,9 +57,9 @@ TEST(WindowsInputGate, MayBeShutAgain) {
 TEST(WindowsInputGate, InputThatCameMeanwhileIsLostAndEverythingElseStays) {
     const TestWindow window;
     static_cast<void>(LeftFor(nullptr));
-    WindowsInputGate gate;
+    toolkit::WindowsInputGate gate;
     {
-        const ShutInput shut(gate);
+        const toolkit::ShutInput shut(gate);
         for (const UINT message : std::vector<UINT>{WM_KEYDOWN, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN,
                                                     WM_NCLBUTTONDOWN, WM_APP, WM_KEYUP, WM_COMMAND}) {
             PostMessageW(window.Handle(), message, 0, 0);
@@ -89,18 +86,18 @@ TEST(WindowsInputGate, KeysOfTheRealKeyboardAreLostToo) {
     };
     press();
     ASSERT_TRUE(Holds(LeftFor(edit), WM_KEYDOWN)) << "The key does not reach this window at all.";
-    WindowsInputGate gate;
+    toolkit::WindowsInputGate gate;
     {
-        const ShutInput shut(gate);
+        const toolkit::ShutInput shut(gate);
         press();
     }
     EXPECT_FALSE(Holds(LeftFor(edit), WM_KEYDOWN));
 }
 
 TEST(WindowsInputGate, TheEndOfTheProgramIsNotInput) {
-    WindowsInputGate gate;
+    toolkit::WindowsInputGate gate;
     {
-        const ShutInput shut(gate);
+        const toolkit::ShutInput shut(gate);
         PostQuitMessage(7);
     }
     MSG quit = {};
@@ -109,4 +106,4 @@ TEST(WindowsInputGate, TheEndOfTheProgramIsNotInput) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/kept_check_boxes.h"
+#include "toolkit/controls/kept_check_boxes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,12 +9,10 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::MessageWatcher;
-using testing::TestDialog;
 
 // A list of four rows that are kept here.
 class KeptCheckBoxesTest : public ::testing::Test {
@@ -37,13 +35,13 @@ class KeptCheckBoxesTest : public ::testing::Test {
         };
     }
     void AttachBoxes() {
-        boxes_ = std::make_unique<KeptCheckBoxes>(
-            KeptCheckBoxes::Marks{.isChecked = [this](std::size_t row) { return bool{marks_.at(row)}; },
-                                  .check =
-                                      [this](std::size_t row, bool isChecked) {
-                                          marks_.at(row) = isChecked;
-                                          ++changes_;
-                                      }});
+        boxes_ = std::make_unique<toolkit::KeptCheckBoxes>(toolkit::KeptCheckBoxes::Marks{
+            .isChecked = [this](std::size_t row) { return bool{marks_.at(row)}; },
+            .check =
+                [this](std::size_t row, bool isChecked) {
+                    marks_.at(row) = isChecked;
+                    ++changes_;
+                }});
         boxes_->Attach(list_);
         LVCOLUMNW column = {};
         column.mask = LVCF_WIDTH;
@@ -108,7 +106,7 @@ class KeptCheckBoxesTest : public ::testing::Test {
     std::vector<bool> marks_ = {false, true, false, false};
     int changes_ = 0;
     int doubleClicks_ = 0;
-    std::unique_ptr<KeptCheckBoxes> boxes_;
+    std::unique_ptr<toolkit::KeptCheckBoxes> boxes_;
 };
 
 // A control that does with a list of no rows of its own what Windows is documented to do, or may do: it keeps
@@ -411,4 +409,4 @@ TEST_F(KeptCheckBoxesAsDocumented, BoxesMadeAnewKeepTheirMarks) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/list_box.h"
+#include "toolkit/controls/choice_controls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,14 +6,13 @@
 #include <string>
 
 #include "tests/toolkit/window/test_dialog.h"
-#include "toolkit/data_exchange.h"
+#include "toolkit/dialog/data_exchange.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using testing::TestDialog;
 
 constexpr int kListId = 2000;
 
@@ -21,11 +20,11 @@ class ListBoxTest : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(dialog_.CreateModeless()); }
 
-    ListBox Make(DWORD style = 0) {
+    toolkit::ListBox Make(DWORD style = 0) {
         control_ = CreateWindowExW(0, L"LISTBOX", L"", WS_CHILD | LBS_NOTIFY | WS_HSCROLL | style, 0, 0, 100,
                                    100, dialog_.Window(), reinterpret_cast<HMENU>(INT_PTR{kListId}),
                                    GetModuleHandleW(nullptr), nullptr);
-        return ListBox(control_);
+        return toolkit::ListBox(control_);
     }
     [[nodiscard]] LRESULT Extent() const { return SendMessageW(control_, LB_GETHORIZONTALEXTENT, 0, 0); }
 
@@ -34,7 +33,7 @@ class ListBoxTest : public ::testing::Test {
 };
 
 TEST_F(ListBoxTest, EntriesStandInTheOrderTheyWereAdded) {
-    const ListBox list = Make();
+    const toolkit::ListBox list = Make();
     list.Add(L"b");
     list.Add(L"a");
     list.Add(L"");
@@ -44,14 +43,14 @@ TEST_F(ListBoxTest, EntriesStandInTheOrderTheyWereAdded) {
 }
 
 TEST_F(ListBoxTest, AListThatSortsPutsEachEntryInItsPlace) {
-    const ListBox list = Make(LBS_SORT);
+    const toolkit::ListBox list = Make(LBS_SORT);
     list.Fill({L"c", L"a"});
     list.Add(L"b");
     EXPECT_THAT(list.Entries(), ElementsAre(L"a", L"b", L"c"));
 }
 
 TEST_F(ListBoxTest, FillingReplacesTheEntriesAndSelectsNone) {
-    const ListBox list = Make();
+    const toolkit::ListBox list = Make();
     list.Fill({L"one", L"two"});
     list.Select(1);
     list.Fill({L"three"});
@@ -62,7 +61,7 @@ TEST_F(ListBoxTest, FillingReplacesTheEntriesAndSelectsNone) {
 }
 
 TEST_F(ListBoxTest, ADeletedEntryIsGoneAndItsSelectionWithIt) {
-    const ListBox list = Make();
+    const toolkit::ListBox list = Make();
     list.Fill({L"one", L"two", L"three"});
     list.Select(1);
     EXPECT_EQ(list.Selected(), 1);
@@ -72,7 +71,7 @@ TEST_F(ListBoxTest, ADeletedEntryIsGoneAndItsSelectionWithIt) {
 }
 
 TEST_F(ListBoxTest, FindsAWholeEntryWhateverItsCase) {
-    const ListBox list = Make();
+    const toolkit::ListBox list = Make();
     list.Fill({L"p7s.old", L"p7s", L"Док"});
     EXPECT_EQ(list.Find(L"P7S"), 1);
     EXPECT_EQ(list.Find(L"дОК"), 2);
@@ -80,7 +79,7 @@ TEST_F(ListBoxTest, FindsAWholeEntryWhateverItsCase) {
 }
 
 TEST_F(ListBoxTest, TheScrollBarFollowsTheWidestEntry) {
-    const ListBox list = Make();
+    const toolkit::ListBox list = Make();
     list.Fill({L"short"});
     const LRESULT narrow = Extent();
     EXPECT_GT(narrow, 0);
@@ -91,20 +90,23 @@ TEST_F(ListBoxTest, TheScrollBarFollowsTheWidestEntry) {
 }
 
 TEST_F(ListBoxTest, TheSelectionIsExchangedBothWays) {
-    const ListBox list = Make();
+    const toolkit::ListBox list = Make();
     list.Fill({L"one", L"two"});
     for (const int index : {1, 0, -1}) {
         int field = index;
-        DataExchange(dialog_.Window(), DataExchange::Direction::kToControls).Selection(kListId, field);
+        toolkit::DataExchange(dialog_.Window(), toolkit::DataExchange::Direction::kToControls)
+            .Selection(kListId, field);
         EXPECT_EQ(list.Selected(), index);
         int back = 7;
-        DataExchange(dialog_.Window(), DataExchange::Direction::kFromControls).Selection(kListId, back);
+        toolkit::DataExchange(dialog_.Window(), toolkit::DataExchange::Direction::kFromControls)
+            .Selection(kListId, back);
         EXPECT_EQ(back, index);
     }
     int untouched = 7;
-    DataExchange(dialog_.Window(), DataExchange::Direction::kFromControls).Selection(2999, untouched);
+    toolkit::DataExchange(dialog_.Window(), toolkit::DataExchange::Direction::kFromControls)
+        .Selection(2999, untouched);
     EXPECT_EQ(untouched, 7);
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/list_view.h"
+#include "toolkit/controls/list_view.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +11,8 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::MessageWatcher;
-using testing::TestDialog;
 
 class ListViewTest : public ::testing::Test {
   protected:
@@ -73,7 +70,7 @@ class ListViewTest : public ::testing::Test {
     static constexpr int kManyRows = 60;
 
     TestDialog dialog_;
-    ListView list_;
+    toolkit::ListView list_;
     std::set<std::pair<int, int>> asked_;
     std::wstring answer_;
     std::size_t paddingLength_ = 0;
@@ -253,11 +250,11 @@ TEST_F(ListViewTest, AHeadingBearsOneMarkOrNone) {
         SendMessageW(header, HDM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         return item.fmt & (HDF_SORTUP | HDF_SORTDOWN);
     };
-    list_.MarkHeading(0, HeadingMark::kUp);
+    list_.MarkHeading(0, toolkit::HeadingMark::kUp);
     EXPECT_EQ(marks(), HDF_SORTUP);
-    list_.MarkHeading(0, HeadingMark::kDown);
+    list_.MarkHeading(0, toolkit::HeadingMark::kDown);
     EXPECT_EQ(marks(), HDF_SORTDOWN);
-    list_.MarkHeading(0, HeadingMark::kNone);
+    list_.MarkHeading(0, toolkit::HeadingMark::kNone);
     EXPECT_EQ(marks(), 0);
     EXPECT_EQ(list_.ColumnWidth(0), 100);
 }
@@ -265,13 +262,13 @@ TEST_F(ListViewTest, AHeadingBearsOneMarkOrNone) {
 TEST_F(ListViewTest, AMarkThatAHeadingHasIsNotSetAgain) {
     AppendRows({L"one"});
     const auto header = reinterpret_cast<HWND>(SendMessageW(list_.Window(), LVM_GETHEADER, 0, 0));
-    list_.MarkHeading(0, HeadingMark::kUp);
+    list_.MarkHeading(0, toolkit::HeadingMark::kUp);
     int settings = 0;
     const MessageWatcher watcher(header,
                                  [&settings](UINT message) { settings += message == HDM_SETITEMW ? 1 : 0; });
-    list_.MarkHeading(0, HeadingMark::kUp);
+    list_.MarkHeading(0, toolkit::HeadingMark::kUp);
     EXPECT_EQ(settings, 0);
-    list_.MarkHeading(0, HeadingMark::kDown);
+    list_.MarkHeading(0, toolkit::HeadingMark::kDown);
     EXPECT_EQ(settings, 1);
 }
 
@@ -361,7 +358,7 @@ TEST_F(ListViewTest, TheScrollPositionSurvivesARefill) {
     ASSERT_EQ(list_.TopRow(), 17);
     const int top = list_.TopRow();
     {
-        const ListView::RedrawLock locked(list_);
+        const toolkit::ListView::RedrawLock locked(list_);
         list_.DeleteAllRows();
         list_.AppendRowsOnRequest(kManyRows);
     }
@@ -381,7 +378,7 @@ TEST_F(ListViewTest, ScrollingGoesAsFarAsThereAreRows) {
 }
 
 TEST_F(ListViewTest, AListWithoutRowsOfItsOwnStaysWhereItIsUnlessItGetsShorter) {
-    ListView list;
+    toolkit::ListView list;
     list.Attach(CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,
                                 0, 200, 150, dialog_.Window(), nullptr, GetModuleHandleW(nullptr), nullptr));
     list.InsertColumn(0, L"Name");
@@ -406,7 +403,7 @@ TEST_F(ListViewTest, RedrawingIsOffWhileLockedAndOnAgainAfterAnException) {
         }
     });
     try {
-        const ListView::RedrawLock locked(list_);
+        const toolkit::ListView::RedrawLock locked(list_);
         EXPECT_EQ(switched.size(), 1U);
         throw std::runtime_error("filling failed");
     } catch (const std::runtime_error&) {
@@ -417,13 +414,13 @@ TEST_F(ListViewTest, RedrawingIsOffWhileLockedAndOnAgainAfterAnException) {
 TEST(ListViewRedraw, ALockedListShowsNothingNewAndEverythingAfterwards) {
     TestDialog dialog(IDD_FORM);
     ASSERT_TRUE(dialog.CreateModeless());
-    ListView list;
+    toolkit::ListView list;
     list.Attach(dialog.Control(IDC_ROW_LIST));
     list.InsertColumn(0, L"Name");
     list.SetColumnWidth(0, 100);
     UpdateWindow(list.Window());
     {
-        const ListView::RedrawLock locked(list);
+        const toolkit::ListView::RedrawLock locked(list);
         list.AppendRow(L"new");
         EXPECT_FALSE(GetUpdateRect(list.Window(), nullptr, FALSE));
     }
@@ -435,7 +432,7 @@ TEST(ListViewFocus, GoesToTheControl) {
     TestDialog dialog(IDD_FORM);
     ASSERT_TRUE(dialog.CreateModeless());
     SetActiveWindow(dialog.Window());
-    ListView list;
+    toolkit::ListView list;
     list.Attach(dialog.Control(IDC_ROW_LIST));
     list.Focus();
     EXPECT_EQ(GetFocus(), list.Window());
@@ -461,4 +458,4 @@ TEST_F(ListViewTest, CheckBoxesThatAreMadeAgainKeepTheirMarks) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -11,13 +11,8 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::BoxCloser;
-using testing::MessageWatcher;
-using testing::TestDialog;
-using testing::TestWindow;
 
 constexpr int kOwnResult = 77;
 
@@ -594,4 +589,4 @@ TEST(RunModal, TheOuterDialogMayEndWhileTheInnerOneRuns) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/modal_state.h"
+#include "toolkit/dialog/modal_state.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -10,14 +10,10 @@
 #include "tests/toolkit/window/box_closer.h"
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
-#include "toolkit/message_presenter_windows.h"
+#include "toolkit/system/message_presenter.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::BoxCloser;
-using testing::TestDialog;
-using testing::TestWindow;
 
 // A top-level window of the given look that is gone with this object.
 class OtherWindow {
@@ -41,7 +37,7 @@ TEST(ModalState, DisablesEveryWindowOfTheThreadAndEnablesThemAgain) {
     const TestWindow first;
     const TestWindow second;
     {
-        const ModalState state;
+        const toolkit::ModalState state;
         EXPECT_FALSE(IsWindowEnabled(first.Handle()));
         EXPECT_FALSE(IsWindowEnabled(second.Handle()));
     }
@@ -55,7 +51,7 @@ TEST(ModalState, AMinimisedWindowAndAHiddenDialogAreDisabledToo) {
     TestDialog hidden(IDD_HIDDEN_FORM);
     ASSERT_TRUE(hidden.CreateModeless());
     ASSERT_FALSE(IsWindowVisible(hidden.Window()));
-    const ModalState state;
+    const toolkit::ModalState state;
     EXPECT_FALSE(IsWindowEnabled(minimised.Handle()));
     EXPECT_FALSE(IsWindowEnabled(hidden.Window()));
 }
@@ -64,7 +60,7 @@ TEST(ModalState, TheExemptWindowIsLeftAloneAlsoWhenAControlOfItIsNamed) {
     const TestWindow other;
     TestDialog exempt(IDD_FORM);
     ASSERT_TRUE(exempt.CreateModeless());
-    const ModalState state(exempt.Control(IDC_TEXT_EDIT));
+    const toolkit::ModalState state(exempt.Control(IDC_TEXT_EDIT));
     EXPECT_TRUE(IsWindowEnabled(exempt.Window()));
     EXPECT_FALSE(IsWindowEnabled(other.Handle()));
 }
@@ -72,14 +68,14 @@ TEST(ModalState, TheExemptWindowIsLeftAloneAlsoWhenAControlOfItIsNamed) {
 TEST(ModalState, AWindowThatWasDisabledStaysSo) {
     const TestWindow window;
     EnableWindow(window.Handle(), FALSE);
-    { const ModalState state; }
+    { const toolkit::ModalState state; }
     EXPECT_FALSE(IsWindowEnabled(window.Handle()));
 }
 
 TEST(ModalState, AWindowMadeMeanwhileTakesInputAndIsLeftAlone) {
     std::optional<TestWindow> later;
     {
-        const ModalState state;
+        const toolkit::ModalState state;
         later.emplace();
         EXPECT_TRUE(IsWindowEnabled(later->Handle()));
         EnableWindow(later->Handle(), FALSE);
@@ -91,7 +87,7 @@ TEST(ModalState, AWindowThatDiesMeanwhileIsForgotten) {
     const TestWindow stays;
     std::optional<TestWindow> dies(std::in_place);
     {
-        const ModalState state;
+        const toolkit::ModalState state;
         dies.reset();
     }
     EXPECT_TRUE(IsWindowEnabled(stays.Handle()));
@@ -102,7 +98,7 @@ TEST(ModalState, TooltipsAndHiddenHelpersAreLeftAlone) {
     ASSERT_TRUE(dialog.CreateModeless());
     const OtherWindow tip(WS_EX_TOOLWINDOW | WS_EX_TOPMOST, WS_POPUP | WS_VISIBLE);
     const OtherWindow helper(0, WS_POPUP);
-    const ModalState state;
+    const toolkit::ModalState state;
     EXPECT_FALSE(IsWindowEnabled(dialog.Window()));
     EXPECT_TRUE(IsWindowEnabled(tip.Handle()));
     EXPECT_TRUE(IsWindowEnabled(helper.Handle()));
@@ -111,10 +107,10 @@ TEST(ModalState, TooltipsAndHiddenHelpersAreLeftAlone) {
 TEST(ModalState, Nests) {
     const TestWindow outer;
     {
-        const ModalState first;
+        const toolkit::ModalState first;
         const TestWindow inner;
         {
-            const ModalState second;
+            const toolkit::ModalState second;
             EXPECT_FALSE(IsWindowEnabled(inner.Handle()));
         }
         EXPECT_TRUE(IsWindowEnabled(inner.Handle()));
@@ -128,7 +124,7 @@ TEST(ModalState, ActivationComesBackWhereItWasLost) {
     const TestWindow topmost;
     SetActiveWindow(used.Handle());
     {
-        const ModalState state;
+        const toolkit::ModalState state;
         // As a box without owner leaves it that closes while nothing else can be active.
         TestWindow box;
     }
@@ -141,7 +137,7 @@ TEST(ModalState, FocusStaysInTheControlThatHasIt) {
     ASSERT_TRUE(dialog.CreateModeless());
     SetActiveWindow(dialog.Window());
     SetFocus(dialog.Control(IDC_NUMBER_EDIT));
-    { const ModalState state; }
+    { const toolkit::ModalState state; }
     EXPECT_EQ(GetFocus(), dialog.Control(IDC_NUMBER_EDIT));
 }
 
@@ -149,7 +145,7 @@ TEST(ModalState, TheWindowInUseIsTheActiveOne) {
     const TestWindow used;
     const TestWindow topmost;
     SetActiveWindow(used.Handle());
-    EXPECT_EQ(ModalState().WindowInUse(), used.Handle());
+    EXPECT_EQ(toolkit::ModalState().WindowInUse(), used.Handle());
 }
 
 TEST(ModalState, WithoutAnActiveWindowTheTopmostOneIsInUse) {
@@ -159,7 +155,7 @@ TEST(ModalState, WithoutAnActiveWindowTheTopmostOneIsInUse) {
     SetWindowPos(topmost.Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     SetActiveWindow(nullptr);
     ASSERT_EQ(GetActiveWindow(), nullptr);
-    EXPECT_EQ(ModalState().WindowInUse(), topmost.Handle());
+    EXPECT_EQ(toolkit::ModalState().WindowInUse(), topmost.Handle());
 }
 
 // Shows a box over two windows; tells what could be used meanwhile.
@@ -175,7 +171,8 @@ UsableDuringBox ShowBox(const TestWindow& owner, const TestWindow& other, HWND b
         usable = {IsWindowEnabled(owner.Handle()) != FALSE, IsWindowEnabled(other.Handle()) != FALSE,
                   GetWindow(box, GW_OWNER)};
     });
-    EXPECT_EQ(WindowsMessagePresenter().Show(boxOwner, L"Text", L"Title", MB_ICONWARNING | MB_OK), IDOK);
+    EXPECT_EQ(toolkit::WindowsMessagePresenter().Show(boxOwner, L"Text", L"Title", MB_ICONWARNING | MB_OK),
+              IDOK);
     EXPECT_EQ(closer.Boxes().size(), 1U);
     return usable;
 }
@@ -205,4 +202,4 @@ TEST(ModalMessageBox, WithoutAnOwnerDisablesThemAllAndGivesBackTheFocus) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -7,11 +7,8 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
-using testing::TestWindow;
 
 TEST(CreateModeless, ReturnsWithTheWindowAndLeavesTheOwnerEnabled) {
     const TestWindow owner;
@@ -86,4 +83,4 @@ TEST(DestroyDialogWindow, HappensWhenTheDialogGoes) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

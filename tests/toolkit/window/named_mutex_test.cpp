@@ -1,13 +1,13 @@
-#include "toolkit/named_mutex.h"
+#include "toolkit/system/application.h"
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <thread>
 
-#include "toolkit/handles.h"
+#include "toolkit/system/handles.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 // Another program that runs at the same time must not meet these.
@@ -19,7 +19,7 @@ std::wstring OwnName(const wchar_t* what) {
 bool IsFreeForOthers(const std::wstring& name) {
     bool isFree = false;
     std::thread([&] {
-        const UniqueKernelHandle mutex(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+        const toolkit::UniqueKernelHandle mutex(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
         isFree = mutex && WaitForSingleObject(mutex.Get(), 0) == WAIT_OBJECT_0;
     }).join();
     return isFree;
@@ -27,14 +27,14 @@ bool IsFreeForOthers(const std::wstring& name) {
 
 TEST(NamedMutex, ExistsAsLongAsTheObjectLives) {
     const std::wstring name = OwnName(L"exists");
-    EXPECT_FALSE(NamedMutex::Exists(name));
+    EXPECT_FALSE(toolkit::NamedMutex::Exists(name));
     {
-        const NamedMutex mutex(name);
+        const toolkit::NamedMutex mutex(name);
         EXPECT_TRUE(mutex.IsHeld());
         EXPECT_EQ(mutex.FailureCode(), 0U);
-        EXPECT_TRUE(NamedMutex::Exists(name));
+        EXPECT_TRUE(toolkit::NamedMutex::Exists(name));
     }
-    EXPECT_FALSE(NamedMutex::Exists(name));
+    EXPECT_FALSE(toolkit::NamedMutex::Exists(name));
 }
 
 TEST(NamedMutex, ExistsWhereItMayNotBeOpened) {
@@ -46,18 +46,18 @@ TEST(NamedMutex, ExistsWhereItMayNotBeOpened) {
     ASSERT_NE(SetSecurityDescriptorDacl(&security, TRUE, &nobody, FALSE), FALSE);
     SECURITY_ATTRIBUTES attributes{sizeof attributes, &security, FALSE};
     const std::wstring name = OwnName(L"denied");
-    const UniqueKernelHandle denied(CreateMutexW(&attributes, FALSE, name.c_str()));
+    const toolkit::UniqueKernelHandle denied(CreateMutexW(&attributes, FALSE, name.c_str()));
     ASSERT_TRUE(denied);
-    const UniqueKernelHandle mine(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()));
+    const toolkit::UniqueKernelHandle mine(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()));
     ASSERT_FALSE(mine);
     ASSERT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
-    EXPECT_TRUE(NamedMutex::Exists(name));
+    EXPECT_TRUE(toolkit::NamedMutex::Exists(name));
 }
 
 TEST(NamedMutex, IsOwnedFromTheStartAndReleasedInTheEnd) {
     const std::wstring name = OwnName(L"owned");
-    std::optional<NamedMutex> mutex(name);
-    const UniqueKernelHandle other(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+    std::optional<toolkit::NamedMutex> mutex(name);
+    const toolkit::UniqueKernelHandle other(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
     ASSERT_TRUE(other);
     EXPECT_FALSE(IsFreeForOthers(name));
     mutex.reset();
@@ -66,13 +66,13 @@ TEST(NamedMutex, IsOwnedFromTheStartAndReleasedInTheEnd) {
 
 TEST(NamedMutex, ANameTakenByAnotherKindOfObjectIsAFailureWithItsCode) {
     const std::wstring name = OwnName(L"event");
-    const UniqueKernelHandle event(CreateEventW(nullptr, FALSE, FALSE, name.c_str()));
+    const toolkit::UniqueKernelHandle event(CreateEventW(nullptr, FALSE, FALSE, name.c_str()));
     ASSERT_TRUE(event);
-    EXPECT_FALSE(NamedMutex::Exists(name));
-    const NamedMutex mutex(name);
+    EXPECT_FALSE(toolkit::NamedMutex::Exists(name));
+    const toolkit::NamedMutex mutex(name);
     EXPECT_FALSE(mutex.IsHeld());
     EXPECT_EQ(mutex.FailureCode(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/row_finder.h"
+#include "toolkit/controls/row_finder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,10 +8,8 @@
 
 #include "tests/toolkit/window/test_dialog.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
 
 // A list whose rows are supplied by the finder's source. Beneath the finder the control sends the questions
 // that a test has put there, as Windows does, instead of those of the system that the test runs on.
@@ -29,7 +27,7 @@ class RowFinderTest : public ::testing::Test {
             result = finder_->Find(reinterpret_cast<const NMLVFINDITEMW&>(header));
             return true;
         };
-        finder_ = std::make_unique<RowFinder>(RowFinder::Rows{
+        finder_ = std::make_unique<toolkit::RowFinder>(toolkit::RowFinder::Rows{
             .count = [] { return kRows.size(); },
             .text = [](std::size_t row) { return std::wstring_view(kRows.at(row)); },
         });
@@ -97,7 +95,7 @@ class RowFinderTest : public ::testing::Test {
 
     TestDialog dialog_;
     HWND list_ = nullptr;
-    std::unique_ptr<RowFinder> finder_;
+    std::unique_ptr<toolkit::RowFinder> finder_;
     std::wstring text_;
     UINT flags_ = 0;
     int start_ = 0;
@@ -170,11 +168,12 @@ TEST_F(RowFinderTest, ControlAndFinderOutliveEachOther) {
     finder_.reset();
     dialog_.onNotify = nullptr;
     EXPECT_EQ(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0), 4);
-    RowFinder other({.count = [] { return std::size_t{0}; }, .text = [](std::size_t) { return L""; }});
+    toolkit::RowFinder other(
+        {.count = [] { return std::size_t{0}; }, .text = [](std::size_t) { return L""; }});
     other.Attach(list_);
     DestroyWindow(list_);
     EXPECT_FALSE(IsWindow(list_));
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,17 +1,17 @@
-#include "toolkit/shell_manager.h"
+#include "toolkit/files/path_pickers.h"
 
 #include <gtest/gtest.h>
 #include <objbase.h>
 
 #include <thread>
 
-#include "toolkit/late_library.h"
+#include "toolkit/system/libraries.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
-const LateLibrary& Com() {
-    static const LateLibrary kLibrary(L"ole32.dll");
+const toolkit::LateLibrary& Com() {
+    static const toolkit::LateLibrary kLibrary(L"ole32.dll");
     return kLibrary;
 }
 
@@ -38,7 +38,7 @@ HWND WindowThatIsGone() {
 TEST(ShellManager, OpensTheApartmentAtItsStartAndClosesItInTheEnd) {
     InThread([] {
         {
-            const ShellManager shell;
+            const toolkit::ShellManager shell;
             EXPECT_EQ(OpenApartment(COINIT_MULTITHREADED), RPC_E_CHANGED_MODE) << "nobody else can open one";
         }
         EXPECT_EQ(OpenApartment(COINIT_MULTITHREADED), S_OK) << "it is closed";
@@ -49,7 +49,7 @@ TEST(ShellManager, OpensTheApartmentAtItsStartAndClosesItInTheEnd) {
 TEST(ShellManager, LeavesAnApartmentOfAnotherKindAlone) {
     InThread([] {
         ASSERT_EQ(OpenApartment(COINIT_MULTITHREADED), S_OK);
-        { const ShellManager shell; }
+        { const toolkit::ShellManager shell; }
         EXPECT_EQ(OpenApartment(COINIT_MULTITHREADED), S_FALSE) << "it is still open";
         CloseApartment();
         CloseApartment();
@@ -58,12 +58,12 @@ TEST(ShellManager, LeavesAnApartmentOfAnotherKindAlone) {
 
 TEST(ShellManager, APickerThatCannotBeShownIsAFailure) {
     InThread([] {
-        ShellManager shell;
-        const PathChoice choice = shell.PickFolder(WindowThatIsGone());
+        toolkit::ShellManager shell;
+        const toolkit::PathChoice choice = shell.PickFolder(WindowThatIsGone());
         EXPECT_EQ(choice.path, std::nullopt);
         ASSERT_TRUE(choice.failure);
         EXPECT_NE(choice.failure->code, 0U);
-        EXPECT_STREQ(choice.failure->operationFormat, kShowFolderPickerOperation);
+        EXPECT_STREQ(choice.failure->operationFormat, toolkit::kShowFolderPickerOperation);
     });
 }
 
@@ -96,30 +96,32 @@ class NoFileOpenDialogs final : public IClassFactory {
 constexpr GUID kFileOpenDialogClass = {
     0xDC1C5A9C, 0xE88A, 0x4DDE, {0xA5, 0xA1, 0x60, 0xF8, 0x2A, 0x20, 0xAE, 0xF7}};
 
-DialogFailure FailureWithoutDialogs(HRESULT reason) {
-    ShellManager shell;
+toolkit::DialogFailure FailureWithoutDialogs(HRESULT reason) {
+    toolkit::ShellManager shell;
     NoFileOpenDialogs factory(reason);
     DWORD registration = 0;
     Com().Find<decltype(&::CoRegisterClassObject)>("CoRegisterClassObject")(
         kFileOpenDialogClass, &factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &registration);
-    const PathChoice choice = shell.PickFolder(nullptr);
+    const toolkit::PathChoice choice = shell.PickFolder(nullptr);
     Com().Find<decltype(&::CoRevokeClassObject)>("CoRevokeClassObject")(registration);
-    return choice.failure.value_or(DialogFailure{"no failure", "", 0});
+    return choice.failure.value_or(toolkit::DialogFailure{"no failure", "", 0});
 }
 
 TEST(ShellManager, AShellWithoutThePickerIsAFailureWithItsCode) {
     InThread([] {
-        EXPECT_EQ(FailureWithoutDialogs(E_NOTIMPL),
-                  (DialogFailure{kShowFolderPickerOperation, "CoCreateInstance", 0x80004001}));
+        EXPECT_EQ(
+            FailureWithoutDialogs(E_NOTIMPL),
+            (toolkit::DialogFailure{toolkit::kShowFolderPickerOperation, "CoCreateInstance", 0x80004001}));
     });
 }
 
 TEST(ShellManager, ACodeOfTheSystemIsToldAsItIs) {
     InThread([] {
         EXPECT_EQ(FailureWithoutDialogs(HRESULT_FROM_WIN32(ERROR_MOD_NOT_FOUND)),
-                  (DialogFailure{kShowFolderPickerOperation, "CoCreateInstance", ERROR_MOD_NOT_FOUND}));
+                  (toolkit::DialogFailure{toolkit::kShowFolderPickerOperation, "CoCreateInstance",
+                                          ERROR_MOD_NOT_FOUND}));
     });
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

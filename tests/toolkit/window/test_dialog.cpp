@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -25,7 +25,7 @@ bool TestDialog::OnInitDialog() {
     if (whenIdle) {
         idleTimer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
     }
-    return onInit ? onInit() : Dialog::OnInitDialog();
+    return onInit ? onInit() : toolkit::Dialog::OnInitDialog();
 }
 
 bool TestDialog::PreTranslateMessage(MSG& message) {
@@ -42,16 +42,16 @@ bool TestDialog::PreTranslateMessage(MSG& message) {
         }
         return true;
     }
-    return (preTranslate && preTranslate(message)) || Dialog::PreTranslateMessage(message);
+    return (preTranslate && preTranslate(message)) || toolkit::Dialog::PreTranslateMessage(message);
 }
 
 bool TestDialog::OnCommand(int controlId, UINT notificationCode) {
     return (onCommand && onCommand(controlId, notificationCode)) ||
-           Dialog::OnCommand(controlId, notificationCode);
+           toolkit::Dialog::OnCommand(controlId, notificationCode);
 }
 
 bool TestDialog::OnNotify(NMHDR& header, LRESULT& result) {
-    return onNotify ? onNotify(header, result) : Dialog::OnNotify(header, result);
+    return onNotify ? onNotify(header, result) : toolkit::Dialog::OnNotify(header, result);
 }
 
 void TestDialog::OnSize(WPARAM kind, int width, int height) {
@@ -67,29 +67,29 @@ void TestDialog::OnMinimumMaximumInfo(MINMAXINFO& info) {
 }
 
 bool TestDialog::OnSystemCommand(WPARAM command) {
-    return onSystemCommand ? onSystemCommand(command) : Dialog::OnSystemCommand(command);
+    return onSystemCommand ? onSystemCommand(command) : toolkit::Dialog::OnSystemCommand(command);
 }
 
 bool TestDialog::OnPaint() {
-    return onPaint ? onPaint() : Dialog::OnPaint();
+    return onPaint ? onPaint() : toolkit::Dialog::OnPaint();
 }
 
 HICON TestDialog::OnQueryDragIcon() {
-    return onQueryDragIcon ? onQueryDragIcon() : Dialog::OnQueryDragIcon();
+    return onQueryDragIcon ? onQueryDragIcon() : toolkit::Dialog::OnQueryDragIcon();
 }
 
 const wchar_t* TestDialog::UnsavedInputReason() {
-    return unsavedInputReason ? unsavedInputReason() : Dialog::UnsavedInputReason();
+    return unsavedInputReason ? unsavedInputReason() : toolkit::Dialog::UnsavedInputReason();
 }
 
 void TestDialog::BlockShutdown(HWND window, const wchar_t* reason) {
     shutdownReasons.emplace_back(window, reason);
-    Dialog::BlockShutdown(window, reason);
+    toolkit::Dialog::BlockShutdown(window, reason);
 }
 
 void TestDialog::UnblockShutdown(HWND window) {
     shutdownReasons.emplace_back(window, L"");
-    Dialog::UnblockShutdown(window);
+    toolkit::Dialog::UnblockShutdown(window);
 }
 
 void TestDialog::OnScaleChanged() {
@@ -98,7 +98,7 @@ void TestDialog::OnScaleChanged() {
     }
 }
 
-void TestDialog::ExchangeFields(DataExchange& exchange) {
+void TestDialog::ExchangeFields(toolkit::DataExchange& exchange) {
     if (exchangeFields) {
         exchangeFields(exchange);
     }
@@ -112,4 +112,4 @@ void TestDialog::ReportException(const std::exception& exception) {
     }
 }
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

@@ -9,30 +9,31 @@
 #include <vector>
 
 #include "tests/toolkit/window/ids.h"
-#include "toolkit/dialog.h"
+#include "toolkit/dialog/dialog.h"
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 /// A dialog that hands every hook on to what a test has put there. A hook that a test leaves empty does what
 /// the base class does.
-class TestDialog : public Dialog {
+class TestDialog : public toolkit::Dialog {
   public:
-    explicit TestDialog(int templateId = IDD_HIDDEN_FORM, HWND owner = nullptr) : Dialog(templateId, owner) {}
+    explicit TestDialog(int templateId = IDD_HIDDEN_FORM, HWND owner = nullptr)
+        : toolkit::Dialog(templateId, owner) {}
     TestDialog(const TestDialog&) = delete;
     TestDialog& operator=(const TestDialog&) = delete;
     TestDialog(TestDialog&&) = delete;
     TestDialog& operator=(TestDialog&&) = delete;
     ~TestDialog() override;
 
-    using Dialog::Control;
-    using Dialog::DotsPerInch;
-    using Dialog::EnableControl;
-    using Dialog::EndModal;
-    using Dialog::FieldsAsShown;
-    using Dialog::HasEnded;
-    using Dialog::PutData;
-    using Dialog::SetControlText;
-    using Dialog::TakeData;
+    using toolkit::Dialog::Control;
+    using toolkit::Dialog::DotsPerInch;
+    using toolkit::Dialog::EnableControl;
+    using toolkit::Dialog::EndModal;
+    using toolkit::Dialog::FieldsAsShown;
+    using toolkit::Dialog::HasEnded;
+    using toolkit::Dialog::PutData;
+    using toolkit::Dialog::SetControlText;
+    using toolkit::Dialog::TakeData;
 
     /// Done once, when the dialog runs and its thread has nothing else left to do.
     std::function<void()> whenIdle;
@@ -50,13 +51,15 @@ class TestDialog : public Dialog {
     std::vector<std::pair<HWND, std::wstring>> shutdownReasons;
     std::function<void()> onScaleChanged;
     std::function<bool(const MSG& message)> preTranslate;
-    std::function<void(DataExchange& exchange)> exchangeFields;
+    std::function<void(toolkit::DataExchange& exchange)> exchangeFields;
     /// Where this is empty, the reports are kept in `reported`.
     std::function<void(const std::exception& exception)> reportException;
     std::vector<std::string> reported;
 
     /// Tells the exception as a dialog does that has no words of its own for it.
-    void ReportAsTheBaseClassDoes(const std::exception& exception) { Dialog::ReportException(exception); }
+    void ReportAsTheBaseClassDoes(const std::exception& exception) {
+        toolkit::Dialog::ReportException(exception);
+    }
 
   protected:
     bool OnInitDialog() override;
@@ -72,7 +75,7 @@ class TestDialog : public Dialog {
     void UnblockShutdown(HWND window) override;
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
-    void ExchangeFields(DataExchange& exchange) override;
+    void ExchangeFields(toolkit::DataExchange& exchange) override;
     void ReportException(const std::exception& exception) override;
 
   private:
@@ -80,4 +83,4 @@ class TestDialog : public Dialog {
     UINT_PTR limitTimer_ = 0;
 };
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

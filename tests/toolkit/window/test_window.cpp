@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 namespace {
 
@@ -59,4 +59,4 @@ LRESULT CALLBACK MessageWatcher::Procedure(HWND window, UINT message, WPARAM wPa
     return DefSubclassProc(window, message, wParam, lParam);
 }
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

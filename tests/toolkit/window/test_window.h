@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-namespace toolkit::testing {
+namespace corvane::test {
 
 /// A visible window of the test's own, such as owns a dialog. It keeps the messages that come through its
 /// procedure, and can do something on WM_APP.
@@ -49,4 +49,4 @@ class MessageWatcher {
     std::function<void(UINT message)> watch_;
 };
 
-}  // namespace toolkit::testing
+}  // namespace corvane::test

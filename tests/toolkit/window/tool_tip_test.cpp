@@ -1,4 +1,4 @@
-#include "toolkit/tool_tip.h"
+#include "toolkit/controls/tool_tip.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +10,8 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::MessageWatcher;
-using testing::TestDialog;
 
 class ToolTipTest : public ::testing::Test {
   protected:
@@ -36,7 +33,7 @@ class ToolTipTest : public ::testing::Test {
     }
 
     TestDialog dialog_;
-    ToolTip toolTip_;
+    toolkit::ToolTip toolTip_;
 };
 
 TEST_F(ToolTipTest, EachToolHasItsText) {
@@ -87,7 +84,7 @@ TEST_F(ToolTipTest, MessagesAreRelayed) {
 
 TEST(ToolTip, ShowsTheToolUnderTheMouseOnlyWhileActive) {
     TestDialog dialog(IDD_FORM);
-    ToolTip toolTip;
+    toolkit::ToolTip toolTip;
     ASSERT_TRUE(dialog.CreateModeless());
     toolTip.Create(dialog.Window());
     toolTip.Add(dialog.Control(IDOK), L"Take it");
@@ -131,10 +128,10 @@ TEST_F(ToolTipTest, DiesWithTheDialog) {
 }
 
 TEST(ToolTip, RelaysNothingBeforeItIsCreated) {
-    const ToolTip toolTip;
+    const toolkit::ToolTip toolTip;
     toolTip.Relay(MSG{});
     EXPECT_EQ(toolTip.Window(), nullptr);
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

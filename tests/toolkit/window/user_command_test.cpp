@@ -1,4 +1,4 @@
-#include "toolkit/user_command.h"
+#include "toolkit/dialog/user_command.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -7,16 +7,16 @@
 
 #include <vector>
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
 
 bool IsCommand(WORD id, WORD code, LPARAM control) {
-    return IsUserCommand(WM_COMMAND, MAKEWPARAM(id, code), control);
+    return toolkit::IsUserCommand(WM_COMMAND, MAKEWPARAM(id, code), control);
 }
 
 bool IsNotificationACommand(UINT code) {
     const NMHDR header = {nullptr, 0, code};
-    return IsUserCommand(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header));
+    return toolkit::IsUserCommand(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header));
 }
 
 TEST(UserCommand, ButtonsMenusAndAcceleratorsAre) {
@@ -61,11 +61,11 @@ TEST(UserCommand, WhatCommonControlsAskForOrTellIsNone) {
 }
 
 TEST(UserCommand, TheSystemMenuAndTheCloseBoxAre) {
-    EXPECT_TRUE(IsUserCommand(WM_SYSCOMMAND, 16, 0));
-    EXPECT_TRUE(IsUserCommand(WM_CLOSE, 0, 0));
+    EXPECT_TRUE(toolkit::IsUserCommand(WM_SYSCOMMAND, 16, 0));
+    EXPECT_TRUE(toolkit::IsUserCommand(WM_CLOSE, 0, 0));
     for (const UINT message :
          std::vector<UINT>{WM_PAINT, WM_SIZE, WM_QUERYENDSESSION, WM_ENDSESSION, WM_TIMER, WM_ENABLE}) {
-        EXPECT_FALSE(IsUserCommand(message, 0, 0)) << "message " << message;
+        EXPECT_FALSE(toolkit::IsUserCommand(message, 0, 0)) << "message " << message;
     }
 }
 
@@ -73,13 +73,13 @@ TEST(UserInput, IsMouseAndKeyboardAndAPostedPress) {
     for (const UINT message :
          std::vector<UINT>{WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_SYSKEYDOWN, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK,
                            WM_RBUTTONUP, WM_MOUSEMOVE, WM_MOUSEWHEEL, WM_NCLBUTTONDOWN, BM_CLICK}) {
-        EXPECT_TRUE(IsUserInput(message)) << "message " << message;
+        EXPECT_TRUE(toolkit::IsUserInput(message)) << "message " << message;
     }
     for (const UINT message : std::vector<UINT>{WM_COMMAND, WM_NOTIFY, WM_TIMER, WM_PAINT, WM_QUIT, WM_NULL,
                                                 WM_APP, LVM_SETHOVERTIME, BM_SETCHECK, WM_CLOSE}) {
-        EXPECT_FALSE(IsUserInput(message)) << "message " << message;
+        EXPECT_FALSE(toolkit::IsUserInput(message)) << "message " << message;
     }
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,4 +1,4 @@
-#include "toolkit/window_placement.h"
+#include "toolkit/dialog/window_geometry.h"
 
 #include <gtest/gtest.h>
 
@@ -7,11 +7,8 @@
 #include "tests/toolkit/window/test_dialog.h"
 #include "tests/toolkit/window/test_window.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::MessageWatcher;
-using testing::TestDialog;
 
 RECT RestoredRectangle(HWND window) {
     WINDOWPLACEMENT placement = {};
@@ -29,7 +26,7 @@ TEST(PlaceHiddenWindow, GivesTheRestoredRectangleAndShowsNothing) {
     TestDialog dialog;
     ASSERT_TRUE(dialog.CreateModeless());
     const RECT wanted = {120, 130, 620, 530};
-    PlaceHiddenWindow(dialog.Window(), wanted, [&dialog] { return dialog.DotsPerInch(); });
+    toolkit::PlaceHiddenWindow(dialog.Window(), wanted, [&dialog] { return dialog.DotsPerInch(); });
     ExpectRectangle(RestoredRectangle(dialog.Window()), wanted);
     EXPECT_FALSE(IsWindowVisible(dialog.Window()));
 }
@@ -48,7 +45,7 @@ TEST(PlaceHiddenWindow, GivesItAgainWhenTheWindowWasScaledOnItsWay) {
         }
     });
     const RECT wanted = {120, 130, 620, 530};
-    PlaceHiddenWindow(dialog.Window(), wanted, [&dialog] { return dialog.DotsPerInch(); });
+    toolkit::PlaceHiddenWindow(dialog.Window(), wanted, [&dialog] { return dialog.DotsPerInch(); });
     ASSERT_EQ(dialog.DotsPerInch(), scaled);
     ExpectRectangle(RestoredRectangle(dialog.Window()), wanted);
 }
@@ -57,7 +54,7 @@ TEST(ShowNeverMaximised, ShowsTheWindowInItsSize) {
     TestDialog dialog;
     ASSERT_TRUE(dialog.CreateModeless());
     const RECT before = RestoredRectangle(dialog.Window());
-    ShowNeverMaximised(dialog.Window());
+    toolkit::ShowNeverMaximised(dialog.Window());
     EXPECT_TRUE(IsWindowVisible(dialog.Window()));
     ExpectRectangle(RestoredRectangle(dialog.Window()), before);
 }
@@ -73,7 +70,7 @@ TEST(ShowNeverMaximised, BringsAWindowBackThatComesUpMaximised) {
             ShowWindow(dialog.Window(), SW_SHOWMAXIMIZED);
         }
     });
-    ShowNeverMaximised(dialog.Window());
+    toolkit::ShowNeverMaximised(dialog.Window());
     EXPECT_FALSE(isFirst);
     EXPECT_FALSE(IsZoomed(dialog.Window()));
     EXPECT_TRUE(IsWindowVisible(dialog.Window()));
@@ -83,4 +80,4 @@ TEST(ShowNeverMaximised, BringsAWindowBackThatComesUpMaximised) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

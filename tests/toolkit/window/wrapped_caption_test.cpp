@@ -1,4 +1,4 @@
-#include "toolkit/wrapped_caption.h"
+#include "toolkit/controls/wrapped_caption.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,8 @@
 
 #include "tests/toolkit/window/test_dialog.h"
 
-namespace toolkit {
+namespace corvane::test {
 namespace {
-
-using testing::TestDialog;
 
 constexpr COLORREF kPaper = RGB(255, 0, 255);
 
@@ -112,7 +110,7 @@ class WrappedCaption : public ::testing::Test {
         SetWindowTextW(button_, caption);
         draw_.hdc = canvas.Context();
         draw_.rc = client_;
-        return DrawWrappedCaption(draw_);
+        return toolkit::DrawWrappedCaption(draw_);
     }
     // The canvas is larger than the button, so that what leaves the button is seen.
     [[nodiscard]] int Width() const { return static_cast<int>(client_.right) + 40; }
@@ -167,16 +165,16 @@ TEST_F(WrappedCaption, HasTheColourOfDisabledTextWhileTheButtonIsDisabled) {
 
 TEST(CaptionColorTest, IsTheOneOfButtonTextWhateverIsDoneToTheButton) {
     for (const int state : {0, CDIS_HOT, CDIS_SELECTED, CDIS_FOCUS, CDIS_DEFAULT}) {
-        EXPECT_EQ(CaptionColor(static_cast<UINT>(state), false), COLOR_BTNTEXT) << "state " << state;
+        EXPECT_EQ(toolkit::CaptionColor(static_cast<UINT>(state), false), COLOR_BTNTEXT) << "state " << state;
     }
-    EXPECT_EQ(CaptionColor(CDIS_DISABLED, false), COLOR_GRAYTEXT);
+    EXPECT_EQ(toolkit::CaptionColor(CDIS_DISABLED, false), COLOR_GRAYTEXT);
 }
 
 TEST(CaptionColorTest, InHighContrastIsThatOfSelectedTextUnderTheMouseAndWhilePressed) {
-    EXPECT_EQ(CaptionColor(CDIS_HOT, true), COLOR_HIGHLIGHTTEXT);
-    EXPECT_EQ(CaptionColor(CDIS_SELECTED | CDIS_FOCUS, true), COLOR_HIGHLIGHTTEXT);
-    EXPECT_EQ(CaptionColor(CDIS_FOCUS | CDIS_DEFAULT, true), COLOR_BTNTEXT);
-    EXPECT_EQ(CaptionColor(CDIS_DISABLED | CDIS_HOT, true), COLOR_GRAYTEXT);
+    EXPECT_EQ(toolkit::CaptionColor(CDIS_HOT, true), COLOR_HIGHLIGHTTEXT);
+    EXPECT_EQ(toolkit::CaptionColor(CDIS_SELECTED | CDIS_FOCUS, true), COLOR_HIGHLIGHTTEXT);
+    EXPECT_EQ(toolkit::CaptionColor(CDIS_FOCUS | CDIS_DEFAULT, true), COLOR_BTNTEXT);
+    EXPECT_EQ(toolkit::CaptionColor(CDIS_DISABLED | CDIS_HOT, true), COLOR_GRAYTEXT);
 }
 
 TEST_F(WrappedCaption, ShowsTheFocusWhereTheUserWantsToSeeIt) {
@@ -222,7 +220,7 @@ TEST(WrappedCaptionOfAButton, IsWhatTheButtonShows) {
         if (header.code != NM_CUSTOMDRAW || header.idFrom != IDC_TALL_BUTTON) {
             return false;
         }
-        result = DrawWrappedCaption(reinterpret_cast<NMCUSTOMDRAW&>(header));
+        result = toolkit::DrawWrappedCaption(reinterpret_cast<NMCUSTOMDRAW&>(header));
         drawings += result == CDRF_SKIPDEFAULT ? 1 : 0;
         return true;
     };
@@ -234,4 +232,4 @@ TEST(WrappedCaptionOfAButton, IsWhatTheButtonShows) {
 }
 
 }  // namespace
-}  // namespace toolkit
+}  // namespace corvane::test

@@ -1,0 +1,139 @@
+#include "app/rule_list/rule_description.h"
+
+#include "toolkit/text/format_text.h"
+
+namespace corvane::app {
+
+namespace {
+
+const wchar_t* SignatureFormatText(std::int32_t isDetached) {
+    return isDetached != 0 ? L"Detached signature" : L"Attached signature";
+}
+
+}  // namespace
+
+std::wstring SignatureFormatsText(const store::Rule& rule) {
+    std::wstring text = SignatureFormatText(rule.inputDetached);
+    text += L"->";
+    text += SignatureFormatText(rule.outputDetached);
+    return text;
+}
+
+std::wstring ArchiveFormatText(const store::Rule& rule) {
+    constexpr std::int32_t kZip = 1;
+    constexpr std::int32_t kGzip = 2;
+    switch (rule.archiveFormat) {
+        case kZip:
+            return L"ZIP archivation";
+        case kGzip:
+            return L"GZIP archivation";
+        default:
+            return {};
+    }
+}
+
+namespace {
+
+constexpr wchar_t kLineBreak[] = L"\r\n";
+constexpr wchar_t kBlankLine[] = L"\r\n\r\n";
+
+std::wstring ResignItem(const store::Rule& rule) {
+    if (rule.resignProfile.empty()) {
+        return {};
+    }
+    return L"Resign to CS profile: " + rule.resignProfile + kLineBreak + SignatureFormatsText(rule) +
+           kBlankLine;
+}
+
+/// A certificate owner under its kind and its number, which counts from 1.
+std::wstring OwnerLines(const wchar_t* kind, std::size_t number, const std::wstring& owner) {
+    return kind + toolkit::FormatText(L" %d:", {static_cast<std::int64_t>(number)}) + kLineBreak + owner;
+}
+
+std::wstring RecipientItems(const store::Rule& rule) {
+    std::wstring text;
+    std::size_t number = 0;
+    for (const std::wstring& recipient : rule.recipients) {
+        text += OwnerLines(L"Recipient", ++number, recipient) + kBlankLine;
+    }
+    return text;
+}
+
+std::wstring SignerGroupItems(const store::Rule& rule) {
+    std::wstring text;
+    for (const store::SignerGroup& group : rule.signerGroups) {
+        text += L"List name: " + group.name;
+        std::size_t number = 0;
+        for (const std::wstring& signer : group.signers) {
+            text += kLineBreak + OwnerLines(L"Signer", ++number, signer);
+        }
+        text += kBlankLine;
+    }
+    return text;
+}
+
+std::wstring ArchiveFormatItem(const store::Rule& rule) {
+    return rule.archiveFormat == 0 ? std::wstring() : ArchiveFormatText(rule) + kBlankLine;
+}
+
+std::wstring TextItem(const wchar_t* label, const std::wstring& value) {
+    return value.empty() ? std::wstring() : std::wstring(label) + L" " + value + kBlankLine;
+}
+
+std::wstring NumberItem(const wchar_t* label, std::int32_t number) {
+    return label + toolkit::FormatText(L" %d", {number}) + kBlankLine;
+}
+
+std::wstring NumberItemUnlessZero(const wchar_t* label, std::int32_t number) {
+    return number == 0 ? std::wstring() : NumberItem(label, number);
+}
+
+std::wstring ExecutionItems(const store::Rule& rule) {
+    std::wstring text = TextItem(L"Executable file:", rule.executable);
+    if (!text.empty() && rule.executionTimeout > 0) {
+        text += NumberItem(L"Execution timeout (min.):", rule.executionTimeout);
+    }
+    return text;
+}
+
+}  // namespace
+
+std::wstring DescribeRule(const store::Rule& rule) {
+    std::wstring text;
+    if (rule.secondOutput.empty()) {
+        text = ResignItem(rule) + RecipientItems(rule) + SignerGroupItems(rule) + ArchiveFormatItem(rule);
+    } else {
+        // Deliberate: a second output folder takes the place of all items before it, and a blank stands
+        // before its colon. Users know the description of moving rules so.
+        text = L"Second Output folder : " + rule.secondOutput + kBlankLine;
+    }
+    text += TextItem(L"Delete extension:", rule.deleteExtension);
+    text += TextItem(L"Add extension:", rule.addExtension);
+    text += TextItem(L"Accounting format:", rule.folders);
+    text += TextItem(L"Accounting copy format:", rule.copyFolders);
+    text += NumberItemUnlessZero(L"File count:", rule.archiveFileCount);
+    text += NumberItemUnlessZero(L"Archive size (KB.):", rule.archiveSize);
+    text += NumberItemUnlessZero(L"Archivation timeout (min.):", rule.archiveTimeout);
+    text += TextItem(L"Archives name format:", rule.archiveName);
+    text += ExecutionItems(rule);
+    return text;
+}
+
+std::wstring DescribeMasks(const store::Rule& rule) {
+    std::wstring text;
+    for (const std::wstring& mask : rule.masks) {
+        text += kLineBreak + mask;
+    }
+    return text;
+}
+
+std::optional<std::size_t> RulePositionFromNumberCell(const std::wstring& numberCell, std::size_t ruleCount) {
+    const std::int32_t number = toolkit::ParseDecimal(numberCell);
+    if (number < 1) {
+        return std::nullopt;
+    }
+    const std::size_t position = static_cast<std::size_t>(number) - 1;
+    return position < ruleCount ? std::optional(position) : std::nullopt;
+}
+
+}  // namespace corvane::app

@@ -1,0 +1,135 @@
+#include "app/rule_list/rule_list_view.h"
+
+#include <algorithm>
+
+#include "app/rule_list/rule_row.h"
+
+namespace corvane::app {
+
+void RuleListView::Attach(HWND control, int scrollBarWidth) {
+    list_.Attach(control);
+    scrollBarWidth_ = scrollBarWidth;
+    laidOutWidth_ = list_.ClientWidth();
+    const toolkit::ListView::RedrawLock locked(list_);
+    list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
+    columnNames_ = RuleColumnInsertionOrder();
+    const RuleColumnWidths widths = LayOutRuleColumns(laidOutWidth_, scrollBarWidth, true);
+    for (const std::wstring& title : columnNames_) {
+        list_.InsertColumn(0, title, title == columnNames_.back() ? widths.number : widths.other);
+    }
+}
+
+void RuleListView::LayOutColumns(int scrollBarWidth) {
+    scrollBarWidth_ = scrollBarWidth;
+    list_.LayOutColumns([this](int clientWidth) {
+        laidOutWidth_ = clientWidth;
+        const RuleColumnWidths widths = LayOutRuleColumns(clientWidth, scrollBarWidth_, false);
+        for (std::size_t column = 0; column < kRuleColumnCount; ++column) {
+            list_.SetColumnWidth(static_cast<int>(column),
+                                 column == kNumberColumn ? widths.number : widths.other);
+        }
+    });
+}
+
+void RuleListView::FitColumnsToScrollBar() {
+    // Only when one has come or gone: the widths may be the user's own.
+    if (list_.ClientWidth() != laidOutWidth_) {
+        LayOutColumns(scrollBarWidth_);
+    }
+}
+
+void RuleListView::Clear() {
+    DeleteRows();
+    FitColumnsToScrollBar();
+}
+
+void RuleListView::DeleteRows() {
+    profilePosition_.reset();
+    rows_.clear();
+    list_.DeleteAllRows();
+}
+
+void RuleListView::Fill(std::size_t profilePosition, const std::wstring& searchText,
+                        const toolkit::SystemText& text, Keep keep) {
+    const int topRow = list_.TopRow();
+    std::vector<std::size_t> selectedRules;
+    for (const std::size_t row : list_.SelectedRows()) {
+        if (row < rows_.size()) {
+            selectedRules.push_back(rows_[row]);
+        }
+    }
+    {
+        const toolkit::ListView::RedrawLock locked(list_);
+        DeleteRows();
+        profilePosition_ = profilePosition;
+        const std::vector<store::Rule>* const rules = ShownRules();
+        if (rules != nullptr) {
+            rows_ = ListedRules(*rules, searchText, text);
+            InsertRows(*rules);
+        }
+        if (keep == Keep::kScrollAndSelection) {
+            Select(selectedRules);
+        }
+    }
+    // With redrawing on again: as long as it is off, a list neither has the scroll bars of its new rows nor,
+    // on Windows, does it scroll.
+    FitColumnsToScrollBar();
+    if (keep != Keep::kNothing) {
+        list_.ScrollTo(topRow);
+    }
+}
+
+void RuleListView::InsertRows(const std::vector<store::Rule>& rules) {
+    list_.AppendRowsOnRequest(rows_.size());
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        if (rules[rows_[row]].isOn != 0) {
+            list_.SetChecked(static_cast<int>(row), true);
+        }
+    }
+}
+
+void RuleListView::Select(const std::vector<std::size_t>& rulePositions) const {
+    for (const std::size_t rule : rulePositions) {
+        const auto row = std::lower_bound(rows_.begin(), rows_.end(), rule);
+        if (row != rows_.end() && *row == rule) {
+            list_.AddToSelection(static_cast<int>(row - rows_.begin()));
+        }
+    }
+}
+
+bool RuleListView::ShowsEveryRuleOf(std::size_t profilePosition) const {
+    const std::vector<store::Rule>* const rules = ShownRules();
+    return rules != nullptr && profilePosition_ == profilePosition && rows_.size() == rules->size();
+}
+
+const std::vector<store::Rule>* RuleListView::ShownRules() const {
+    return profilePosition_ && *profilePosition_ < state_.profiles.size()
+               ? &state_.profiles[*profilePosition_].rules
+               : nullptr;
+}
+
+std::wstring RuleListView::CellText(std::size_t row, std::size_t column) const {
+    const std::vector<store::Rule>* const rules = ShownRules();
+    if (rules == nullptr || row >= rows_.size() || rows_[row] >= rules->size() ||
+        column >= kRuleColumnCount) {
+        return {};
+    }
+    return RuleCellText((*rules)[rows_[row]], rows_[row], column);
+}
+
+void RuleListView::AnswerDisplayRequest(NMLVDISPINFOW& request) {
+    if ((request.item.mask & LVIF_TEXT) == 0 || request.item.iItem < 0 || request.item.iSubItem < 0) {
+        return;
+    }
+    std::wstring& answer = answers_[nextAnswer_];
+    nextAnswer_ = (nextAnswer_ + 1) % answers_.size();
+    answer = CellText(static_cast<std::size_t>(request.item.iItem),
+                      static_cast<std::size_t>(request.item.iSubItem));
+    request.item.pszText = answer.data();
+}
+
+std::wstring RuleListView::ColumnTitleAt(std::size_t column) const {
+    return ColumnTitle(columnNames_, column);
+}
+
+}  // namespace corvane::app

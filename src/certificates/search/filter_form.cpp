@@ -1,0 +1,35 @@
+#include "certificates/search/filter_form.h"
+
+#include "certificates/search/owner_texts.h"
+#include "reporting/message_styles.h"
+
+namespace corvane::certificates {
+
+store::TextList FilterForm::FieldChoices() {
+    store::TextList choices = OfferedSubjectFields();
+    choices.emplace_back(kEntireNameChoice);
+    return choices;
+}
+
+bool FilterForm::IsOkEnabled(std::wstring_view sampleText) {
+    return sampleText == L"*" || sampleText.find_first_not_of(L" \t*") != std::wstring_view::npos;
+}
+
+bool FilterForm::Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) {
+    if (fieldIndex < 0) {
+        reporter.ShowMessage(dialog, L"Select field for filter", reporting::kRefusalStyle);
+        return false;
+    }
+    sample = TrimBlanks(sample);
+    return true;
+}
+
+std::wstring FilterForm::Pattern(const toolkit::SystemText& systemText) const {
+    const store::TextList fields = OfferedSubjectFields();
+    if (fieldIndex < 0 || static_cast<std::size_t>(fieldIndex) >= fields.size()) {
+        return sample;
+    }
+    return SubjectFieldKey(fields[static_cast<std::size_t>(fieldIndex)], systemText) + L"=" + sample;
+}
+
+}  // namespace corvane::certificates

@@ -1,0 +1,366 @@
+#include "certificates/selection/selection_dialog.h"
+
+#include <array>
+#include <exception>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "certificates/group_file/group_file.h"
+#include "certificates/search/filter_dialog.h"
+#include "certificates/search/owner_texts.h"
+#include "certificates/session/wait_dialog.h"
+#include "reporting/message_styles.h"
+#include "reporting/unsaved_changes.h"
+#include "reporting/warning_box.h"
+#include "res/ids.h"
+#include "toolkit/controls/choice_controls.h"
+#include "toolkit/dialog/data_exchange.h"
+#include "toolkit/files/path_pickers.h"
+#include "toolkit/system/message_presenter.h"
+#include "toolkit/system/wait_cursor.h"
+
+namespace corvane::certificates {
+
+namespace {
+
+struct Caption {
+    int controlId;
+    const wchar_t* text;
+};
+
+constexpr std::array kCaptions = std::to_array<Caption>({
+    {IDC_SELECTION_FROM_STORE_BUTTON, L"From local store"},
+    {IDC_SELECTION_FROM_GROUP_BUTTON, L"From group"},
+    {IDC_SELECTION_FROM_NCS_BUTTON, L"From NCS"},
+    {IDC_SELECTION_SELECT_ALL_BUTTON, L"Select all"},
+    {IDC_SELECTION_CLEAR_BUTTON, L"Clear"},
+    {IDC_SELECTION_DELETE_ALL_BUTTON, L"Delete all"},
+    {IDC_SELECTION_SAVE_BUTTON, L"Save"},
+    {IDC_SELECTION_ADD_BUTTON, L"Add"},
+    {IDC_SELECTION_REMOVE_BUTTON, L"Remove"},
+    {IDC_SELECTION_LIST_NAME_LABEL, L"List name:"},
+    {IDCANCEL, L"Exit"},
+});
+
+toolkit::FileDialogOffer FileDialogOfferFor(const GroupFileOffer& offer) {
+    return {.fileName = {},
+            .folder = offer.folder,
+            .defaultExtension = kGroupFileExtension,
+            .filter = offer.filter,
+            .path = offer.fileName};
+}
+
+}  // namespace
+
+CPreEncryptDlg::CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const Cryptocontext& context,
+                               reporting::ErrorReporter& reporter, toolkit::FileCalls& files)
+    : toolkit::Dialog(IDD_RECIPIENT_SELECTION, owner),
+      form_(form),
+      context_(context),
+      reporter_(reporter),
+      files_(files),
+      foundList_({.count = [&form] { return form.FoundRowCount(); },
+                  .row = [&form](std::size_t row) { return form.FoundRow(row); },
+                  .check = [&form](std::size_t row, bool isChecked) { form.CheckFound(row, isChecked); }}),
+      chosenList_({.count = [&form] { return form.ChosenRowCount(); },
+                   .row = [&form](std::size_t row) { return form.ChosenRow(row); },
+                   .check = [&form](std::size_t row, bool isChecked) { form.CheckChosen(row, isChecked); }}) {
+}
+
+bool CPreEncryptDlg::OnInitDialog() {
+    SetUpControls();
+    foundList_.Attach(Control(IDC_SELECTION_FOUND_LIST), L"Subjects");
+    chosenList_.Attach(Control(IDC_SELECTION_CHOSEN_LIST), L"Recipients");
+    foundList_.Show({}, form_.FoundSortMark());
+    chosenList_.Show({}, form_.ChosenSortMark());
+    chosenList_.Control().Focus();
+    return false;
+}
+
+void CPreEncryptDlg::SetUpControls() {
+    using enum toolkit::GrowthShare;
+    layout_.Remember(
+        Window(), {
+                      {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
+                      {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
+                      {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
+                      {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
+                      {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
+                      {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
+                      {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
+                      {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
+                      {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+                      {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+                  });
+    SetWindowTextW(Window(), form_.Title().c_str());
+    for (const Caption& caption : kCaptions) {
+        SetControlText(caption.controlId, caption.text);
+    }
+    ShowIcons();
+    toolTip_.Create(Window());
+    for (const int button : {IDC_SELECTION_ADD_BUTTON, IDC_SELECTION_REMOVE_BUTTON}) {
+        toolTip_.Add(Control(button), toolkit::WindowText(Control(button)).c_str());
+    }
+    toolTip_.Activate(true);
+    if (form_.IsForSigners()) {
+        ShowWindow(Control(IDC_SELECTION_LIST_NAME_LABEL), SW_SHOW);
+        ShowWindow(Control(IDC_SELECTION_LIST_NAME_EDIT), SW_SHOW);
+        EnableControl(IDC_SELECTION_LIST_NAME_EDIT, true);
+        // What screen readers call the list; its heading is the same in both modes.
+        SetControlText(IDC_SELECTION_CHOSEN_LIST, L"Signers");
+    }
+    const toolkit::ComboBox sortFields(Control(IDC_SELECTION_SORT_COMBO));
+    sortFields.Fill(OfferedSubjectFields());
+    sortFields.Select(0);
+    EnableControl(IDC_SELECTION_FROM_NCS_BUTTON, form_.IsNetworkStoreAvailable());
+    PutData();
+}
+
+void CPreEncryptDlg::ShowIcons() {
+    toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
+    buttonIcons_.Show(Window(), DotsPerInch(), IDC_SELECTION_ADD_BUTTON, IDI_ADD_TO_CHOSEN);
+    buttonIcons_.Show(Window(), DotsPerInch(), IDC_SELECTION_REMOVE_BUTTON, IDI_REMOVE_FROM_CHOSEN);
+}
+
+bool CPreEncryptDlg::OnCommand(int controlId, UINT notificationCode) {
+    if (controlId == IDC_SELECTION_FILTER_EDIT && notificationCode == EN_CHANGE) {
+        ChangeFound([this] { form_.SetFilter(toolkit::WindowText(Control(IDC_SELECTION_FILTER_EDIT))); });
+        return true;
+    }
+    if (controlId == IDC_SELECTION_SORT_COMBO && notificationCode == CBN_SELCHANGE) {
+        const int field = toolkit::ComboBox(Control(IDC_SELECTION_SORT_COMBO)).Selected();
+        if (field >= 0) {
+            ChangeFound([this, field] { form_.SetSortField(static_cast<std::size_t>(field)); });
+        }
+        return true;
+    }
+    return (notificationCode == BN_CLICKED && Press(controlId)) ||
+           toolkit::Dialog::OnCommand(controlId, notificationCode);
+}
+
+bool CPreEncryptDlg::Press(int buttonId) {
+    switch (buttonId) {
+        case IDC_SELECTION_FROM_STORE_BUTTON:
+            SearchLocalStore();
+            return true;
+        case IDC_SELECTION_FROM_NCS_BUTTON:
+            SearchNetworkStore();
+            return true;
+        case IDC_SELECTION_FROM_GROUP_BUTTON:
+            OpenGroup();
+            return true;
+        case IDC_SELECTION_SAVE_BUTTON:
+            SaveGroup();
+            return true;
+        case IDC_SELECTION_SELECT_ALL_BUTTON:
+        case IDC_SELECTION_CLEAR_BUTTON:
+            ChangeFound(
+                [this, buttonId] { form_.CheckAllFound(buttonId == IDC_SELECTION_SELECT_ALL_BUTTON); });
+            return true;
+        case IDC_SELECTION_DELETE_ALL_BUTTON:
+            ChangeFound([this] { form_.DeleteAllFound(reporter_, Window()); });
+            return true;
+        case IDC_SELECTION_ADD_BUTTON:
+            AddChecked();
+            return true;
+        case IDC_SELECTION_REMOVE_BUTTON:
+            ChangeChosen([this] { form_.RemoveChecked(); });
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool CPreEncryptDlg::OnNotify(NMHDR& header, LRESULT& result) {
+    if (header.hwndFrom == foundList_.Control().Window()) {
+        return foundList_.Answer(header, result) || OnFoundNotification(header);
+    }
+    return header.hwndFrom == chosenList_.Control().Window() &&
+           (chosenList_.Answer(header, result) || OnChosenNotification(header));
+}
+
+bool CPreEncryptDlg::OnFoundNotification(const NMHDR& header) {
+    switch (header.code) {
+        case LVN_COLUMNCLICK:
+            ChangeFound([this] { form_.ClickFoundHeader(); });
+            return true;
+        case NM_DBLCLK:
+            if (const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem; row >= 0) {
+                ShowDetails(form_.FoundDetails(static_cast<std::size_t>(row)));
+            }
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool CPreEncryptDlg::OnChosenNotification(const NMHDR& header) {
+    switch (header.code) {
+        case LVN_COLUMNCLICK:
+            ChangeChosen([this] { form_.ClickChosenHeader(); });
+            return true;
+        case NM_DBLCLK:
+            if (const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem; row >= 0) {
+                ShowDetails(form_.ChosenDetails(static_cast<std::size_t>(row)));
+            }
+            return true;
+        default:
+            return false;
+    }
+}
+
+void CPreEncryptDlg::ChangeFound(const std::function<void()>& change) {
+    const OwnerListView::Place place = foundList_.CurrentPlace();
+    change();
+    foundList_.Show(place, form_.FoundSortMark());
+}
+
+void CPreEncryptDlg::ChangeChosen(const std::function<void()>& change) {
+    const OwnerListView::Place place = chosenList_.CurrentPlace();
+    change();
+    chosenList_.Show(place, form_.ChosenSortMark());
+}
+
+void CPreEncryptDlg::SearchLocalStore() {
+    ChangeFound([this] {
+        const toolkit::WaitCursor waiting;
+        form_.SearchLocalStore(context_, reporter_, Window());
+    });
+}
+
+void CPreEncryptDlg::SearchNetworkStore() {
+    CFilterDlg filter(Window(), reporter_);
+    if (filter.RunModal() != IDOK) {
+        return;
+    }
+    ChangeFound([this, &filter] {
+        const toolkit::WaitCursor waiting;
+        form_.SearchNetworkStore(filter.Form().Pattern(reporter_.Text()), context_, reporter_, Window());
+    });
+}
+
+void CPreEncryptDlg::OpenGroup() {
+    const std::optional<std::wstring> path = reporting::PathOrReport(
+        toolkit::AskWhatToOpen(Window(), FileDialogOfferFor(OfferToOpenGroup(form_))), reporter_, Window());
+    if (path) {
+        ChangeFound([this, &path] { LoadGroupFile(form_, *path, files_, reporter_, Window()); });
+    }
+}
+
+void CPreEncryptDlg::SaveGroup() {
+    if (!MaySaveGroup(form_, reporter_, Window())) {
+        FocusControl(IDC_SELECTION_FOUND_LIST);
+        return;
+    }
+    const std::optional<std::wstring> path = reporting::PathOrReport(
+        toolkit::AskWhereToSave(Window(), FileDialogOfferFor(OfferToSaveGroup(form_))), reporter_, Window());
+    if (path) {
+        SaveGroupFile(form_, *path, files_, reporter_, Window());
+    }
+}
+
+void CPreEncryptDlg::AddChecked() {
+    std::wstring warning;
+    ChangeChosen([this, &warning] { warning = form_.AddChecked(); });
+    if (!warning.empty()) {
+        reporting::WarningBox box(Window(), false);
+        box.text = std::move(warning);
+        box.RunModal();
+    }
+}
+
+void CPreEncryptDlg::ShowDetails(const OwnerBox& box) {
+    toolkit::WindowsMessagePresenter().Show(Window(), box.text, box.title, reporting::kInformationStyle);
+}
+
+void CPreEncryptDlg::OnOk() {
+    TakeData();
+    const toolkit::WaitCursor waiting;
+    switch (form_.Confirm(context_, reporter_, Window())) {
+        case SelectionOutcome::kAccepted:
+            EndModal(IDOK);
+            break;
+        case SelectionOutcome::kBadListName:
+            FocusControl(IDC_SELECTION_LIST_NAME_EDIT);
+            break;
+        case SelectionOutcome::kNobodyChosen:
+            // Whoever is checked here can be added.
+            FocusControl(IDC_SELECTION_FOUND_LIST);
+            break;
+        case SelectionOutcome::kBadOwner:
+            FocusControl(IDC_SELECTION_CHOSEN_LIST);
+            break;
+        case SelectionOutcome::kFailed:
+            break;
+    }
+}
+
+const wchar_t* CPreEncryptDlg::UnsavedInputReason() {
+    return reporting::ReasonAgainstEnd(form_.IsChanged(FieldsAsShown(form_.listName)));
+}
+
+void CPreEncryptDlg::OnSize(WPARAM kind, int width, int height) {
+    if (kind == SIZE_MINIMIZED) {
+        return;
+    }
+    layout_.Arrange(width, height);
+    FitColumns();
+    InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void CPreEncryptDlg::FitColumns() const {
+    foundList_.FitColumn();
+    chosenList_.FitColumn();
+}
+
+void CPreEncryptDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
+    layout_.LimitSize(info);
+}
+
+void CPreEncryptDlg::OnScaleChanged() {
+    layout_.Rescale(TemplateClientSize());
+    foundList_.Rescale();
+    chosenList_.Rescale();
+    ShowIcons();
+}
+
+bool CPreEncryptDlg::PreTranslateMessage(MSG& message) {
+    toolTip_.Relay(message);
+    return toolkit::Dialog::PreTranslateMessage(message);
+}
+
+void CPreEncryptDlg::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_SELECTION_LIST_NAME_EDIT, form_.listName);
+}
+
+void CPreEncryptDlg::ReportException(const std::exception& exception) {
+    reporter_.ShowMessage(Window(), exception.what(), reporting::kErrorStyle);
+}
+
+SelectionRun ShowSelectionDialog(toolkit::WindowHandle owner, reporting::ErrorReporter& reporter,
+                                 toolkit::FileCalls& files) {
+    return [owner, &reporter, &files](RecipientSelectionForm& form, const Cryptocontext& context) {
+        return CPreEncryptDlg(owner, form, context, reporter, files).RunModal() == IDOK;
+    };
+}
+
+std::optional<ChosenRecipients> EditRecipients(toolkit::WindowHandle owner, const store::Profile& profile,
+                                               std::size_t csProfileIndex, const store::TextList& recipients,
+                                               const CertServices& services, toolkit::FileCalls& files) {
+    AwaitWindow waitWindow;
+    return ChooseRecipients({.owner = owner,
+                             .profile = profile,
+                             .csProfileIndex = csProfileIndex,
+                             .waitWindow = waitWindow,
+                             .services = services},
+                            recipients, ShowSelectionDialog(owner, services.reporter, files));
+}
+
+}  // namespace corvane::certificates

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+
+#include "certificates/selection/owner_list_view.h"
+#include "certificates/selection/recipient_selection.h"
+#include "certificates/selection/selection_form.h"
+#include "certificates/session/cert_services.h"
+#include "certificates/session/cryptocontext.h"
+#include "reporting/error_reporter.h"
+#include "store/records.h"
+#include "toolkit/controls/button_icons.h"
+#include "toolkit/controls/tool_tip.h"
+#include "toolkit/dialog/anchored_layout.h"
+#include "toolkit/dialog/dialog.h"
+#include "toolkit/files/file_calls.h"
+#include "toolkit/system/icon.h"
+#include "toolkit/system/window_handle.h"
+
+namespace corvane::certificates {
+
+/// The choice of recipients or signers: above the certificate owners that were found, below those chosen.
+class CPreEncryptDlg final : public toolkit::Dialog {
+  public:
+    /// Works on `form` and searches in `context`; both, and the services, must outlive the dialog. After a
+    /// run that ended with OK the form holds the result.
+    CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const Cryptocontext& context,
+                   reporting::ErrorReporter& reporter, toolkit::FileCalls& files);
+
+  protected:
+    bool OnInitDialog() override;
+    bool OnCommand(int controlId, UINT notificationCode) override;
+    bool OnNotify(NMHDR& header, LRESULT& result) override;
+    void OnOk() override;
+    const wchar_t* UnsavedInputReason() override;
+    void OnSize(WPARAM kind, int width, int height) override;
+    void OnMinimumMaximumInfo(MINMAXINFO& info) override;
+    void OnScaleChanged() override;
+    bool PreTranslateMessage(MSG& message) override;
+    void ExchangeFields(toolkit::DataExchange& exchange) override;
+    void ReportException(const std::exception& exception) override;
+
+  private:
+    void SetUpControls();
+    void FitColumns() const;
+    void ShowIcons();
+    bool Press(int buttonId);
+    bool OnFoundNotification(const NMHDR& header);
+    bool OnChosenNotification(const NMHDR& header);
+
+    /// Makes a change of the form, then shows what a list holds now.
+    void ChangeFound(const std::function<void()>& change);
+    void ChangeChosen(const std::function<void()>& change);
+
+    void SearchLocalStore();
+    void SearchNetworkStore();
+    void OpenGroup();
+    void SaveGroup();
+    void AddChecked();
+    void ShowDetails(const OwnerBox& box);
+
+    RecipientSelectionForm& form_;
+    const Cryptocontext& context_;
+    reporting::ErrorReporter& reporter_;
+    toolkit::FileCalls& files_;
+    OwnerListView foundList_;
+    OwnerListView chosenList_;
+    toolkit::AnchoredLayout layout_;
+    toolkit::ToolTip toolTip_;
+    toolkit::ButtonIcons buttonIcons_;
+    toolkit::UniqueIcon largeIcon_;
+    toolkit::UniqueIcon smallIcon_;
+};
+
+/// The run that shows CPreEncryptDlg, owned by `owner`, on the form that it is given. `reporter` and `files`
+/// must outlive it.
+[[nodiscard]] SelectionRun ShowSelectionDialog(toolkit::WindowHandle owner,
+                                               reporting::ErrorReporter& reporter, toolkit::FileCalls& files);
+
+/// Lets the user choose the recipients of a rule under CS profile `csProfileIndex` of `profile`, beginning
+/// with `recipients`. None when the user cancels or no cryptocontext can be opened, which has been shown. A
+/// failure to close the cryptocontext is reported, owned by `owner`, when the result dies.
+[[nodiscard]] std::optional<ChosenRecipients> EditRecipients(
+    toolkit::WindowHandle owner, const store::Profile& profile, std::size_t csProfileIndex,
+    const store::TextList& recipients, const CertServices& services, toolkit::FileCalls& files);
+
+}  // namespace corvane::certificates

@@ -1,0 +1,176 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "certificates/search/owner_texts.h"
+#include "certificates/session/cryptocontext.h"
+#include "reporting/error_reporter.h"
+#include "store/records.h"
+#include "toolkit/system/window_handle.h"
+
+namespace corvane::certificates {
+
+/// What the selection dialog starts with.
+struct SelectionStart {
+    store::TextList chosen;  ///< The caller's owners so far.
+    std::vector<store::SignerGroup>
+        existingLists;  ///< Of a signer list: the lists of the rule, itself included.
+    std::wstring listName;
+    std::wstring previousListName;  ///< The name of the list that is edited; empty for a new one.
+    bool isNetworkStoreAvailable = false;
+};
+
+/// An owner as a list of the dialog shows it.
+struct OwnerRow {
+    std::wstring_view owner;  ///< Good until the form changes.
+    bool isChecked = false;
+
+    bool operator==(const OwnerRow&) const = default;
+};
+
+/// What came of OK.
+enum class SelectionOutcome {
+    kAccepted,      ///< The dialog may end.
+    kBadListName,   ///< The name of the list is to be mended.
+    kNobodyChosen,  ///< Somebody has to be chosen.
+    kBadOwner,      ///< One of those chosen has no certificate.
+    kFailed,        ///< A search failed.
+};
+
+/// The mark of a list's sort direction in its column header.
+enum class SortMark { kNone, kUp, kDown };
+
+/// The text of a double clicked row, for the system's information box.
+struct OwnerBox {
+    std::wstring title;
+    std::wstring text;
+
+    bool operator==(const OwnerBox&) const = default;
+};
+
+/// What the selection of recipients or signers shows and decides: the upper list with the owners that were
+/// found, the lower one with those chosen. The dialog shows the rows, tells the form what the user did and
+/// shows the rows again. Rows are addressed by their position in the list as it is shown; a position that is
+/// not there changes nothing.
+///
+/// Checks belong to owners and outlast refilling, sorting and filtering; an owner that the filter hides comes
+/// back as it was, but counts as unchecked while it is hidden.
+class RecipientSelectionForm {
+  public:
+    /// `settings` and `systemText` must outlive the form. The settings say whether signers or recipients are
+    /// chosen.
+    RecipientSelectionForm(const CertSearchSettings& settings, SelectionStart start,
+                           const toolkit::SystemText& systemText);
+
+    // What the dialog shows.
+    [[nodiscard]] bool IsForSigners() const { return settings_.signerMode != 0; }
+    [[nodiscard]] std::wstring Title() const;
+    [[nodiscard]] bool IsNetworkStoreAvailable() const { return isNetworkStoreAvailable_; }
+    [[nodiscard]] std::size_t FoundRowCount() const { return foundRows_.size(); }
+    [[nodiscard]] OwnerRow FoundRow(std::size_t position) const;
+    [[nodiscard]] std::size_t ChosenRowCount() const { return chosenRows_.size(); }
+    [[nodiscard]] OwnerRow ChosenRow(std::size_t position) const;
+    [[nodiscard]] SortMark FoundSortMark() const { return foundSort_.Mark(); }
+    [[nodiscard]] SortMark ChosenSortMark() const { return chosenSort_.Mark(); }
+
+    // What the user does with the upper list.
+    void CheckFound(std::size_t position, bool isChecked);
+    /// "Select all" and "Clear": the owners that are shown.
+    void CheckAllFound(bool isChecked);
+    /// Puts owners that are not yet there at the end, and fills the upper list again.
+    void AddFound(const store::TextList& owners);
+    /// "From local store". False after a failure, which has been reported and changed nothing.
+    bool SearchLocalStore(const Cryptocontext& context, reporting::ErrorReporter& reporter,
+                          toolkit::WindowHandle dialog);
+    /// "From NCS", with the pattern of the filter dialog. Says so when nothing was found.
+    bool SearchNetworkStore(const std::wstring& pattern, const Cryptocontext& context,
+                            reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+    /// "Delete all": asks first. Returns whether the upper list was emptied.
+    bool DeleteAllFound(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+    /// The filter keeps owners that contain its text, whatever the letter case.
+    void SetFilter(std::wstring_view text);
+    /// The user chose the attribute to sort by, an index of OfferedSubjectFields.
+    void SetSortField(std::size_t fieldIndex);
+    void ClickFoundHeader();
+    [[nodiscard]] OwnerBox FoundDetails(std::size_t position) const;
+    [[nodiscard]] store::TextList CheckedFoundOwners() const;
+
+    // What the user does with the lower list.
+    void CheckChosen(std::size_t position, bool isChecked);
+    /// The arrow down: adds the checked upper owners. Returns the text of a warning, empty for none: signers
+    /// of other lists have been excluded, because a signer belongs to one list only.
+    [[nodiscard]] std::wstring AddChecked();
+    /// The arrow up: removes the checked lower owners; the others stay in the order shown.
+    void RemoveChecked();
+    void ClickChosenHeader();
+    [[nodiscard]] OwnerBox ChosenDetails(std::size_t position) const;
+
+    /// The user pressed OK. Looks for a certificate of every owner of the lower list, in the order shown.
+    /// Where it is accepted, Result holds the owners kept. What was refused, reported or asked has been
+    /// shown, owned by `dialog`.
+    [[nodiscard]] SelectionOutcome Confirm(const Cryptocontext& context, reporting::ErrorReporter& reporter,
+                                           toolkit::WindowHandle dialog);
+    [[nodiscard]] const store::TextList& Result() const { return result_; }
+
+    /// Tells whether OK would keep other owners, another order of them or, by the name field as it stands,
+    /// another name than the caller has.
+    [[nodiscard]] bool IsChanged(const std::wstring& shownListName) const;
+
+    std::wstring listName;       ///< The text of the list name field.
+    std::wstring lastGroupPath;  ///< The group file last chosen here; empty for none.
+    [[nodiscard]] const CertSearchSettings& Settings() const { return settings_; }
+
+  private:
+    struct FoundOwner {
+        std::wstring text;
+        std::wstring upperText;  ///< What the filter is compared with, so that typing need not convert.
+        bool isChecked = false;
+    };
+    struct ChosenOwner {
+        std::wstring text;
+        bool isChecked = false;
+    };
+    // The sort direction of a list and whether the list still stands in that order: rows come in the order of
+    // their owners again when it is filled.
+    struct ListSort {
+        SortDirection direction = SortDirection::kAscending;
+        bool wasSorted = false;
+        bool isSorted = false;
+
+        [[nodiscard]] SortMark Mark() const;
+        /// The direction in which a click on the header sorts.
+        [[nodiscard]] SortDirection Next() const;
+    };
+
+    [[nodiscard]] store::TextList ChosenAsShown() const;
+    void FillFound();
+    void FillChosen();
+    void SortFound(SortDirection direction);
+    void SortChosen(SortDirection direction);
+    [[nodiscard]] std::wstring ExcludeSignersOfOtherLists();
+    [[nodiscard]] bool IsListNameAccepted(reporting::ErrorReporter& reporter,
+                                          toolkit::WindowHandle dialog) const;
+
+    const CertSearchSettings& settings_;
+    const toolkit::SystemText& systemText_;
+    std::vector<store::SignerGroup> existingLists_;
+    std::wstring previousListName_;
+    bool isNetworkStoreAvailable_;
+    std::vector<std::wstring> sortKeys_;  ///< The attributes that can be sorted by.
+    std::size_t sortField_ = 0;
+    std::wstring upperFilter_;
+    std::vector<FoundOwner> found_;
+    std::vector<std::size_t> foundRows_;  ///< Indices of found_, as shown.
+    ListSort foundSort_;
+    std::vector<ChosenOwner> chosen_;
+    std::vector<std::size_t> chosenRows_;  ///< Indices of chosen_, as shown.
+    ListSort chosenSort_;
+    store::TextList openedChosen_;
+    std::wstring openedListName_;
+    store::TextList result_;
+};
+
+}  // namespace corvane::certificates

@@ -1,0 +1,16 @@
+#include "certificates/session/warning_presenter.h"
+
+#include "reporting/warning_box.h"
+
+namespace corvane::certificates {
+
+void WarningBoxPresenter::Show(toolkit::WindowHandle owner, const std::wstring& text,
+                               const std::wstring& title, WarningMode mode) {
+    reporting::WarningBox box(owner, mode == WarningMode::kError);
+    box.text = text;
+    box.title = title;
+    box.isInfoMode = mode == WarningMode::kInformation;
+    box.RunModal();
+}
+
+}  // namespace corvane::certificates

@@ -1,0 +1,238 @@
+#include "certificates/signer_lists/signer_lists_dialog.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "certificates/selection/recipient_selection.h"
+#include "certificates/selection/selection_dialog.h"
+#include "certificates/session/wait_dialog.h"
+#include "certificates/signer_lists/signer_list_view.h"
+#include "certificates/signer_lists/signer_lists_form.h"
+#include "reporting/unsaved_changes.h"
+#include "res/ids.h"
+#include "toolkit/dialog/anchored_layout.h"
+#include "toolkit/dialog/dialog.h"
+#include "toolkit/system/icon.h"
+
+namespace corvane::certificates {
+
+namespace {
+
+class SignerList final : public toolkit::Dialog {
+  public:
+    SignerList(HWND owner, const store::Profile& profile, std::size_t csProfileIndex,
+               const std::vector<store::SignerGroup>& lists, const CertServices& services,
+               toolkit::FileCalls& files)
+        : toolkit::Dialog(IDD_SIGNER_LISTS, owner),
+          profile_(profile),
+          csProfileIndex_(csProfileIndex),
+          services_(services),
+          files_(files),
+          form_(lists) {}
+
+    [[nodiscard]] const std::vector<store::SignerGroup>& Lists() const { return form_.Lists(); }
+
+  protected:
+    bool OnInitDialog() override;
+    bool OnCommand(int controlId, UINT notificationCode) override;
+    bool OnNotify(NMHDR& header, LRESULT& result) override;
+    const wchar_t* UnsavedInputReason() override;
+    void OnSize(WPARAM kind, int width, int height) override;
+    void OnMinimumMaximumInfo(MINMAXINFO& info) override;
+    void OnScaleChanged() override;
+
+  private:
+    void SetUpLayout();
+    void ShowIcons();
+    void LayOutColumns() const;
+    void ShowWhatCanBeDone() const;
+
+    [[nodiscard]] SelectionPlace Place();
+    void Add();
+    void EditSelected();
+    void DeleteSelected();
+    void Describe(int row) const;
+
+    const store::Profile& profile_;
+    std::size_t csProfileIndex_;
+    const CertServices& services_;
+    toolkit::FileCalls& files_;
+    AwaitWindow waitWindow_;
+    SignerListsForm form_;
+    std::vector<store::SignerGroup> opened_{form_.Lists()};
+    SignerListView list_{form_};
+    toolkit::UniqueIcon largeIcon_;
+    toolkit::UniqueIcon smallIcon_;
+    toolkit::AnchoredLayout layout_;
+};
+
+bool SignerList::OnInitDialog() {
+    SetUpLayout();
+    ShowIcons();
+    SetWindowTextW(Window(), kSignerListsTitle);
+    list_.Attach(Control(IDC_SIGNER_LISTS_LIST));
+    LayOutColumns();
+    list_.Update();
+    list_.Control().MarkFocus(0);
+    ShowWhatCanBeDone();
+    list_.Control().Focus();
+    return false;
+}
+
+void SignerList::SetUpLayout() {
+    using enum toolkit::GrowthShare;
+    layout_.Remember(Window(), {
+                                   {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
+                                   {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
+                                   {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
+                                   {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
+                                   {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+                                   {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+                               });
+}
+
+void SignerList::ShowIcons() {
+    toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
+}
+
+void SignerList::LayOutColumns() const {
+    list_.LayOutColumns(DotsPerInch());
+}
+
+void SignerList::ShowWhatCanBeDone() const {
+    const bool hasSelection = list_.Control().FirstSelectedRow() >= 0;
+    const HWND focus = GetFocus();
+    for (const int button : {IDC_SIGNER_LISTS_EDIT_BUTTON, IDC_SIGNER_LISTS_DELETE_BUTTON}) {
+        if (!hasSelection && focus == Control(button)) {
+            // A disabled button would keep the focus and take every key to nowhere.
+            list_.Control().Focus();
+        }
+        EnableControl(button, hasSelection);
+    }
+}
+
+bool SignerList::OnCommand(int controlId, UINT notificationCode) {
+    if (notificationCode != BN_CLICKED) {
+        return false;
+    }
+    switch (controlId) {
+        case IDC_SIGNER_LISTS_ADD_BUTTON:
+            Add();
+            return true;
+        case IDC_SIGNER_LISTS_EDIT_BUTTON:
+            EditSelected();
+            return true;
+        case IDC_SIGNER_LISTS_DELETE_BUTTON:
+            DeleteSelected();
+            return true;
+        default:
+            return toolkit::Dialog::OnCommand(controlId, notificationCode);
+    }
+}
+
+bool SignerList::OnNotify(NMHDR& header, LRESULT& /*result*/) {
+    if (header.hwndFrom != list_.Control().Window()) {
+        return false;
+    }
+    switch (header.code) {
+        case LVN_GETDISPINFOW:
+            list_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
+            return true;
+        case LVN_ITEMCHANGED:
+            ShowWhatCanBeDone();
+            return true;
+        case NM_DBLCLK:
+            EditSelected();
+            return true;
+        case NM_RCLICK:
+            Describe(reinterpret_cast<const NMITEMACTIVATE&>(header).iItem);
+            return true;
+        case LVN_KEYDOWN:
+            if (reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey == VK_DELETE) {
+                DeleteSelected();
+            }
+            return true;
+        default:
+            return false;
+    }
+}
+
+SelectionPlace SignerList::Place() {
+    return {.owner = Window(),
+            .profile = profile_,
+            .csProfileIndex = csProfileIndex_,
+            .waitWindow = waitWindow_,
+            .services = services_};
+}
+
+void SignerList::Add() {
+    if (const auto session =
+            AddSignerList(form_, Place(), ShowSelectionDialog(Window(), services_.reporter, files_))) {
+        list_.Update();
+        list_.Control().ScrollIntoView(list_.Control().RowCount() - 1);
+    }
+}
+
+void SignerList::EditSelected() {
+    const int row = list_.Control().FirstSelectedRow();
+    if (row < 0) {
+        return;
+    }
+    if (const auto session = EditSignerList(form_, static_cast<std::size_t>(row), Place(),
+                                            ShowSelectionDialog(Window(), services_.reporter, files_))) {
+        list_.Update();
+    }
+}
+
+void SignerList::DeleteSelected() {
+    const std::vector<std::size_t> rows = list_.Control().SelectedRows();
+    if (form_.Delete(rows, services_.reporter, Window())) {
+        list_.Delete(rows);
+        ShowWhatCanBeDone();
+    }
+}
+
+void SignerList::Describe(int row) const {
+    if (row >= 0) {
+        services_.warnings.Show(Window(), form_.Describe(static_cast<std::size_t>(row)), kSignerListTitle,
+                                WarningMode::kInformation);
+    }
+}
+
+const wchar_t* SignerList::UnsavedInputReason() {
+    return reporting::ReasonAgainstEnd(form_.Lists() != opened_);
+}
+
+void SignerList::OnSize(WPARAM kind, int width, int height) {
+    if (kind == SIZE_MINIMIZED) {
+        return;
+    }
+    layout_.Arrange(width, height);
+    LayOutColumns();
+    InvalidateRect(Window(), nullptr, TRUE);
+}
+
+void SignerList::OnMinimumMaximumInfo(MINMAXINFO& info) {
+    layout_.LimitSize(info);
+}
+
+void SignerList::OnScaleChanged() {
+    layout_.Rescale(TemplateClientSize());
+    LayOutColumns();
+    ShowIcons();
+}
+
+}  // namespace
+
+std::optional<std::vector<store::SignerGroup>> EditSignerLists(
+    toolkit::WindowHandle owner, const store::Profile& profile, std::size_t csProfileIndex,
+    const std::vector<store::SignerGroup>& lists, const CertServices& services, toolkit::FileCalls& files) {
+    SignerList dialog(owner, profile, csProfileIndex, lists, services, files);
+    if (dialog.RunModal() != IDOK) {
+        return std::nullopt;
+    }
+    return dialog.Lists();
+}
+
+}  // namespace corvane::certificates

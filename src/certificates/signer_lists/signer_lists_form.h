@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "certificates/selection/selection_form.h"
+#include "reporting/error_reporter.h"
+#include "store/records.h"
+#include "toolkit/system/window_handle.h"
+
+namespace corvane::certificates {
+
+inline constexpr wchar_t kSignerListsTitle[] = L"Signer lists";
+/// The title of the box that shows one list.
+inline constexpr wchar_t kSignerListTitle[] = L"Signer list";
+
+/// What the signer lists dialog edits and decides, on a copy of a rule's lists that the caller takes back
+/// after OK. A position that is not there is none.
+class SignerListsForm {
+  public:
+    explicit SignerListsForm(std::vector<store::SignerGroup> lists);
+
+    [[nodiscard]] const std::vector<store::SignerGroup>& Lists() const { return lists_; }
+
+    /// The two cells of a row: the list's name, and its signers, separated by "; ".
+    [[nodiscard]] const std::wstring& NameCell(std::size_t position) const { return lists_[position].name; }
+    [[nodiscard]] std::wstring SignersCell(std::size_t position) const;
+
+    /// What the selection dialog starts with for a new list, and for editing one.
+    [[nodiscard]] SelectionStart StartOfNewList(bool isNetworkStoreAvailable) const;
+    [[nodiscard]] SelectionStart StartOfEditing(std::size_t position, bool isNetworkStoreAvailable) const;
+
+    /// Takes the confirmed list from the selection dialog.
+    void Add(const RecipientSelectionForm& confirmed);
+    void Replace(std::size_t position, const RecipientSelectionForm& confirmed);
+
+    /// Asks whether to delete the lists at these positions and does so. Returns whether lists were deleted.
+    bool Delete(const std::vector<std::size_t>& positions, reporting::ErrorReporter& reporter,
+                toolkit::WindowHandle dialog);
+
+    /// The list in full, for the box that a right click shows, lines broken by CR LF.
+    [[nodiscard]] std::wstring Describe(std::size_t position) const;
+
+  private:
+    std::vector<store::SignerGroup> lists_;
+};
+
+}  // namespace corvane::certificates

@@ -1,0 +1,40 @@
+#include "editors/mask/mask_dialog.h"
+
+#include <utility>
+
+#include "reporting/unsaved_changes.h"
+#include "res/ids.h"
+#include "toolkit/controls/choice_controls.h"
+
+namespace corvane::editors {
+
+AddMask::AddMask(HWND owner, MaskForm form, reporting::ErrorReporter& reporter)
+    : toolkit::Dialog(IDD_MASK, owner), form_(std::move(form)), reporter_(reporter) {}
+
+bool AddMask::OnInitDialog() {
+    SetWindowTextW(Window(), kMaskTitle);
+    SetControlText(IDCANCEL, kMaskExitText);
+    toolkit::ComboBox(Control(IDC_MASK_COMBO)).Fill(form_.suggestions);
+    PutData();
+    openedText_ = FieldsAsShown(form_.text);
+    return true;
+}
+
+void AddMask::OnOk() {
+    TakeData();
+    if (form_.Confirm(reporter_, Window())) {
+        EndModal(IDOK);
+    } else {
+        FocusControl(IDC_MASK_COMBO);
+    }
+}
+
+const wchar_t* AddMask::UnsavedInputReason() {
+    return reporting::ReasonAgainstEnd(FieldsAsShown(form_.text) != openedText_);
+}
+
+void AddMask::ExchangeFields(toolkit::DataExchange& exchange) {
+    exchange.Text(IDC_MASK_COMBO, form_.text);
+}
+
+}  // namespace corvane::editors

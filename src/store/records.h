@@ -1,0 +1,173 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvane::store {
+
+/// What stands for "not set" in stored paths, profile names and lists of texts.
+inline constexpr wchar_t kNotSetText[] = L"0";
+
+using TextList = std::vector<std::wstring>;
+using NumberList = std::vector<std::int32_t>;
+
+/// The smallest log size that loading and the log settings dialog let stand, in KB.
+inline constexpr std::int32_t kSmallestLogFileSize = 400;
+
+/// A rectangle in screen pixels.
+struct WindowRectangle {
+    std::int32_t top = 0;
+    std::int32_t bottom = 0;
+    std::int32_t left = 0;
+    std::int32_t right = 0;
+
+    bool operator==(const WindowRectangle&) const = default;
+};
+
+/// The global settings of the processing client and of this editor. Extensions stand without their point.
+struct AppSettings {
+    WindowRectangle window;  ///< The main window's restored rectangle.
+    std::wstring signedExtension = L"p7s";
+    std::wstring detachedSignatureExtension = L"p7d";
+    std::wstring encryptedExtension = L"p7e";
+    std::wstring base64Extension = L"b64";
+    std::wstring hashExtension = L"hsh";
+    std::wstring verificationExtension = L"vrf";
+    std::wstring zipExtension = L"zip";
+    std::wstring gzipExtension = L"gz";
+    TextList additionalExtensions;
+    std::wstring logPath;
+    std::int32_t logFileSize = 4000;  ///< KB; never below kSmallestLogFileSize after loading.
+
+    bool operator==(const AppSettings&) const = default;
+};
+
+/// A named list of signers, each the text of a subject distinguished name.
+struct SignerGroup {
+    std::wstring name;  ///< Also the name of its registry key.
+    TextList signers;
+
+    bool operator==(const SignerGroup&) const = default;
+};
+
+/// What the client does with the files of one input folder.
+struct Rule {
+    std::wstring csProfile;        ///< "ZCSProfile"
+    std::wstring resignProfile;    ///< "ResignProfile"
+    std::wstring operation;        ///< A code of OperationCode; a rule without one is not saved.
+    std::wstring inputFolder;      ///< "Path In"
+    std::wstring outputFolder;     ///< "Path Out"
+    std::wstring secondOutput;     ///< "Path Out 2"
+    std::wstring errorFolder;      ///< "Path Error"
+    std::wstring legacyMask;       ///< "Mask": only read, never saved or exported.
+    std::wstring description;      ///< "Descryption"
+    std::wstring deleteExtension;  ///< "DelExt"
+    std::wstring addExtension;     ///< "AddExt"
+    std::wstring folders;          ///< "Folders": accounting format
+    std::wstring copyFolders;      ///< "Copyfolders": accounting copy format
+    std::wstring archiveName;      ///< "ArchName"
+    std::wstring executable;       ///< "ExecName"
+    TextList recipients;           ///< "Ext num", "C%d"
+    TextList masks;                ///< "Mask num", "M%d"
+    std::int32_t isOn = 0;
+    std::int32_t inputDetached = 0;   ///< "In format det": 0 attached, else detached
+    std::int32_t outputDetached = 0;  ///< "Out format det"
+    std::vector<SignerGroup> signerGroups;
+    std::int32_t archiveFormat = 0;     ///< "ZipFile": 1 ZIP, 2 GZIP
+    std::int32_t archiveFileCount = 0;  ///< "ArchCount"
+    std::int32_t archiveSize = 0;       ///< "ArchSize", KB
+    std::int32_t archiveTimeout = 0;    ///< "ArchTimeout", minutes
+    std::int32_t executionTimeout = 0;  ///< "ExecTimeout", minutes
+
+    bool operator==(const Rule&) const = default;
+};
+
+/// The settings of one CS profile that a processing profile uses: entry i of the profile's eleven lists.
+struct CsProfile {
+    std::wstring name;                           ///< "ZCSProfile"
+    std::wstring timeStampServer = kNotSetText;  ///< "ServerTSP"
+    std::int32_t autoUseTimeStamp = 0;           ///< "AutoUseTSP"
+    std::int32_t autoVerifyTimeStamp = 0;        ///< "AutoVerifyTSP"
+    std::int32_t noTimeStampIsError = 0;         ///< "NoTSPisError"
+    std::int32_t notAddCertificate = 0;          ///< "NotAddCert"
+    std::int32_t notCopyToLocal = 0;             ///< "NotCopyToLocal"
+    std::int32_t notLoadCrl = 0;                 ///< "NotLoadCrl"
+    std::int32_t crlUpdatePeriod = 1;            ///< "CrlUpdatePeriod", hours
+    std::int32_t notUseDirectory = 1;            ///< "NotUseLDAP"
+    std::int32_t useAuthorityAccess = 0;         ///< "UseAIA"
+
+    bool operator==(const CsProfile&) const = default;
+};
+
+/// One processing profile. Its CS profile settings are eleven parallel lists, as they are stored; entry i of
+/// each belongs to the i-th CS profile. Stored lists may differ in length, so whoever reads entry i uses
+/// CsProfileAt, which tolerates a shorter list.
+struct Profile {
+    std::wstring name;  ///< Also the name of its registry key.
+    std::vector<Rule> rules;
+    TextList timeStampServers;            ///< "ServerTSP"
+    TextList csProfiles;                  ///< "ZCSProfile"
+    NumberList notUseDirectory;           ///< "NotUseLDAP"
+    NumberList notAddCertificate;         ///< "NotAddCert"
+    NumberList notCopyToLocal;            ///< "NotCopyToLocal"
+    NumberList autoVerifyTimeStamp;       ///< "AutoVerifyTSP"
+    NumberList noTimeStampIsError;        ///< "NoTSPisError"
+    NumberList useAuthorityAccess;        ///< "UseAIA"
+    NumberList autoUseTimeStamp;          ///< "AutoUseTSP"
+    NumberList notLoadCrl;                ///< "NotLoadCrl"
+    NumberList crlUpdatePeriods;          ///< "CrlUpdatePeriod", hours
+    std::int32_t handlerTimeout = 15;     ///< "Handler timeout"
+    std::int32_t verifyFile = 0;          ///< "Verify File"
+    std::int32_t verifyXFile = 0;         ///< "Verify x file"
+    std::int32_t verifyDetachedFile = 0;  ///< "Verify det file"
+    std::int32_t verifyResignFile = 0;    ///< "Verify resign file"
+    std::int32_t renameConfFiles = 0;     ///< "Rename conf files"
+
+    bool operator==(const Profile&) const = default;
+};
+
+/// The view of entry `index` of the profile's eleven lists; a list that is too short gives the default.
+[[nodiscard]] CsProfile CsProfileAt(const Profile& profile, std::size_t index);
+
+/// The whole configuration while the editor runs: one instance, owned by the main window.
+struct ConfigurationState {
+    AppSettings settings;
+    TextList csProfileCatalogue;  ///< Display names of the provider's CS profiles; only read.
+    TextList profileNames;        ///< Same order and index as profiles.
+    std::vector<Profile> profiles;
+    std::wstring currentProfileName;
+    bool isDirty = false;
+
+    bool operator==(const ConfigurationState&) const = default;
+};
+
+/// The first profile whose name equals the current profile name, or null.
+[[nodiscard]] Profile* FindCurrentProfile(ConfigurationState& state);
+[[nodiscard]] const Profile* FindCurrentProfile(const ConfigurationState& state);
+
+/// The four-letter codes of the operations, in the order of the operation choice, and their display names,
+/// index for index; one newline after each entry.
+inline constexpr std::wstring_view OperationCode =
+    L"ENCR\nDECR\nHASH\nB64E\nB64D\nSIGN\nCHCK\nCHKX\nMOVE\nDELE\nLENC\nLDEC\nCDSG\nDSIG\nDCHK\nDELS\n"
+    L"RESG\nSGEN\nDCCX\nARCH\nUNAR\nPACK\nUNPK\nEXEC\n";
+inline constexpr std::wstring_view kOperationNames =
+    L"Encrypt\nDecrypt\nHash file\nEncode b64\nDecode b64\nAttached signature\nVerify attached signature\n"
+    L"Verify and delete attached signature\nMove\nDelete\nEncrypt long file\nDecrypt long file\n"
+    L"Create detached signature\nAdd detached signature\nVerify detached signature\n"
+    L"Delete signatures without verification\nResign\nCreate attached signature and encrypt\n"
+    L"Decrypt, verify and delete attached signatures\nArchivate file\nUnarchivate file\nPack files\n"
+    L"Unpack files\nExecute\n";
+
+/// The entries of one of the texts above, without their newlines.
+[[nodiscard]] TextList SplitEntries(std::wstring_view entries);
+
+/// The display name of a code; a text that is no code is given back as it is.
+[[nodiscard]] std::wstring_view OperationDisplayName(std::wstring_view code);
+
+/// True for ARCH and UNAR, whose archive format is never 0 once loaded or imported.
+[[nodiscard]] bool IsArchiveOperation(std::wstring_view code);
+
+}  // namespace corvane::store
