@@ -10,9 +10,9 @@
 namespace driver {
 namespace {
 
-/// Gives the system's code. Under Wine one start in some thousands ends as an internal error, before anything
-/// of the program has run; the next one goes well. Each that is repeated is told, for tests/harness/wine_run
-/// counts them.
+/// Gives the system's code. Under Wine a start may end as an internal error before anything of the program
+/// has run (tests/harness/world.sh tells why); the next one goes well. Each that is repeated is reported, for
+/// tests/harness/wine_run counts them.
 DWORD StartProcess(const std::wstring& file, PROCESS_INFORMATION& process) {
     DWORD code = ERROR_SUCCESS;
     for (int attempt = 1; attempt <= 3; ++attempt) {
@@ -47,9 +47,12 @@ std::wstring InWords(const EXCEPTION_RECORD& record) {
 
 }  // namespace
 
-WatchedProcess::WatchedProcess(const std::wstring& file) {
+WatchedProcess::WatchedProcess(const std::wstring& file) : WatchedProcess(file, StartProcess) {}
+
+WatchedProcess::WatchedProcess(const std::wstring& file, const ProcessStart& start) {
     const UniqueHandle isStarted(CreateEventW(nullptr, TRUE, FALSE, nullptr));
-    watcher_ = std::thread([this, &file, started = isStarted.get()] { StartAndWatch(file, started); });
+    watcher_ = std::thread(
+        [this, &file, &start, started = isStarted.get()] { StartAndWatch(file, start, started); });
     WaitForSingleObject(isStarted.get(), INFINITE);
     if (!process_) {
         watcher_.join();
@@ -85,16 +88,16 @@ std::vector<std::wstring> WatchedProcess::Crashes() const {
     return crashes_;
 }
 
-void WatchedProcess::StartAndWatch(const std::wstring& file, HANDLE isStarted) {
+void WatchedProcess::StartAndWatch(const std::wstring& file, const ProcessStart& start, HANDLE isStarted) {
     PROCESS_INFORMATION process{};
-    startCode_ = StartProcess(file, process);
+    startCode_ = start(file, process);
     const bool isRunning = startCode_ == ERROR_SUCCESS;
     if (isRunning) {
         CloseHandle(process.hThread);
         process_.reset(process.hProcess);
         id_ = process.dwProcessId;
     }
-    // From here on the file's name may be gone.
+    // From here on the file's name and the function may be gone.
     SetEvent(isStarted);
     if (isRunning) {
         Watch();
@@ -104,6 +107,10 @@ void WatchedProcess::StartAndWatch(const std::wstring& file, HANDLE isStarted) {
 void WatchedProcess::Watch() {
     constexpr DWORD kPauseMilliseconds = 10;
     DEBUG_EVENT event{};
+    // A start that failed leaves events of a process of its own, the end of it among them.
+    const auto hasEnded = [&] {
+        return event.dwDebugEventCode == EXIT_PROCESS_DEBUG_EVENT && event.dwProcessId == id_;
+    };
     do {
         if (!WaitForDebugEvent(&event, INFINITE)) {
             // Wine fails here now and then without a reason. The watched program would end with this thread.
@@ -115,7 +122,7 @@ void WatchedProcess::Watch() {
             continue;
         }
         ContinueDebugEvent(event.dwProcessId, event.dwThreadId, Note(event));
-    } while (event.dwDebugEventCode != EXIT_PROCESS_DEBUG_EVENT);
+    } while (!hasEnded());
 }
 
 DWORD WatchedProcess::Note(const DEBUG_EVENT& event) {

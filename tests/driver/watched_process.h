@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -16,12 +17,18 @@ struct HandleCloser {
 };
 using UniqueHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleCloser>;
 
+/// Starts a program file as a process that the calling thread debugs, and no other; its two handles are the
+/// caller's. Gives the system's code.
+using ProcessStart = std::function<DWORD(const std::wstring& file, PROCESS_INFORMATION& process)>;
+
 /// A process that is watched from its first instruction to its last, as a debugger does it: a crash inside a
 /// window procedure may be swallowed by the system, and then nothing but its first chance tells of it.
 class WatchedProcess {
   public:
-    /// Starts a program file. Throws Failure.
+    /// Starts a program file; a start that the system fails by itself is repeated. Throws Failure.
     explicit WatchedProcess(const std::wstring& file);
+    /// The same with a start of the caller's.
+    WatchedProcess(const std::wstring& file, const ProcessStart& start);
     /// Ends the process if it still runs.
     ~WatchedProcess();
     WatchedProcess(const WatchedProcess&) = delete;
@@ -41,7 +48,7 @@ class WatchedProcess {
 
   private:
     /// Only the thread that starts a process hears of what happens in it.
-    void StartAndWatch(const std::wstring& file, HANDLE isStarted);
+    void StartAndWatch(const std::wstring& file, const ProcessStart& start, HANDLE isStarted);
     /// Handles the events of the process until it has ended.
     void Watch();
     /// Tells the system how to go on.
