@@ -12,6 +12,12 @@ buildFolder=$(cd "$harness/../.." && pwd)/build
 # No browser engine, no .NET, no entries in the menus of the user's desktop.
 export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 
+# What Wine is started through, so that nothing lies at an address drawn by lot. The heap of its loader would
+# begin anywhere in a gigabyte, and in one start of some thousands lie where Wine needs a page of its own: then
+# the start fails before anything of the program has run. A container may forbid this; there they stay rare.
+steadyAddresses=(setarch --addr-no-randomize)
+"${steadyAddresses[@]}" true 2>/dev/null || steadyAddresses=()
+
 # wait_until SECONDS COMMAND...: asks again and again until the command succeeds; fails when the time is up.
 wait_until() {
     local deadline=$((SECONDS + $1))
@@ -155,9 +161,10 @@ make_base_prefix() {
     rm -rf "$buildFolder/wine"
     mkdir -p "$buildFolder/wine"
     export WINEPREFIX=$buildFolder/wine/prefix
-    wineboot --init >/dev/null 2>&1
+    "${steadyAddresses[@]}" wineboot --init >/dev/null 2>&1
     # Wine's debugger would end a program that crashes with exit code 0, as if all were well.
-    wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Debugger /d none /f >/dev/null
+    "${steadyAddresses[@]}" wine reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' \
+        /v Debugger /d none /f >/dev/null
     wineserver -w
     # The user's folders are links into the home folder, which is none of the tests' business.
     find "$WINEPREFIX/drive_c/users" -type l | while read -r link; do
@@ -176,8 +183,8 @@ make_prefix() {
     copy_prefix "$buildFolder/wine/prefix" "$WINEPREFIX"
     wineserver -p >/dev/null 2>&1
     # Wine 8 takes the dpi of the screen, the size of dialog fonts and that of icons from this value alone.
-    env "${programEnvironment[@]}" wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f \
-        >/dev/null 2>&1 </dev/null
+    env "${programEnvironment[@]}" "${steadyAddresses[@]}" \
+        wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 2>&1 </dev/null
 }
 
 # Which locale makes Wine take which code page.
