@@ -183,8 +183,14 @@ make_prefix() {
     copy_prefix "$buildFolder/wine/prefix" "$WINEPREFIX"
     wineserver -p >/dev/null 2>&1
     # Wine 8 takes the dpi of the screen, the size of dialog fonts and that of icons from this value alone.
-    env "${programEnvironment[@]}" "${steadyAddresses[@]}" \
-        wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 2>&1 </dev/null
+    if ! env "${programEnvironment[@]}" "${steadyAddresses[@]}" \
+        wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 2>&1 </dev/null; then
+        # The next test must not take it for one that is ready.
+        wineserver -k || true
+        rm -rf "$WINEPREFIX"
+        printf 'No prefix could be made for %s dpi\n' "$dpi" >&2
+        return 1
+    fi
 }
 
 # Which locale makes Wine take which code page.
