@@ -10,7 +10,8 @@
     # and pictures and audit see the same on every machine.
     winePackages=(wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick
         libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1)
-    testPackages=(clang clang-format clang-tidy lld libclang-rt-14-dev locales shellcheck)
+    # libclang-rt-dev brings the sanitizers of whatever clang the system has.
+    testPackages=(clang clang-format clang-tidy lld libclang-rt-dev locales shellcheck)
 }
 
 say() { printf '== %s\n' "$*"; }
@@ -33,16 +34,36 @@ insist() {
 }
 
 # What apt-get has to complain about is shown, not each of the hundreds of files that it unpacks.
-update_and_install() {
-    "$@" update -o APT::Update::Error-Mode=any >/dev/null &&
-        "$@" install --yes --no-install-recommends "${missing[@]}" >/dev/null
+update_package_lists() {
+    "$@" update -o APT::Update::Error-Mode=any >/dev/null
+}
+install_packages() {
+    "$@" install --yes --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Takes out of the packages in missing those that the system's sources do not have, and names them. What they are
+# needed for may be there under another name, so this ends nothing.
+leave_out_unknown() {
+    local package known=() unknown=()
+    for package in "${missing[@]}"; do
+        if apt-cache show --no-all-versions "$package" >/dev/null 2>&1; then
+            known+=("$package")
+        else
+            unknown+=("$package")
+        fi
+    done
+    missing=("${known[@]}")
+    if ((${#unknown[@]} > 0)); then
+        say "This system has no packages of these names: ${unknown[*]}"
+        say 'Where something is missing below, install what corresponds to them.'
+    fi
 }
 
 # install_missing PACKAGE...: says what it installs, and installs nothing that is there.
 install_missing() {
-    command -v dpkg-query apt-get >/dev/null ||
-        die "This is not Debian. Install what corresponds to these packages and build with CMake: $*"
-    local installed missing=() package asRoot=()
+    command -v dpkg-query apt-get apt-cache >/dev/null ||
+        die "This system has no apt-get. Install what corresponds to these packages of Debian, and build with CMake: $*"
+    local installed missing=() package asRoot=() aptGet
     installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null || true)
     for package in "$@"; do
         if ! grep -qxF "$package installed" <<<"$installed"; then
@@ -52,14 +73,19 @@ install_missing() {
     if ((${#missing[@]} == 0)); then
         return 0
     fi
-    say "Installing ${missing[*]}"
     if ((EUID != 0)); then
         command -v sudo >/dev/null || die "Neither root nor sudo. Have these packages installed: ${missing[*]}"
         asRoot=(sudo)
     fi
-    insist update_and_install "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --quiet \
-        -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 ||
-        die "The packages could not be installed: ${missing[*]}"
+    aptGet=("${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --quiet
+        -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0)
+    insist update_package_lists "${aptGet[@]}" || die "The lists of packages could not be fetched. Wanted: ${missing[*]}"
+    leave_out_unknown
+    if ((${#missing[@]} == 0)); then
+        return 0
+    fi
+    say "Installing ${missing[*]}"
+    insist install_packages "${aptGet[@]}" || die "The packages could not be installed: ${missing[*]}"
 }
 
 # build PRESET [TARGET...]: configures, with configureOptions, and builds. What fails does not keep the rest from
