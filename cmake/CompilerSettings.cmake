@@ -33,7 +33,8 @@ if(WIN32)
     set(CMAKE_CXX_FLAGS_DEBUG "")
     set(CMAKE_C_FLAGS_DEBUG "")
     target_compile_options(corvane_settings INTERFACE -ffunction-sections -fdata-sections)
-    target_link_options(corvane_settings INTERFACE -static -s -Wl,--gc-sections)
+    # The time of linking would make each build differ from the last.
+    target_link_options(corvane_settings INTERFACE -static -s -Wl,--gc-sections,--no-insert-timestamp)
   endif()
 endif()
 

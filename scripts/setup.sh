@@ -1,4 +1,4 @@
-# What ./run and ./test share: installing what is missing, and building a preset. Sourced, never run.
+# What ./run, ./test and ./package share: installing what is missing, and building a preset. Sourced, never run.
 # The caller stands at the root of the repository.
 # shellcheck shell=bash
 
@@ -10,6 +10,7 @@
     # and pictures and audit see the same on every machine.
     winePackages=(wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick
         libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1)
+    packagePackages=(faketime git msitools pandoc wixl zip)
     # libclang-rt-dev brings the sanitizers of whatever clang the system has.
     testPackages=(clang clang-format clang-tidy lld libclang-rt-dev locales shellcheck)
 }
