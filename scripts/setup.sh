@@ -11,6 +11,7 @@
     winePackages=(wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick
         libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1)
     packagePackages=(faketime git msitools pandoc wixl zip)
+    packageTestPackages=(jq)
     # libclang-rt-dev brings the sanitizers of whatever clang the system has.
     testPackages=(clang clang-format clang-tidy lld libclang-rt-dev locales shellcheck)
 }

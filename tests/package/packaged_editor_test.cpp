@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <windows.h>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "res/ids.h"
+#include "tests/driver/list_view.h"
+#include "tests/driver/message_box.h"
+#include "tests/driver/program.h"
+#include "tests/driver/window.h"
+#include "tests/windows/editor_test.h"
+
+// The editor as it was handed out, where CORVANE_EDITOR says, on the worked example in this user's registry.
+// The scripts that start this program have brought both there, so nothing is set aside or restored here.
+
+namespace corvane {
+namespace {
+
+class PackagedEditor : public ::testing::Test {
+  protected:
+    PackagedEditor() { driver::UseScreenPixels(); }
+
+    void Start() {
+        editor_.reset();
+        editor_.emplace(EditorPath());
+        main_ = editor_->WaitForDialog(driver::Window());
+    }
+    [[nodiscard]] const driver::Program& Editor() const { return *editor_; }
+    [[nodiscard]] const driver::Window& Main() const { return main_; }
+    /// The descriptions of the shown rules: those of the first profile.
+    [[nodiscard]] driver::Texts ShownRules() const {
+        return driver::ListView(main_.Control(IDC_RULE_LIST)).Column(kDescriptionColumn);
+    }
+    /// Moves the first rule behind the second one, and gives the descriptions as they are to be shown then.
+    driver::Texts ExchangeFirstRules() const {
+        driver::Texts expected = ShownRules();
+        if (expected.size() < 2) {
+            ADD_FAILURE() << "the worked example was expected, and there are " << expected.size() << " rules";
+            return expected;
+        }
+        std::swap(expected[0], expected[1]);
+        const driver::ListView rules(main_.Control(IDC_RULE_LIST));
+        rules.Select({0});
+        main_.Control(IDC_MOVE_DOWN_BUTTON).Click();
+        rules.WaitForColumn(kDescriptionColumn, expected);
+        return expected;
+    }
+
+  private:
+    std::optional<driver::Program> editor_;
+    driver::Window main_;
+};
+
+TEST_F(PackagedEditor, ShowsTheWorkedExampleAndSavesAChangeOfIt) {
+    Start();
+    EXPECT_EQ(driver::ListView(Main().Control(IDC_PROFILE_LIST)).Column(0),
+              (driver::Texts{L"Archive", L"Incoming", L"Outgoing"}));
+    const driver::Texts expected = ExchangeFirstRules();
+    Main().Control(IDOK).PostClick();
+    EXPECT_EQ(Editor().WaitForEnd(), 0U);
+    Start();
+    EXPECT_EQ(ShownRules(), expected);
+}
+
+TEST_F(PackagedEditor, IsLeftAloneWithWhatIsNotSavedWhileANewerVersionIsInstalled) {
+    Start();
+    const driver::Texts expected = ExchangeFirstRules();
+    const wchar_t* const installer = _wgetenv(L"CORVANE_NEWER_INSTALLER");
+    ASSERT_NE(installer, nullptr);
+    const int code = _wsystem((L"msiexec /i \"" + std::wstring(installer) + L"\" /qn").c_str());
+    EXPECT_TRUE(code == ERROR_SUCCESS || code == ERROR_SUCCESS_REBOOT_REQUIRED)
+        << "the installer ends with " << code;
+    ASSERT_TRUE(Editor().IsRunning());
+    EXPECT_EQ(ShownRules(), expected);
+    Main().Control(IDCANCEL).PostClick();
+    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    EXPECT_EQ(box.View(), driver::MessageBoxOfStyle(kUnsavedQuestion, L"QENT AC Velmaris - configuration",
+                                                    kConfirmation));
+    box.Answer(IDYES);
+    EXPECT_EQ(Editor().WaitForEnd(), 0U);
+}
+
+}  // namespace
+}  // namespace corvane
