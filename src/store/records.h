@@ -14,6 +14,10 @@ inline constexpr wchar_t kNotSetText[] = L"0";
 using TextList = std::vector<std::wstring>;
 using NumberList = std::vector<std::int32_t>;
 
+/// A field of a record: where in any Record the Value stands. Tables of fields are made of these.
+template <class Record, class Value>
+using FieldOf = Value Record::*;
+
 /// The smallest log size that loading and the log settings dialog let stand, in KB.
 inline constexpr std::int32_t kSmallestLogFileSize = 400;
 

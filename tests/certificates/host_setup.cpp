@@ -12,7 +12,7 @@ namespace {
 
 struct NamedFlag {
     const char* name;
-    std::int32_t store::CsProfile::*field;
+    store::FieldOf<store::CsProfile, std::int32_t> field;
 };
 
 constexpr std::array kFlags = {

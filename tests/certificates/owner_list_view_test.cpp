@@ -96,6 +96,7 @@ class OwnerListViewTest : public ::testing::Test {
         }
         checks_.assign(count, false);
     }
+    [[nodiscard]] certificates::OwnerRow RowAt(std::size_t row) const { return {owners_.at(row), checks_.at(row)}; }
     [[nodiscard]] int TopRow() const { return view_.Control().TopRow(); }
 
     static constexpr std::size_t kManyOwners = 60;
@@ -109,10 +110,7 @@ class OwnerListViewTest : public ::testing::Test {
     std::vector<LPARAM> stylesSet_;
     certificates::OwnerListView view_{{
         .count = [this] { return owners_.size(); },
-        .row =
-            [this](std::size_t row) {
-                return certificates::OwnerRow{owners_.at(row), checks_.at(row)};
-            },
+        .row = [this](std::size_t row) { return RowAt(row); },
         .check = [this](std::size_t row, bool isChecked) { checks_.at(row) = isChecked; },
     }};
 };

@@ -8,13 +8,13 @@ namespace corvane::editors {
 namespace {
 
 struct TextOfEntry {
-    store::TextList store::Profile::*list;
-    std::wstring store::CsProfile::*field;
+    store::FieldOf<store::Profile, store::TextList> list;
+    store::FieldOf<store::CsProfile, std::wstring> field;
 };
 
 struct NumberOfEntry {
-    store::NumberList store::Profile::*list;
-    std::int32_t store::CsProfile::*field;
+    store::FieldOf<store::Profile, store::NumberList> list;
+    store::FieldOf<store::CsProfile, std::int32_t> field;
 };
 
 constexpr TextOfEntry kTexts[] = {

@@ -39,7 +39,7 @@ constexpr std::array kRowNumbers = {IDC_RULE_ROW1_NUMBER_EDIT, IDC_RULE_ROW2_NUM
 
 struct ButtonOfForm {
     int id;
-    IconButton RuleForm::*button;
+    FieldOf<RuleForm, IconButton> button;
 };
 
 constexpr ButtonOfForm kButtons[] = {

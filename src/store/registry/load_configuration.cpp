@@ -75,7 +75,7 @@ class ConfigurationLoad {
         Profile profile;
         profile.timeStampServers = {kNotSetText};
         profile.csProfiles = {state_.csProfileCatalogue.front()};
-        for (NumberList Profile::*const list :
+        for (const FieldOf<Profile, NumberList> list :
              {&Profile::autoUseTimeStamp, &Profile::autoVerifyTimeStamp, &Profile::notAddCertificate,
               &Profile::notCopyToLocal, &Profile::notLoadCrl, &Profile::noTimeStampIsError,
               &Profile::useAuthorityAccess}) {

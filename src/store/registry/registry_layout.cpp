@@ -14,42 +14,43 @@ constexpr std::uint32_t kShow = 1;
 constexpr std::uint32_t kShowThree = 3;
 
 template <typename Record>
-constexpr StoredValue<Record> Number(const wchar_t* name, std::int32_t Record::*field,
+constexpr StoredValue<Record> Number(const wchar_t* name, FieldOf<Record, std::int32_t> field,
                                      std::uint32_t loadFlags, std::uint32_t saveFlags) {
     return {name, StoredNumber<Record>{field}, loadFlags, saveFlags};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Text(const wchar_t* name, std::wstring Record::*field, std::uint32_t loadFlags,
-                                   std::uint32_t saveFlags) {
+constexpr StoredValue<Record> Text(const wchar_t* name, FieldOf<Record, std::wstring> field,
+                                   std::uint32_t loadFlags, std::uint32_t saveFlags) {
     return {name, StoredText<Record>{field}, loadFlags, saveFlags};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> List(const wchar_t* name, TextList Record::*field) {
+constexpr StoredValue<Record> List(const wchar_t* name, FieldOf<Record, TextList> field) {
     return {name, StoredTextList<Record>{field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> List(const wchar_t* name, NumberList Record::*field) {
+constexpr StoredValue<Record> List(const wchar_t* name, FieldOf<Record, NumberList> field) {
     return {name, StoredNumberList<Record>{field}};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Count(const wchar_t* name, TextList Record::*field, std::uint32_t saveFlags) {
+constexpr StoredValue<Record> Count(const wchar_t* name, FieldOf<Record, TextList> field,
+                                    std::uint32_t saveFlags) {
     return {name, StoredCount<Record>{field}, kShowThree, saveFlags};
 }
 
 template <typename Record>
-constexpr StoredValue<Record> Elements(const wchar_t* prefix, TextList Record::*field) {
+constexpr StoredValue<Record> Elements(const wchar_t* prefix, FieldOf<Record, TextList> field) {
     return {prefix, StoredElements<Record>{field}, kShowThree, kShow};
 }
 
-constexpr StoredValue<Rule> RuleText(const wchar_t* name, std::wstring Rule::*field) {
+constexpr StoredValue<Rule> RuleText(const wchar_t* name, FieldOf<Rule, std::wstring> field) {
     return Text(name, field, kShowThree, kShowThree);
 }
 
-constexpr StoredValue<Rule> RuleNumber(const wchar_t* name, std::int32_t Rule::*field) {
+constexpr StoredValue<Rule> RuleNumber(const wchar_t* name, FieldOf<Rule, std::int32_t> field) {
     return Number(name, field, kShowThree, kShowThree);
 }
 

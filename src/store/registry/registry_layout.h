@@ -21,50 +21,50 @@ namespace corvane::store {
 /// A DWORD.
 template <typename Record>
 struct StoredNumber {
-    std::int32_t Record::*field;
+    FieldOf<Record, std::int32_t> field;
 };
 
 /// An SZ.
 template <typename Record>
 struct StoredText {
-    std::wstring Record::*field;
+    FieldOf<Record, std::wstring> field;
 };
 
 /// A MULTI_SZ of texts; an empty one is stored as "0".
 template <typename Record>
 struct StoredTextList {
-    TextList Record::*field;
+    FieldOf<Record, TextList> field;
 };
 
 /// A MULTI_SZ of texts as they are.
 template <typename Record>
 struct StoredTextArray {
-    TextList Record::*field;
+    FieldOf<Record, TextList> field;
 };
 
 /// A MULTI_SZ of decimal numbers.
 template <typename Record>
 struct StoredNumberList {
-    NumberList Record::*field;
+    FieldOf<Record, NumberList> field;
 };
 
 /// A DWORD: how many elements the list of the next StoredElements row with the same field has.
 template <typename Record>
 struct StoredCount {
-    TextList Record::*field;
+    FieldOf<Record, TextList> field;
 };
 
 /// SZ values, named by the row's name with 0, 1, ... after it; as many as counted.
 template <typename Record>
 struct StoredElements {
-    TextList Record::*field;
+    FieldOf<Record, TextList> field;
 };
 
 /// An SZ from before lists: read only where the count is 0, then the list's one element. Never written.
 template <typename Record>
 struct StoredOldElement {
-    std::wstring Record::*field;
-    TextList Record::*list;
+    FieldOf<Record, std::wstring> field;
+    FieldOf<Record, TextList> list;
 };
 
 /// One value of a record: a row of the layout. Rows stand in the order in which values are read and written.

@@ -24,8 +24,8 @@ constexpr std::wstring_view kGroupSeparator = L";\\;";
 constexpr std::wstring_view kEmptyList = L"0";
 
 using SignerGroups = std::vector<SignerGroup>;
-using RecordField =
-    std::variant<std::wstring Rule::*, std::int32_t Rule::*, TextList Rule::*, SignerGroups Rule::*>;
+using RecordField = std::variant<FieldOf<Rule, std::wstring>, FieldOf<Rule, std::int32_t>,
+                                 FieldOf<Rule, TextList>, FieldOf<Rule, SignerGroups>>;
 
 // Every field of a record in the order of the file, for writing and reading alike. The order is the file's
 // own; it is not that of the values in the registry.
@@ -78,11 +78,11 @@ class FieldWriter {
   public:
     FieldWriter(const Rule& rule, std::wstring& text) : rule_(rule), text_(text) {}
 
-    void operator()(std::wstring Rule::*field) const { text_ += rule_.*field; }
+    void operator()(FieldOf<Rule, std::wstring> field) const { text_ += rule_.*field; }
 
-    void operator()(std::int32_t Rule::*field) const { text_ += std::to_wstring(rule_.*field); }
+    void operator()(FieldOf<Rule, std::int32_t> field) const { text_ += std::to_wstring(rule_.*field); }
 
-    void operator()(TextList Rule::*field) const {
+    void operator()(FieldOf<Rule, TextList> field) const {
         const TextList& list = rule_.*field;
         if (list.empty()) {
             text_ += kEmptyList;
@@ -92,7 +92,7 @@ class FieldWriter {
         AppendElements(list.begin() + 1, list.end());
     }
 
-    void operator()(SignerGroups Rule::*field) const {
+    void operator()(FieldOf<Rule, SignerGroups> field) const {
         const SignerGroups& groups = rule_.*field;
         if (groups.empty()) {
             text_ += kEmptyList;
@@ -123,11 +123,11 @@ class FieldReader {
   public:
     FieldReader(std::wstring_view text, Rule& rule) : text_(text), rule_(rule) {}
 
-    void operator()(std::wstring Rule::*field) const { rule_.*field = text_; }
+    void operator()(FieldOf<Rule, std::wstring> field) const { rule_.*field = text_; }
 
-    void operator()(std::int32_t Rule::*field) const { rule_.*field = toolkit::ParseDecimal(text_); }
+    void operator()(FieldOf<Rule, std::int32_t> field) const { rule_.*field = toolkit::ParseDecimal(text_); }
 
-    void operator()(TextList Rule::*field) const {
+    void operator()(FieldOf<Rule, TextList> field) const {
         if (text_ == kEmptyList) {
             return;
         }
@@ -138,7 +138,7 @@ class FieldReader {
         }
     }
 
-    void operator()(SignerGroups Rule::*field) const {
+    void operator()(FieldOf<Rule, SignerGroups> field) const {
         if (text_ == kEmptyList) {
             return;
         }

@@ -17,7 +17,7 @@ using ::testing::IsEmpty;
 class CryptocontextTest : public CertsFixture {};
 
 TEST_F(CryptocontextTest, IsClosedOnceWithItsEnd) {
-    { const certificates::Cryptocontext context = OpenContext(); }
+    static_cast<void>(OpenContext());
     EXPECT_THAT(sessions_.Closed(), ElementsAre(ScriptedSessions::kFirstContext));
     EXPECT_EQ(sessions_.OpenContexts(), 0U);
 }
@@ -56,7 +56,7 @@ TEST_F(CryptocontextTest, DroppedItStaysOpen) {
 }
 
 TEST_F(CryptocontextTest, NoneIsNotClosed) {
-    { const certificates::Cryptocontext none(*sessions_.Functions(), 0, Reporter(), owner_, input_); }
+    static_cast<void>(certificates::Cryptocontext(*sessions_.Functions(), 0, Reporter(), owner_, input_));
     EXPECT_THAT(sessions_.Closed(), IsEmpty());
 }
 

@@ -68,7 +68,7 @@ TEST(ModalState, TheExemptWindowIsLeftAloneAlsoWhenAControlOfItIsNamed) {
 TEST(ModalState, AWindowThatWasDisabledStaysSo) {
     const TestWindow window;
     EnableWindow(window.Handle(), FALSE);
-    { const toolkit::ModalState state; }
+    static_cast<void>(toolkit::ModalState());
     EXPECT_FALSE(IsWindowEnabled(window.Handle()));
 }
 
@@ -137,7 +137,7 @@ TEST(ModalState, FocusStaysInTheControlThatHasIt) {
     ASSERT_TRUE(dialog.CreateModeless());
     SetActiveWindow(dialog.Window());
     SetFocus(dialog.Control(IDC_NUMBER_EDIT));
-    { const toolkit::ModalState state; }
+    static_cast<void>(toolkit::ModalState());
     EXPECT_EQ(GetFocus(), dialog.Control(IDC_NUMBER_EDIT));
 }
 

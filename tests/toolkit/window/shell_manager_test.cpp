@@ -49,7 +49,7 @@ TEST(ShellManager, OpensTheApartmentAtItsStartAndClosesItInTheEnd) {
 TEST(ShellManager, LeavesAnApartmentOfAnotherKindAlone) {
     InThread([] {
         ASSERT_EQ(OpenApartment(COINIT_MULTITHREADED), S_OK);
-        { const toolkit::ShellManager shell; }
+        static_cast<void>(toolkit::ShellManager());
         EXPECT_EQ(OpenApartment(COINIT_MULTITHREADED), S_FALSE) << "it is still open";
         CloseApartment();
         CloseApartment();

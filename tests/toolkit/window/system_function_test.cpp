@@ -33,7 +33,7 @@ TEST(LateLibrary, FindsNothingInALibraryThatIsMissing) {
 }
 
 TEST(LateLibrary, StaysLoaded) {
-    { const toolkit::LateLibrary library(L"version.dll"); }
+    static_cast<void>(toolkit::LateLibrary(L"version.dll"));
     EXPECT_NE(GetModuleHandleW(L"version.dll"), nullptr);
 }
 
