@@ -1,6 +1,7 @@
 #include "tests/driver/probe.h"
 
 #include <algorithm>
+#include <bit>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -31,8 +32,7 @@ HHOOK Hook(const Window& window) {
         throw Failure(L"The probe library is missing: " + LibraryPath());
     }
     const HHOOK hook =
-        SetWindowsHookExW(WH_CALLWNDPROC, reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(function)),
-                          kLibrary, window.ThreadId());
+        SetWindowsHookExW(WH_CALLWNDPROC, std::bit_cast<HOOKPROC>(function), kLibrary, window.ThreadId());
     if (hook == nullptr) {
         throw Failure(L"The probe could not be hooked into the program of " + window.Name() + L".");
     }

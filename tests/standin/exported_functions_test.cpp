@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstring>
 
 #include "tests/standin/loaded_standin.h"
 
@@ -11,14 +12,13 @@ TEST(ExportedFunctions, EightAreExportedAndNothingElse) {
     const LoadedStandIn library;
     const auto* base = reinterpret_cast<const std::uint8_t*>(library.Module());
     const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* headers =
-        static_cast<const IMAGE_NT_HEADERS*>(static_cast<const void*>(base + dos->e_lfanew));
-    const IMAGE_DATA_DIRECTORY& directory =
-        headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
-    const auto* exports =
-        static_cast<const IMAGE_EXPORT_DIRECTORY*>(static_cast<const void*>(base + directory.VirtualAddress));
-    EXPECT_EQ(exports->NumberOfNames, 8U);
-    EXPECT_EQ(exports->NumberOfFunctions, 8U);
+    IMAGE_NT_HEADERS headers = {};
+    std::memcpy(&headers, base + dos->e_lfanew, sizeof headers);
+    const DWORD place = headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT].VirtualAddress;
+    IMAGE_EXPORT_DIRECTORY exports = {};
+    std::memcpy(&exports, base + place, sizeof exports);
+    EXPECT_EQ(exports.NumberOfNames, 8U);
+    EXPECT_EQ(exports.NumberOfFunctions, 8U);
 }
 
 TEST(ExportedFunctions, AnUnknownCsProfileIsRefusedWithAText) {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <bit>
 
 namespace corvane::standin {
 namespace {
@@ -51,8 +51,7 @@ template <typename Function>
 void Bind(HMODULE module, const char* name, Function& function) {
     const FARPROC found = GetProcAddress(module, name);
     ASSERT_NE(found, nullptr) << name;
-    static_assert(sizeof found == sizeof function);
-    std::memcpy(&function, &found, sizeof function);
+    function = std::bit_cast<Function>(found);
 }
 
 }  // namespace

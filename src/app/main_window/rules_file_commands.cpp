@@ -21,7 +21,8 @@ toolkit::FileDialogOffer RulesFileOffer(const std::wstring& proposedName) {
         .folder = L"",
         .defaultExtension = store::kRulesFileExtension,
         .filter = toolkit::FormatText(L"%s (*.%s)|*.%s|All files (*.*)|*.*||",
-                                      {L"Profiles", store::kRulesFileExtension, store::kRulesFileExtension})};
+                                      {L"Profiles", store::kRulesFileExtension, store::kRulesFileExtension}),
+        .path = {}};
 }
 
 }  // namespace

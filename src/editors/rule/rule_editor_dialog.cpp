@@ -283,7 +283,8 @@ void CAddRule::RunCertCommand() {
             PickCertPath(toolkit::AskWhatToOpen(Window(), {.fileName = {},
                                                            .folder = {},
                                                            .defaultExtension = kExecutableDefaultExtension,
-                                                           .filter = kExecutableFilter}));
+                                                           .filter = kExecutableFilter,
+                                                           .path = {}}));
             break;
         case CertCommand::kEditSignerLists:
             if (auto lists = certificates::EditSignerLists(

@@ -37,7 +37,7 @@ struct FileDialogOffer {
     std::wstring defaultExtension;  ///< Without its point.
     std::wstring filter;  ///< Descriptions and patterns in turn, each ended by "|", one more at the end.
     /// A file to propose whose folder is known too, taken as it is in place of the name; empty for none.
-    std::wstring path = {};
+    std::wstring path;
 };
 
 /// Asks where to save a file: the read-only box is hidden, and an existing file is asked about before it is

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include <array>
-#include <cstring>
+#include <bit>
 #include <string>
 
 namespace corvane::toolkit {
@@ -13,10 +13,7 @@ template <typename Function>
 [[nodiscard]] Function FindFunction(HMODULE module, const char* name) {
     const FARPROC found = module != nullptr ? GetProcAddress(module, name) : nullptr;
     // A copy, because a cast between unrelated function types is what the compiler rightly warns of.
-    Function function = nullptr;
-    static_assert(sizeof function == sizeof found);
-    std::memcpy(&function, &found, sizeof function);
-    return function;
+    return std::bit_cast<Function>(found);
 }
 
 /// Finds a function that not every supported Windows has, in a module that is loaded already.

@@ -59,7 +59,8 @@ class ShownFileDialog : public ::testing::Test {
                                        offer, OFN_FILEMUSTEXIST);
     }
     static toolkit::PathChoice ShowWithName(const std::wstring& name) {
-        return Show({.fileName = name, .folder = {}, .defaultExtension = L"prx", .filter = L"All|*.*||"});
+        return Show(
+            {.fileName = name, .folder = {}, .defaultExtension = L"prx", .filter = L"All|*.*||", .path = {}});
     }
     static toolkit::PathChoice Failure(DWORD error) { return {{}, toolkit::CommonDialogFailure(error)}; }
 };

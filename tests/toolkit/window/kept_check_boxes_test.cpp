@@ -219,7 +219,7 @@ TEST_F(KeptCheckBoxesTest, TheMarkTurnsWhenTheButtonIsLetGo) {
 }
 
 TEST_F(KeptCheckBoxesTest, APressThatIsLetGoElsewhereTurnsNone) {
-    for (const LPARAM elsewhere : {PointOn(1, true), PointOn(2, false), LPARAM{MAKELPARAM(10, 500)}}) {
+    for (const LPARAM elsewhere : {PointOn(1, true), PointOn(2, false), MAKELPARAM(10, 500)}) {
         Press(2);
         LetGo(elsewhere);
         EXPECT_EQ(changes_, 0);
