@@ -145,9 +145,9 @@ void LayDown(std::string_view bytes) {
     }
 }
 
-// What is seen of a text, told a second time.
+// What is seen of a text, told a second time: all up to its first zero.
 std::wstring Seen(const StackText& text, const toolkit::SystemText& systemText) {
-    return text.hasMemory ? systemText.Widen(text.bytes.c_str()) : std::wstring();
+    return text.hasMemory ? systemText.Widen(text.bytes.substr(0, text.bytes.find('\0'))) : std::wstring();
 }
 
 std::wstring ExpectedStack(const toolkit::SystemText& systemText) {
