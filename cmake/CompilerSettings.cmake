@@ -29,12 +29,9 @@ if(WIN32)
   if(NOT MSVC)
     set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
     set(CMAKE_C_FLAGS_RELEASE "-O2 -DNDEBUG")
-    # Clang warns of the same things whether it optimises or not, and is asked for nothing else.
-    set(CMAKE_CXX_FLAGS_DEBUG "")
-    set(CMAKE_C_FLAGS_DEBUG "")
     target_compile_options(corvane_settings INTERFACE -ffunction-sections -fdata-sections)
     # The time of linking would make each build differ from the last.
-    target_link_options(corvane_settings INTERFACE -static -s -Wl,--gc-sections,--no-insert-timestamp)
+    target_link_options(corvane_settings INTERFACE -static $<$<CONFIG:Release>:-s> -Wl,--gc-sections,--no-insert-timestamp)
   endif()
 endif()
 
