@@ -1,5 +1,6 @@
 #include "toolkit/text/format_text.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace corvane::toolkit {
@@ -21,9 +22,10 @@ bool IsSpace(Character character) {
 }
 
 template <typename Character>
-std::int32_t ParseDecimalText(std::basic_string_view<Character> text) {
+std::int32_t ParseDecimalText(std::basic_string_view<Character> text, Overflow overflow) {
     constexpr std::int64_t kLowest = std::numeric_limits<std::int32_t>::min();
     constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int64_t kLowBits = 0xFFFFFFFF;
     std::size_t position = 0;
     while (position < text.size() && IsSpace(text[position])) {
         ++position;
@@ -37,12 +39,7 @@ std::int32_t ParseDecimalText(std::basic_string_view<Character> text) {
     for (; position < text.size() && text[position] >= '0' && text[position] <= '9'; ++position) {
         const auto digit = static_cast<std::int64_t>(text[position] - '0');
         number = isNegative ? number * 10 - digit : number * 10 + digit;
-        if (number < kLowest) {
-            return static_cast<std::int32_t>(kLowest);
-        }
-        if (number > kHighest) {
-            return static_cast<std::int32_t>(kHighest);
-        }
+        number = overflow == Overflow::kNearest ? std::clamp(number, kLowest, kHighest) : number & kLowBits;
     }
     return static_cast<std::int32_t>(number);
 }
@@ -84,12 +81,12 @@ std::wstring FormatText(std::wstring_view format, std::initializer_list<FormatAr
     return result;
 }
 
-std::int32_t ParseDecimal(std::string_view text) {
-    return ParseDecimalText(text);
+std::int32_t ParseDecimal(std::string_view text, Overflow overflow) {
+    return ParseDecimalText(text, overflow);
 }
 
-std::int32_t ParseDecimal(std::wstring_view text) {
-    return ParseDecimalText(text);
+std::int32_t ParseDecimal(std::wstring_view text, Overflow overflow) {
+    return ParseDecimalText(text, overflow);
 }
 
 }  // namespace corvane::toolkit

@@ -36,11 +36,13 @@ class FormatArgument {
 [[nodiscard]] std::wstring FormatText(std::wstring_view format,
                                       std::initializer_list<FormatArgument> arguments);
 
+/// What becomes of a number that does not fit 32 bits: the nearest that does, or what its low 32 bits say.
+enum class Overflow { kNearest, kLowBits };
+
 /// The usual decimal conversion of text to a number: leading white space and a sign allowed, ends at the
-/// first character that is no digit, 0 where there is no number; what does not fit 32 bits becomes the
-/// nearest number that does.
-[[nodiscard]] std::int32_t ParseDecimal(std::string_view text);
+/// first character that is no digit, 0 where there is no number.
+[[nodiscard]] std::int32_t ParseDecimal(std::string_view text, Overflow overflow = Overflow::kNearest);
 /// The same for wide text.
-[[nodiscard]] std::int32_t ParseDecimal(std::wstring_view text);
+[[nodiscard]] std::int32_t ParseDecimal(std::wstring_view text, Overflow overflow = Overflow::kNearest);
 
 }  // namespace corvane::toolkit

@@ -108,5 +108,18 @@ TEST(ParseDecimal, ReadsNarrowTextAlike) {
     EXPECT_EQ(toolkit::ParseDecimal(""), 0);
 }
 
+TEST(ParseDecimal, OnRequestKeepsTheLowBitsOfWhatDoesNotFit) {
+    const auto lowBits = [](std::wstring_view text) {
+        return toolkit::ParseDecimal(text, toolkit::Overflow::kLowBits);
+    };
+    EXPECT_EQ(lowBits(L"2147483647"), 2147483647);
+    EXPECT_EQ(lowBits(L"2147483648"), -2147483647 - 1);
+    EXPECT_EQ(lowBits(L"4294967295"), -1);
+    EXPECT_EQ(lowBits(L"4294967301"), 5);
+    EXPECT_EQ(lowBits(L"-4294967301"), -5);
+    EXPECT_EQ(lowBits(L"99999999999999999999999"), -159383553);
+    EXPECT_EQ(toolkit::ParseDecimal("-4294967301", toolkit::Overflow::kLowBits), -5);
+}
+
 }  // namespace
 }  // namespace corvane::test
