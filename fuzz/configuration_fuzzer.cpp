@@ -14,7 +14,7 @@
 #include "store/registry/load_configuration.h"
 #include "store/registry/registry_access.h"
 #include "store/registry/save_configuration.h"
-#include "tests/support/memory_registry.h"
+#include "tests/kit/fakes/memory_registry.h"
 
 // An input builds a whole registry: keys of any names, and values of any type, size and bytes under the names
 // that the program reads. Whatever it is, a load ends, closes its keys, and what it has loaded is saved and

@@ -13,7 +13,7 @@
 #include "fuzz/require.h"
 #include "fuzz/silent_reporting.h"
 #include "reporting/error_reporter.h"
-#include "tests/support/recording_input_gate.h"
+#include "tests/kit/fakes/recording_input_gate.h"
 
 // An input lays down what the library answers to a search (entries without texts, empty texts, odd bytes, a
 // count without entries, entries without a count, a status that says that there is nothing) and to the

@@ -2,10 +2,10 @@
 
 #include <windows.h>
 
-#include "tests/driver/failure.h"
-#include "tests/journey/journey_test.h"
 #include "tests/journey/stored_forms.h"
-#include "tests/windows/profile_editor_fixture.h"
+#include "tests/kit/driver/failure.h"
+#include "tests/kit/fixtures/journey_fixture.h"
+#include "tests/kit/fixtures/profile_editor_fixture.h"
 
 namespace corvane::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/journey/stored_forms.h"
 
-#include "tests/journey/journey_test.h"
+#include "tests/kit/fixtures/journey_fixture.h"
 
 namespace corvane::test {
 

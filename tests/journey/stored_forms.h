@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "tests/journey/stored_differences.h"
 #include "tests/journey/typical_rules.h"
+#include "tests/kit/fixtures/stored_differences.h"
 
 namespace corvane::test {
 

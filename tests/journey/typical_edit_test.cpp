@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "tests/driver/failure.h"
-#include "tests/journey/journey_test.h"
 #include "tests/journey/stored_forms.h"
 #include "tests/journey/typical_rules.h"
+#include "tests/kit/driver/failure.h"
+#include "tests/kit/fixtures/journey_fixture.h"
 
 namespace corvane::test {
 namespace {

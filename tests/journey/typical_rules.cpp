@@ -1,7 +1,7 @@
 #include "tests/journey/typical_rules.h"
 
 #include "res/ids.h"
-#include "tests/journey/journey_test.h"
+#include "tests/kit/fixtures/journey_fixture.h"
 
 namespace corvane::test {
 

@@ -4,8 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "tests/driver/registry.h"
-#include "tests/journey/certificate_steps.h"
+#include "tests/kit/driver/registry.h"
+#include "tests/kit/fixtures/certificate_steps.h"
 
 namespace corvane::test {
 

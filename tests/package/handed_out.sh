@@ -34,8 +34,8 @@ property_of() { msiinfo export "$1" Property | tr -d '\r' | sed -n "s/^$2\t//p";
 
 # Takes the world's one desktop.
 enter_world() {
-    # shellcheck source=tests/harness/world.sh
-    . "$root/tests/harness/world.sh"
+    # shellcheck source=tests/kit/harness/world.sh
+    . "$root/tests/kit/harness/world.sh"
     take_desktop 96 1252
     enter_prefix 96 1252
 }

@@ -7,11 +7,11 @@
 #include <utility>
 
 #include "res/ids.h"
-#include "tests/driver/list_view.h"
-#include "tests/driver/message_box.h"
-#include "tests/driver/program.h"
-#include "tests/driver/window.h"
-#include "tests/windows/editor_test.h"
+#include "tests/kit/driver/list_view.h"
+#include "tests/kit/driver/message_box.h"
+#include "tests/kit/driver/program.h"
+#include "tests/kit/driver/window.h"
+#include "tests/kit/fixtures/editor_fixture.h"
 
 // The editor as it was handed out, where CORVANE_EDITOR says, on the worked example in this user's registry.
 // The scripts that start this program have brought both there, so nothing is set aside or restored here.

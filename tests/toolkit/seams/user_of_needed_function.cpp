@@ -1,5 +1,0 @@
-#include "tests/toolkit/seams/needed_function.h"
-
-extern "C" __declspec(dllexport) int UserOfNeededFunction() {
-    return NeededFunction();
-}
