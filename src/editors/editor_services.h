@@ -2,7 +2,7 @@
 
 #include "certificates/session/cert_services.h"
 #include "editors/profile/profile_form.h"
-#include "editors/rule/rule_cs_profile_change.h"
+#include "editors/rule/rule_form.h"
 #include "reporting/error_reporter.h"
 #include "toolkit/files/file_calls.h"
 #include "toolkit/files/path_pickers.h"

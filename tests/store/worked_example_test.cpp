@@ -3,6 +3,7 @@
 #include <set>
 
 #include "store/records.h"
+#include "tests/kit/samples/sample_rules.h"
 #include "tests/kit/fakes/reg_file.h"
 #include "tests/kit/fixtures/store_fixture.h"
 
@@ -41,8 +42,7 @@ TEST_F(WorkedExample, UsesEveryOperationAndOnlyCsProfilesOfTheCatalogue) {
             EXPECT_FALSE(rule.masks.empty()) << Printable(rule.description);
         }
     }
-    const store::TextList codes = store::SplitEntries(store::OperationCode);
-    EXPECT_EQ(operations, std::set<std::wstring>(codes.begin(), codes.end()));
+    EXPECT_EQ(operations, std::set<std::wstring>(kCodes.begin(), kCodes.end()));
 }
 
 TEST_F(WorkedExample, GivesTheSameRecordsAfterASave) {

@@ -122,10 +122,11 @@ void CCorvaneDlg::DescribeCell(const NMITEMACTIVATE& click) {
         return;
     }
     const auto row = static_cast<std::size_t>(click.iItem);
-    const auto column = static_cast<std::size_t>(click.iSubItem);
+    const auto cell = static_cast<std::size_t>(click.iSubItem);
+    const RuleColumn& column = RuleColumnAt(cell);
     const store::Profile* const current = store::FindCurrentProfile(state_);
-    std::wstring text = ruleList_.CellText(row, column);
-    if (column == kExtraColumn || column == kMasksColumn) {
+    std::wstring text = ruleList_.CellText(row, cell);
+    if (column.detail != CellDetail::kCell) {
         const std::optional<std::size_t> position =
             current == nullptr
                 ? std::nullopt
@@ -134,17 +135,17 @@ void CCorvaneDlg::DescribeCell(const NMITEMACTIVATE& click) {
             return;
         }
         const store::Rule& rule = current->rules[*position];
-        if (column == kExtraColumn) {
+        if (column.detail == CellDetail::kDescription) {
             reporting::WarningBox box(Window(), false);
             box.isInfoMode = true;
             box.text = DescribeRule(rule);
-            box.title = ruleList_.ColumnTitleAt(column);
+            box.title = column.title;
             box.RunModal();
             return;
         }
         text = DescribeMasks(rule);
     }
-    services_.messages.Show(Window(), text, ruleList_.ColumnTitleAt(column), reporting::kInformationStyle);
+    services_.messages.Show(Window(), text, column.title, reporting::kInformationStyle);
 }
 
 void CCorvaneDlg::CopyCheckBoxes() {

@@ -1,5 +1,9 @@
 #include "app/rule_list/rule_description.h"
 
+#include <string_view>
+#include <variant>
+
+#include "editors/rule/operation_table.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::app {
@@ -7,7 +11,7 @@ namespace corvane::app {
 namespace {
 
 const wchar_t* SignatureFormatText(std::int32_t isDetached) {
-    return isDetached != 0 ? L"Detached signature" : L"Attached signature";
+    return editors::kSignatureFormatNames[isDetached != 0 ? 1 : 0];
 }
 
 }  // namespace
@@ -20,16 +24,9 @@ std::wstring SignatureFormatsText(const store::Rule& rule) {
 }
 
 std::wstring ArchiveFormatText(const store::Rule& rule) {
-    constexpr std::int32_t kZip = 1;
-    constexpr std::int32_t kGzip = 2;
-    switch (rule.archiveFormat) {
-        case kZip:
-            return L"ZIP archivation";
-        case kGzip:
-            return L"GZIP archivation";
-        default:
-            return {};
-    }
+    const auto format = static_cast<std::size_t>(rule.archiveFormat);
+    return rule.archiveFormat > 0 && format < editors::kArchiverNames.size() ? editors::kArchiverNames[format]
+                                                                             : std::wstring();
 }
 
 namespace {
@@ -76,22 +73,31 @@ std::wstring ArchiveFormatItem(const store::Rule& rule) {
     return rule.archiveFormat == 0 ? std::wstring() : ArchiveFormatText(rule) + kBlankLine;
 }
 
-std::wstring TextItem(const wchar_t* label, const std::wstring& value) {
+std::wstring TextItem(std::wstring_view label, const std::wstring& value) {
     return value.empty() ? std::wstring() : std::wstring(label) + L" " + value + kBlankLine;
 }
 
-std::wstring NumberItem(const wchar_t* label, std::int32_t number) {
-    return label + toolkit::FormatText(L" %d", {number}) + kBlankLine;
+std::wstring NumberItemUnlessZero(std::wstring_view label, std::int32_t number) {
+    return number == 0 ? std::wstring() : TextItem(label, std::to_wstring(number));
 }
 
-std::wstring NumberItemUnlessZero(const wchar_t* label, std::int32_t number) {
-    return number == 0 ? std::wstring() : NumberItem(label, number);
+std::wstring OptionItems(const store::Rule& rule, const editors::OperationRow& operation) {
+    std::wstring items;
+    for (const editors::OptionRow& row : operation.rows) {
+        if (const auto* const text = std::get_if<editors::TextOption>(&row.option)) {
+            items += TextItem(row.label, rule.*text->field);
+        } else if (const auto* const number = std::get_if<editors::NumberOption>(&row.option)) {
+            items += NumberItemUnlessZero(row.label, rule.*number->field);
+        }
+    }
+    return items;
 }
 
-std::wstring ExecutionItems(const store::Rule& rule) {
-    std::wstring text = TextItem(L"Executable file:", rule.executable);
+/// Deliberate: the timeout is shown only above zero and only with a program.
+std::wstring ExecutionItems(const store::Rule& rule, const editors::OperationRow& operation) {
+    std::wstring text = TextItem(editors::CertFieldOf(operation.cert).label, rule.executable);
     if (!text.empty() && rule.executionTimeout > 0) {
-        text += NumberItem(L"Execution timeout (min.):", rule.executionTimeout);
+        text += OptionItems(rule, operation);
     }
     return text;
 }
@@ -107,15 +113,11 @@ std::wstring DescribeRule(const store::Rule& rule) {
         // before its colon. Users know the description of moving rules so.
         text = L"Second Output folder : " + rule.secondOutput + kBlankLine;
     }
-    text += TextItem(L"Delete extension:", rule.deleteExtension);
-    text += TextItem(L"Add extension:", rule.addExtension);
-    text += TextItem(L"Accounting format:", rule.folders);
-    text += TextItem(L"Accounting copy format:", rule.copyFolders);
-    text += NumberItemUnlessZero(L"File count:", rule.archiveFileCount);
-    text += NumberItemUnlessZero(L"Archive size (KB.):", rule.archiveSize);
-    text += NumberItemUnlessZero(L"Archivation timeout (min.):", rule.archiveTimeout);
-    text += TextItem(L"Archives name format:", rule.archiveName);
-    text += ExecutionItems(rule);
+    // What another operation left in the rule is described too.
+    for (const editors::OperationRow& operation : editors::kOperations) {
+        text += operation.operation == editors::Operation::kExecute ? ExecutionItems(rule, operation)
+                                                                    : OptionItems(rule, operation);
+    }
     return text;
 }
 

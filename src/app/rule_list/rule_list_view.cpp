@@ -12,10 +12,10 @@ void RuleListView::Attach(HWND control, int scrollBarWidth) {
     laidOutWidth_ = list_.ClientWidth();
     const toolkit::ListView::RedrawLock locked(list_);
     list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_CHECKBOXES | LVS_EX_LABELTIP);
-    columnNames_ = RuleColumnInsertionOrder();
-    const RuleColumnWidths widths = LayOutRuleColumns(laidOutWidth_, scrollBarWidth, true);
-    for (const std::wstring& title : columnNames_) {
-        list_.InsertColumn(0, title, title == columnNames_.back() ? widths.number : widths.other);
+    const std::vector<int> widths = RuleColumnWidths(laidOutWidth_, scrollBarWidth, true);
+    // Each at the left end, so that the last one inserted stands leftmost.
+    for (std::size_t column = widths.size(); column-- > 0;) {
+        list_.InsertColumn(0, RuleColumnAt(column).title, widths[column]);
     }
 }
 
@@ -23,10 +23,9 @@ void RuleListView::LayOutColumns(int scrollBarWidth) {
     scrollBarWidth_ = scrollBarWidth;
     list_.LayOutColumns([this](int clientWidth) {
         laidOutWidth_ = clientWidth;
-        const RuleColumnWidths widths = LayOutRuleColumns(clientWidth, scrollBarWidth_, false);
-        for (std::size_t column = 0; column < kRuleColumnCount; ++column) {
-            list_.SetColumnWidth(static_cast<int>(column),
-                                 column == kNumberColumn ? widths.number : widths.other);
+        const std::vector<int> widths = RuleColumnWidths(clientWidth, scrollBarWidth_, false);
+        for (std::size_t column = 0; column < widths.size(); ++column) {
+            list_.SetColumnWidth(static_cast<int>(column), widths[column]);
         }
     });
 }
@@ -111,10 +110,10 @@ const std::vector<store::Rule>* RuleListView::ShownRules() const {
 std::wstring RuleListView::CellText(std::size_t row, std::size_t column) const {
     const std::vector<store::Rule>* const rules = ShownRules();
     if (rules == nullptr || row >= rows_.size() || rows_[row] >= rules->size() ||
-        column >= kRuleColumnCount) {
+        column >= RuleColumns().size()) {
         return {};
     }
-    return RuleCellText((*rules)[rows_[row]], rows_[row], column);
+    return RuleColumnAt(column).text((*rules)[rows_[row]], rows_[row]);
 }
 
 void RuleListView::AnswerDisplayRequest(NMLVDISPINFOW& request) {
@@ -126,10 +125,6 @@ void RuleListView::AnswerDisplayRequest(NMLVDISPINFOW& request) {
     answer = CellText(static_cast<std::size_t>(request.item.iItem),
                       static_cast<std::size_t>(request.item.iSubItem));
     request.item.pszText = answer.data();
-}
-
-std::wstring RuleListView::ColumnTitleAt(std::size_t column) const {
-    return ColumnTitle(columnNames_, column);
 }
 
 }  // namespace corvane::app

@@ -40,7 +40,6 @@ class RuleListView {
     /// Answers the control's question for a cell's text (LVN_GETDISPINFO).
     void AnswerDisplayRequest(NMLVDISPINFOW& request);
     [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const;
-    [[nodiscard]] std::wstring ColumnTitleAt(std::size_t column) const;
 
     [[nodiscard]] toolkit::ListView& Control() { return list_; }
     [[nodiscard]] const toolkit::ListView& Control() const { return list_; }
@@ -54,7 +53,6 @@ class RuleListView {
 
     const store::ConfigurationState& state_;
     toolkit::ListView list_;
-    store::TextList columnNames_;
     int scrollBarWidth_ = 0;
     int laidOutWidth_ = 0;                        ///< The client width that the columns share, in pixels.
     std::optional<std::size_t> profilePosition_;  ///< None while no profile is shown.

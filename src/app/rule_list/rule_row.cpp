@@ -1,12 +1,14 @@
 #include "app/rule_list/rule_row.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <array>
 #include <stdexcept>
+#include <utility>
+#include <variant>
 
 #include "app/rule_list/rule_description.h"
+#include "editors/rule/operation_table.h"
 #include "store/records.h"
-#include "toolkit/text/format_text.h"
 
 namespace corvane::app {
 
@@ -14,152 +16,162 @@ namespace {
 
 constexpr wchar_t kPartSeparator[] = L"; ";
 
-/// Appends a part, with the separator before it unless it is the first one.
-void AppendPart(std::wstring& text, const std::wstring& part) {
-    if (!text.empty()) {
-        text += kPartSeparator;
-    }
-    text += part;
-}
-
-std::wstring MovePartsText(const store::Rule& rule) {
+std::wstring Joined(const store::TextList& parts) {
     std::wstring text;
-    for (const std::wstring* part :
-         {&rule.secondOutput, &rule.deleteExtension, &rule.addExtension, &rule.folders, &rule.copyFolders}) {
-        if (!part->empty()) {
-            AppendPart(text, *part);
-        }
+    for (const std::wstring& part : parts) {
+        text += (&part == &parts.front() ? L"" : kPartSeparator) + part;
     }
     return text;
 }
 
-std::wstring ResignPartsText(const store::Rule& rule) {
-    std::wstring text;
-    if (!rule.signerGroups.empty()) {
-        text += std::to_wstring(rule.signerGroups.size());
-        text += kPartSeparator;
+void AddUnlessEmpty(store::TextList& parts, std::wstring part) {
+    if (!part.empty()) {
+        parts.push_back(std::move(part));
     }
-    text += rule.resignProfile;
-    text += kPartSeparator;
-    text += SignatureFormatsText(rule);
+}
+
+std::wstring CountText(std::size_t count) {
+    return count == 0 ? std::wstring() : std::to_wstring(count);
+}
+
+/// Deliberate: the archive format is shown whatever the operation, and its separator also stands where
+/// recipients or signer lists exist whose number this operation does not show; users read such rows so.
+std::wstring CertificatesAndArchiveFormat(const store::Rule& rule, const editors::OperationRow* operation) {
+    const bool countsRecipients =
+        operation != nullptr && operation->operation == editors::Operation::kDecryptAndVerify;
+    std::wstring text = CountText(countsRecipients ? rule.recipients.size() : rule.signerGroups.size());
+    if (rule.archiveFormat != 0) {
+        if (!rule.recipients.empty() || !rule.signerGroups.empty()) {
+            text += kPartSeparator;
+        }
+        text += ArchiveFormatText(rule);
+    }
     return text;
 }
 
-void AppendArchiveFormat(std::wstring& text, const store::Rule& rule) {
-    if (rule.archiveFormat == 0) {
-        return;
-    }
-    // Deliberate: the separator also stands where recipients or signer lists exist whose number this
-    // operation does not show; users read such rows so.
-    if (!rule.recipients.empty() || !rule.signerGroups.empty()) {
-        text += kPartSeparator;
-    }
-    text += ArchiveFormatText(rule);
-}
-
-void AppendPackParts(std::wstring& text, const store::Rule& rule) {
-    for (const std::int32_t number : {rule.archiveFileCount, rule.archiveSize, rule.archiveTimeout}) {
-        if (number > 0) {
-            AppendPart(text, std::to_wstring(number));
+/// What of a rule stands in the certificate field as a path. Deliberate: of an executing rule it stands there
+/// even if it is empty.
+void AddPath(store::TextList& parts, const store::Rule& rule, editors::CertUse use) {
+    if (const auto path = editors::CertFieldOf(use).path) {
+        if (use == editors::CertUse::kExecutable || !(rule.*path).empty()) {
+            parts.push_back(rule.*path);
         }
     }
-    if (!rule.archiveName.empty()) {
-        AppendPart(text, rule.archiveName);
+}
+
+void AddOption(store::TextList& parts, const store::Rule& rule, const editors::Option& option) {
+    if (const auto* const text = std::get_if<editors::TextOption>(&option)) {
+        AddUnlessEmpty(parts, rule.*text->field);
+    } else if (const auto* const number = std::get_if<editors::NumberOption>(&option)) {
+        if (rule.*number->field > 0) {
+            parts.push_back(std::to_wstring(rule.*number->field));
+        }
     }
 }
 
-void AppendExecutionParts(std::wstring& text, const store::Rule& rule) {
-    AppendPart(text, rule.executable);
-    if (rule.executionTimeout > 0) {
-        text += kPartSeparator;
-        text += std::to_wstring(rule.executionTimeout);
-    }
+/// Resigning shows what it does, not what else the rule carries; its profile comes before the formats.
+std::wstring ResignText(const store::Rule& rule) {
+    store::TextList parts;
+    AddUnlessEmpty(parts, CountText(rule.signerGroups.size()));
+    parts.push_back(rule.resignProfile);
+    parts.push_back(SignatureFormatsText(rule));
+    return Joined(parts);
 }
 
-std::wstring OperationText(const store::Rule& rule) {
+std::wstring NumberText(const store::Rule& /*rule*/, std::size_t position) {
+    return std::to_wstring(position + 1);
+}
+
+/// The text of a field of the rule as it is.
+template <std::wstring store::Rule::*field>
+std::wstring FieldText(const store::Rule& rule, std::size_t /*position*/) {
+    return rule.*field;
+}
+
+std::wstring OperationText(const store::Rule& rule, std::size_t /*position*/) {
     // Deliberate: an output folder that is not set blanks the operation, not the folder. Users know such
     // rules by it.
     if (rule.outputFolder == store::kNotSetText) {
         return {};
     }
-    return std::wstring(store::OperationDisplayName(rule.operation));
+    return std::wstring(editors::OperationDisplayName(rule.operation));
 }
 
-std::wstring ErrorFolderText(const store::Rule& rule) {
+std::wstring ErrorFolderText(const store::Rule& rule, std::size_t /*position*/) {
     // Deliberate: a CS profile that is not set blanks the error folder, not the profile. Users know such
     // rules by it.
     return rule.csProfile == store::kNotSetText ? std::wstring() : rule.errorFolder;
 }
 
-std::wstring MasksText(const store::Rule& rule) {
+std::wstring MasksText(const store::Rule& rule, std::size_t /*position*/) {
     return rule.masks.size() == 1 ? rule.masks.front() : std::to_wstring(rule.masks.size());
 }
 
+std::wstring ExtraCellText(const store::Rule& rule, std::size_t /*position*/) {
+    return ExtraText(rule);
+}
+
+constexpr std::array kColumns{
+    RuleColumn{L"", NumberText, 3},
+    RuleColumn{L"Description", FieldText<&store::Rule::description>},
+    RuleColumn{L"Rules", OperationText},
+    RuleColumn{L"Input folder", FieldText<&store::Rule::inputFolder>},
+    RuleColumn{L"Output folder", FieldText<&store::Rule::outputFolder>},
+    RuleColumn{L"Error folder", ErrorFolderText},
+    RuleColumn{L"Masks", MasksText, 0, CellDetail::kMasks},
+    RuleColumn{L"CS profile", FieldText<&store::Rule::csProfile>},
+    RuleColumn{L"Extra", ExtraCellText, 0, CellDetail::kDescription},
+};
+static_assert(kColumns[kNumberColumn].text == &NumberText);
+
 }  // namespace
 
-std::wstring RuleCellText(const store::Rule& rule, std::size_t position, std::size_t column) {
-    switch (column) {
-        case kNumberColumn:
-            return std::to_wstring(position + 1);
-        case kDescriptionColumn:
-            return rule.description;
-        case kOperationColumn:
-            return OperationText(rule);
-        case kInputFolderColumn:
-            return rule.inputFolder;
-        case kOutputFolderColumn:
-            return rule.outputFolder;
-        case kErrorFolderColumn:
-            return ErrorFolderText(rule);
-        case kMasksColumn:
-            return MasksText(rule);
-        case kCsProfileColumn:
-            return rule.csProfile;
-        case kExtraColumn:
-            return ExtraText(rule);
-        default:
-            throw std::invalid_argument("The rule list has no such column.");
+std::span<const RuleColumn> RuleColumns() {
+    return kColumns;
+}
+
+const RuleColumn& RuleColumnAt(std::size_t column) {
+    if (column >= kColumns.size()) {
+        throw std::invalid_argument("The rule list has no such column.");
     }
+    return kColumns[column];
 }
 
 std::wstring ExtraText(const store::Rule& rule) {
-    if (rule.operation == L"MOVE") {
-        return MovePartsText(rule);
+    const editors::OperationRow* const operation = editors::FindOperation(rule.operation);
+    if (operation == nullptr) {
+        return CertificatesAndArchiveFormat(rule, operation);
     }
-    if (rule.operation == L"RESG") {
-        return ResignPartsText(rule);
+    if (operation->operation == editors::Operation::kResign) {
+        return ResignText(rule);
     }
-    const std::size_t certificateCount =
-        rule.operation == L"DCCX" ? rule.recipients.size() : rule.signerGroups.size();
-    std::wstring text = certificateCount != 0 ? std::to_wstring(certificateCount) : std::wstring();
-    AppendArchiveFormat(text, rule);
-    if (rule.operation == L"PACK") {
-        AppendPackParts(text, rule);
-    } else if (rule.operation == L"EXEC") {
-        AppendExecutionParts(text, rule);
+    store::TextList parts;
+    // Deliberate: a moving rule shows nothing of what it carries from another operation.
+    if (operation->operation != editors::Operation::kMove) {
+        AddUnlessEmpty(parts, CertificatesAndArchiveFormat(rule, operation));
     }
-    return text;
+    AddPath(parts, rule, operation->cert);
+    for (const editors::OptionRow& row : operation->rows) {
+        AddOption(parts, rule, row.option);
+    }
+    return Joined(parts);
 }
 
-store::TextList RuleColumnInsertionOrder() {
-    return {L"Extra", L"CS profile",  L"Masks", L"Error folder", L"Output folder", L"Input folder",
-            L"Rules", L"Description", L""};
-}
-
-std::wstring ColumnTitle(const store::TextList& columnNames, std::size_t column) {
-    if (column >= kRuleColumnCount || columnNames.size() != kRuleColumnCount) {
-        throw std::invalid_argument("The rule list has no such column.");
+std::vector<int> RuleColumnWidths(int listClientWidth, int scrollBarWidth, bool isFirstTime) {
+    int shared = isFirstTime ? listClientWidth - scrollBarWidth : listClientWidth;
+    int sharing = 0;
+    for (const RuleColumn& column : kColumns) {
+        shared -= column.scrollBarWidths * scrollBarWidth;
+        sharing += column.scrollBarWidths == 0 ? 1 : 0;
     }
-    return columnNames[kRuleColumnCount - 1 - column];
-}
-
-RuleColumnWidths LayOutRuleColumns(int listClientWidth, int scrollBarWidth, bool isFirstTime) {
-    constexpr int kOtherColumns = static_cast<int>(kRuleColumnCount) - 1;
-    const int width = isFirstTime ? listClientWidth - scrollBarWidth : listClientWidth;
-    const int numberWidth = 3 * scrollBarWidth;
     // A list narrower than the number column has no room for the others; a negative width would not hide
     // them, but ask the list to fit them to their texts.
-    return {.number = numberWidth, .other = std::max(0, (width - numberWidth) / kOtherColumns)};
+    const int share = std::max(0, shared / sharing);
+    std::vector<int> widths;
+    for (const RuleColumn& column : kColumns) {
+        widths.push_back(column.scrollBarWidths == 0 ? share : column.scrollBarWidths * scrollBarWidth);
+    }
+    return widths;
 }
 
 int LayOutProfileColumn(int listClientWidth, int scrollBarWidth, bool isFirstTime) {

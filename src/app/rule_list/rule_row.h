@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -9,21 +10,26 @@
 
 namespace corvane::app {
 
-/// The rule list's columns from left to right.
-inline constexpr std::size_t kNumberColumn = 0;
-inline constexpr std::size_t kDescriptionColumn = 1;
-inline constexpr std::size_t kOperationColumn = 2;
-inline constexpr std::size_t kInputFolderColumn = 3;
-inline constexpr std::size_t kOutputFolderColumn = 4;
-inline constexpr std::size_t kErrorFolderColumn = 5;
-inline constexpr std::size_t kMasksColumn = 6;
-inline constexpr std::size_t kCsProfileColumn = 7;
-inline constexpr std::size_t kExtraColumn = 8;
-inline constexpr std::size_t kRuleColumnCount = 9;
+/// What a right click on a cell of a column shows.
+enum class CellDetail { kCell, kMasks, kDescription };
 
-/// The text of one cell of the rule list, made when the list asks for it. `position` is the rule's position
-/// in its profile, from 0; `column` is one of the columns above, any other throws std::invalid_argument.
-[[nodiscard]] std::wstring RuleCellText(const store::Rule& rule, std::size_t position, std::size_t column);
+/// One column of the rule list.
+struct RuleColumn {
+    const wchar_t* title = L"";
+    /// The text of its cell; `position` is the rule's position in its profile, from 0.
+    std::wstring (*text)(const store::Rule& rule, std::size_t position) = nullptr;
+    int scrollBarWidths = 0;  ///< Its width in widths of a scroll bar; 0 for a share of what such ones leave.
+    CellDetail detail = CellDetail::kCell;
+};
+
+/// The columns from left to right.
+[[nodiscard]] std::span<const RuleColumn> RuleColumns();
+
+/// The leftmost column, which counts the rules from 1.
+inline constexpr std::size_t kNumberColumn = 0;
+
+/// The column at a position, from 0 at the left. A position that is none throws std::invalid_argument.
+[[nodiscard]] const RuleColumn& RuleColumnAt(std::size_t column);
 
 /// What a rule carries beyond its folders, as short as a cell needs it.
 [[nodiscard]] std::wstring ExtraText(const store::Rule& rule);
@@ -31,25 +37,9 @@ inline constexpr std::size_t kRuleColumnCount = 9;
 /// The title of the profile list's only column.
 inline constexpr wchar_t kProfileColumnTitle[] = L"Profiles";
 
-/// The titles of the rule list's columns in the order in which they are inserted, each at position 0, so
-/// that the last one stands leftmost.
-[[nodiscard]] store::TextList RuleColumnInsertionOrder();
-
-/// The title of the column at position `column`, from 0 at the left, out of the titles in insertion order.
-/// A column that is none throws std::invalid_argument.
-[[nodiscard]] std::wstring ColumnTitle(const store::TextList& columnNames, std::size_t column);
-
-/// The widths of the rule list's columns, in pixels.
-struct RuleColumnWidths {
-    int number = 0;  ///< The leftmost column.
-    int other = 0;   ///< Each of the eight others.
-
-    bool operator==(const RuleColumnWidths&) const = default;
-};
-
-/// Shares the client width of the rule list out among its columns; all in pixels. The first time there is
-/// no vertical scroll bar yet, so room is left for one.
-[[nodiscard]] RuleColumnWidths LayOutRuleColumns(int listClientWidth, int scrollBarWidth, bool isFirstTime);
+/// Shares the client width of the rule list out among its columns; all in pixels, from left to right. The
+/// first time there is no vertical scroll bar yet, so room is left for one.
+[[nodiscard]] std::vector<int> RuleColumnWidths(int listClientWidth, int scrollBarWidth, bool isFirstTime);
 
 /// The same for the profile list's only column.
 [[nodiscard]] int LayOutProfileColumn(int listClientWidth, int scrollBarWidth, bool isFirstTime);

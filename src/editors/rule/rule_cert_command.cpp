@@ -5,7 +5,7 @@
 namespace corvane::editors {
 
 CertCommand CertButtonCommand(const RuleForm& form) {
-    switch (LayoutOf(form.laidOutOperation).cert) {
+    switch (RowOf(form.laidOutOperation).cert) {
         case CertUse::kSecondOutputFolder:
             return CertCommand::kPickFolder;
         case CertUse::kExecutable:

@@ -9,11 +9,8 @@
 #include "certificates/selection/selection_dialog.h"
 #include "certificates/signer_lists/signer_lists_dialog.h"
 #include "editors/rule/rule_cert_command.h"
-#include "editors/rule/rule_commit.h"
 #include "editors/rule/rule_cs_profile_change.h"
 #include "editors/rule/rule_form.h"
-#include "editors/rule/rule_opening.h"
-#include "editors/rule/rule_operation_change.h"
 #include "editors/rule/rule_validation.h"
 #include "reporting/error_box.h"
 #include "reporting/message_styles.h"
@@ -36,6 +33,8 @@ constexpr std::array kRowTexts = {IDC_RULE_ROW1_EDIT, IDC_RULE_ROW2_EDIT, IDC_RU
                                   IDC_RULE_ROW4_EDIT};
 constexpr std::array kRowNumbers = {IDC_RULE_ROW1_NUMBER_EDIT, IDC_RULE_ROW2_NUMBER_EDIT,
                                     IDC_RULE_ROW3_NUMBER_EDIT};
+static_assert(kRowLabels.size() == kRowCount && kRowTexts.size() == kRowCount);
+static_assert(kRowChoices.size() == kRowCount - 1 && kRowNumbers.size() == kRowCount - 1);
 
 struct ButtonOfForm {
     int id;

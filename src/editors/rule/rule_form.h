@@ -6,23 +6,10 @@
 #include <optional>
 #include <string>
 
-#include "editors/rule/operation_layout.h"
+#include "editors/rule/operation_table.h"
 #include "store/records.h"
 
 namespace corvane::editors {
-
-/// What the picture of an icon button, or of an error box, stands for.
-enum class RuleIcon {
-    kInputFolder,
-    kOutputFolder,
-    kErrorFolder,
-    kCertificates,
-    kSecondOutputFolder,
-    kExecutable,
-    kAddMask,
-    kEditMask,
-    kDeleteMask,
-};
 
 /// A button with a picture. The tool tip is its accessible name too.
 struct IconButton {
@@ -114,20 +101,26 @@ struct RuleForm {
 /// The text of the selected entry; empty where there is none.
 [[nodiscard]] std::wstring SelectedEntry(const ChoiceField& choice);
 
-/// Shows, enables and labels every field as the operation wants it. The values stay.
-void ShowLayout(RuleForm& form, Operation operation);
+/// The CS profile that was accepted last, as its index in the profile. There is one for the whole program,
+/// owned by whoever opens rule editors, and it outlives each of them.
+struct AcceptedCsProfile {
+    int index = 0;
+};
 
-/// Fills the archiver choice, where the operation has one, with the entries that it has for this operation.
-/// The index stays.
-void FillArchivers(ChoiceField& choice, const OperationLayout& layout);
+/// The form with which the editor opens on `rule` of `profile`. A rule without an operation is a new one and
+/// gives nothing but that to the form. Opening any other rule sets `accepted`, opening a new one leaves it.
+[[nodiscard]] RuleForm OpenRule(const store::Profile& profile, const store::Rule& rule,
+                                AcceptedCsProfile& accepted);
 
-/// True where the choice holds archivers, with or without "No".
-[[nodiscard]] bool HoldsArchivers(const ChoiceField& choice);
-/// True where the choice holds archivers, "No" among them.
-[[nodiscard]] bool HoldsNoArchiver(const ChoiceField& choice);
+/// The user selected an operation: the form goes over from the operation that it shows to the selected one.
+/// What the user entered is kept, emptied or reset as the two operations want it. With no operation selected
+/// nothing happens.
+void ChangeOperation(RuleForm& form);
 
-/// Fills the choice with the two signature formats. The index stays.
-void FillSignatureFormats(ChoiceField& choice);
+/// The rule that a checked form stands for. It holds what the selected operation uses, as the user left it;
+/// everything else is empty or 0, whatever the edited rule held. A rule that was edited is always switched
+/// on.
+[[nodiscard]] store::Rule CommitRule(const RuleForm& form);
 
 /// The label of the certificate field: what the operation wants to have in it.
 [[nodiscard]] std::wstring CertLabel(Operation operation);

@@ -56,7 +56,7 @@ Refusal CheckFolder(const FolderToCheck& folder, toolkit::FileCalls& files) {
     return FileReport(folder, code);
 }
 
-Refusal CheckFoldersAreSet(const RuleForm& form, const OperationLayout& layout) {
+Refusal CheckFoldersAreSet(const RuleForm& form, const OperationRow& layout) {
     if (IsNotSet(form.inputFolder.text)) {
         return ErrorBox(L"No Input folder selected.", RuleIcon::kInputFolder, RuleField::kInputFolder);
     }
@@ -69,7 +69,7 @@ Refusal CheckFoldersAreSet(const RuleForm& form, const OperationLayout& layout) 
     return std::nullopt;
 }
 
-Refusal CheckFolders(const RuleForm& form, const OperationLayout& layout, toolkit::FileCalls& files) {
+Refusal CheckFolders(const RuleForm& form, const OperationRow& layout, toolkit::FileCalls& files) {
     Refusal refusal =
         CheckFolder({form.inputFolder.text, L"Bad Input folder.", RuleField::kInputFolder}, files);
     if (!refusal && layout.usesOutputFolder) {
@@ -114,7 +114,7 @@ std::optional<RuleRefusal> CheckRule(const RuleForm& form, toolkit::FileCalls& f
     if (!operation) {
         return Message(L"No operation selected.", RuleField::kOperation);
     }
-    const OperationLayout& layout = LayoutOf(*operation);
+    const OperationRow& layout = RowOf(*operation);
     Refusal refusal = CheckFoldersAreSet(form, layout);
     if (!refusal) {
         refusal = CheckFolders(form, layout, files);

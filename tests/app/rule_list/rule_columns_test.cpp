@@ -10,50 +10,54 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(RuleColumns, AreInsertedFromTheLastToTheFirst) {
-    EXPECT_THAT(app::RuleColumnInsertionOrder(),
-                ElementsAre(L"Extra", L"CS profile", L"Masks", L"Error folder", L"Output folder",
-                            L"Input folder", L"Rules", L"Description", L""));
-}
-
-TEST(RuleColumns, StandInTheReverseOrderOfTheirInsertion) {
+TEST(RuleColumns, StandFromTheNumberToExtra) {
     store::TextList titles;
-    const store::TextList inserted = app::RuleColumnInsertionOrder();
-    for (std::size_t column = 0; column < app::kRuleColumnCount; ++column) {
-        titles.push_back(app::ColumnTitle(inserted, column));
+    for (const app::RuleColumn& column : app::RuleColumns()) {
+        titles.emplace_back(column.title);
     }
     EXPECT_THAT(titles, ElementsAre(L"", L"Description", L"Rules", L"Input folder", L"Output folder",
                                     L"Error folder", L"Masks", L"CS profile", L"Extra"));
 }
 
 TEST(RuleColumns, TheNumberColumnHasNoTitle) {
-    EXPECT_EQ(app::ColumnTitle(app::RuleColumnInsertionOrder(), app::kNumberColumn), L"");
+    EXPECT_STREQ(app::RuleColumnAt(app::kNumberColumn).title, L"");
 }
 
-TEST(RuleColumns, TheTitleOfNoColumnIsAFault) {
-    EXPECT_THROW((void)app::ColumnTitle(app::RuleColumnInsertionOrder(), app::kRuleColumnCount),
-                 std::invalid_argument);
-    EXPECT_THROW((void)app::ColumnTitle({L"Extra"}, 8), std::invalid_argument);
-    EXPECT_THROW((void)app::ColumnTitle({}, 0), std::invalid_argument);
+TEST(RuleColumns, OnlyMasksAndExtraShowMoreThanTheirCell) {
+    for (const app::RuleColumn& column : app::RuleColumns()) {
+        const std::wstring title = column.title;
+        EXPECT_EQ(column.detail, title == L"Masks"   ? app::CellDetail::kMasks
+                                 : title == L"Extra" ? app::CellDetail::kDescription
+                                                     : app::CellDetail::kCell);
+    }
 }
 
-TEST(LayOutRuleColumns, SharesTheWidthAfterTheNumberColumnAmongEight) {
-    EXPECT_EQ(app::LayOutRuleColumns(851, 17, false), (app::RuleColumnWidths{.number = 51, .other = 100}));
+TEST(RuleColumns, AColumnThatIsNoneIsAFault) {
+    EXPECT_THROW((void)app::RuleColumnAt(9), std::invalid_argument);
+    EXPECT_THROW((void)app::RuleColumnAt(static_cast<std::size_t>(-1)), std::invalid_argument);
 }
 
-TEST(LayOutRuleColumns, TheFirstTimeLeavesRoomForTheScrollBar) {
-    EXPECT_EQ(app::LayOutRuleColumns(868, 17, true), (app::RuleColumnWidths{.number = 51, .other = 100}));
-    EXPECT_EQ(app::LayOutRuleColumns(867, 17, true), (app::RuleColumnWidths{.number = 51, .other = 99}));
+TEST(RuleColumnWidths, TheNumberColumnLeavesTheRestToTheEightOthers) {
+    EXPECT_THAT(app::RuleColumnWidths(851, 17, false),
+                ElementsAre(51, 100, 100, 100, 100, 100, 100, 100, 100));
 }
 
-TEST(LayOutRuleColumns, DividesWholePixels) {
-    EXPECT_EQ(app::LayOutRuleColumns(858, 17, false).other, 100);
-    EXPECT_EQ(app::LayOutRuleColumns(859, 17, false).other, 101);
+TEST(RuleColumnWidths, TheFirstTimeLeavesRoomForTheScrollBar) {
+    EXPECT_THAT(app::RuleColumnWidths(868, 17, true),
+                ElementsAre(51, 100, 100, 100, 100, 100, 100, 100, 100));
+    EXPECT_THAT(app::RuleColumnWidths(867, 17, true), ElementsAre(51, 99, 99, 99, 99, 99, 99, 99, 99));
 }
 
-TEST(LayOutRuleColumns, AListTooNarrowForTheNumberColumnHasColumnsWithoutWidth) {
-    EXPECT_EQ(app::LayOutRuleColumns(20, 17, false), (app::RuleColumnWidths{.number = 51, .other = 0}));
-    EXPECT_EQ(app::LayOutRuleColumns(0, 17, true), (app::RuleColumnWidths{.number = 51, .other = 0}));
+TEST(RuleColumnWidths, DividesWholePixels) {
+    EXPECT_THAT(app::RuleColumnWidths(858, 17, false),
+                ElementsAre(51, 100, 100, 100, 100, 100, 100, 100, 100));
+    EXPECT_THAT(app::RuleColumnWidths(859, 17, false),
+                ElementsAre(51, 101, 101, 101, 101, 101, 101, 101, 101));
+}
+
+TEST(RuleColumnWidths, AListTooNarrowForTheNumberColumnHasColumnsWithoutWidth) {
+    EXPECT_THAT(app::RuleColumnWidths(20, 17, false), ElementsAre(51, 0, 0, 0, 0, 0, 0, 0, 0));
+    EXPECT_THAT(app::RuleColumnWidths(0, 17, true), ElementsAre(51, 0, 0, 0, 0, 0, 0, 0, 0));
 }
 
 TEST(LayOutProfileColumn, TakesTheWholeWidthButTheFirstTimeForTheScrollBar) {

@@ -1,9 +1,11 @@
-#include "editors/rule/operation_layout.h"
+#include "editors/rule/operation_table.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <iterator>
+#include <string_view>
+#include <utility>
 
 #include "editors/rule/rule_form.h"
 #include "store/records.h"
@@ -132,24 +134,64 @@ void ExpectSeen(const editors::RuleForm& form, const SeenOperation& seen) {
     EXPECT_TRUE(form.operation.isShown && form.outputFolder.isShown && form.cert.isShown);
 }
 
-TEST(OperationLayout, HasTheCodesInTheOrderOfTheOperationChoice) {
-    const corvane::store::TextList codes = store::SplitEntries(store::OperationCode);
-    ASSERT_EQ(editors::kOperationLayouts.size(), codes.size());
-    ASSERT_EQ(kCodes.size(), codes.size());
-    for (std::size_t index = 0; index < codes.size(); ++index) {
-        EXPECT_EQ(std::wstring(editors::kOperationLayouts[index].code), codes[index]);
-        EXPECT_EQ(kCodes[index], codes[index]);
+constexpr std::pair<std::wstring_view, std::wstring_view> kNames[] = {
+    {L"ENCR", L"Encrypt"},
+    {L"DECR", L"Decrypt"},
+    {L"HASH", L"Hash file"},
+    {L"B64E", L"Encode b64"},
+    {L"B64D", L"Decode b64"},
+    {L"SIGN", L"Attached signature"},
+    {L"CHCK", L"Verify attached signature"},
+    {L"CHKX", L"Verify and delete attached signature"},
+    {L"MOVE", L"Move"},
+    {L"DELE", L"Delete"},
+    {L"LENC", L"Encrypt long file"},
+    {L"LDEC", L"Decrypt long file"},
+    {L"CDSG", L"Create detached signature"},
+    {L"DSIG", L"Add detached signature"},
+    {L"DCHK", L"Verify detached signature"},
+    {L"DELS", L"Delete signatures without verification"},
+    {L"RESG", L"Resign"},
+    {L"SGEN", L"Create attached signature and encrypt"},
+    {L"DCCX", L"Decrypt, verify and delete attached signatures"},
+    {L"ARCH", L"Archivate file"},
+    {L"UNAR", L"Unarchivate file"},
+    {L"PACK", L"Pack files"},
+    {L"UNPK", L"Unpack files"},
+    {L"EXEC", L"Execute"},
+};
+
+TEST(OperationLayout, HasTheCodesAndNamesInTheOrderOfTheOperationChoice) {
+    ASSERT_EQ(editors::kOperations.size(), std::size(kNames));
+    ASSERT_EQ(kCodes.size(), std::size(kNames));
+    for (std::size_t index = 0; index < std::size(kNames); ++index) {
+        EXPECT_EQ(editors::kOperations[index].code, kNames[index].first) << "code " << index;
+        EXPECT_EQ(editors::kOperations[index].name, kNames[index].second) << "name " << index;
+        EXPECT_EQ(kCodes[index], kNames[index].first);
+    }
+}
+
+TEST(OperationLayout, EveryCodeIsShownByItsName) {
+    for (const auto& [code, name] : kNames) {
+        EXPECT_EQ(editors::OperationDisplayName(code), name);
+    }
+}
+
+TEST(OperationLayout, ATextThatIsNoCodeIsShownAsItIs) {
+    for (const wchar_t* text :
+         {L"", L"ENC", L"encr", L"ENCRY", L"XXXX", L"NCR\n", L"ENCR\nDECR", L"Encrypt"}) {
+        EXPECT_EQ(editors::OperationDisplayName(text), text);
     }
 }
 
 TEST(OperationLayout, EveryOperationNamesItsOwnRowOfTheTable) {
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kEncrypt).code, L"ENCR");
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kMove).code, L"MOVE");
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kDelete).code, L"DELE");
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kResign).code, L"RESG");
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kArchive).code, L"ARCH");
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kPack).code, L"PACK");
-    EXPECT_EQ(editors::LayoutOf(editors::Operation::kExecute).code, L"EXEC");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kEncrypt).code, L"ENCR");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kMove).code, L"MOVE");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kDelete).code, L"DELE");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kResign).code, L"RESG");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kArchive).code, L"ARCH");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kPack).code, L"PACK");
+    EXPECT_EQ(editors::RowOf(editors::Operation::kExecute).code, L"EXEC");
 }
 
 TEST(OperationLayout, AnOpenedRuleShowsTheFieldsOfEachOfThe24Operations) {
@@ -172,7 +214,7 @@ TEST(OperationLayout, AChangeOfOperationShowsTheFieldsOfEachOperationWhereverItC
 }
 
 TEST(CertLabel, SaysWhatTheOperationWantsInTheField) {
-    for (std::size_t i = 0; i < editors::kOperationLayouts.size(); ++i) {
+    for (std::size_t i = 0; i < editors::kOperations.size(); ++i) {
         const std::wstring code = kCodes[i];
         const wchar_t* const expected = IsOneOf(code, L"ENCR LENC SGEN")             ? L"Recipients:"
                                         : IsOneOf(code, L"CHCK CHKX DCHK RESG DCCX") ? L"Signer lists:"

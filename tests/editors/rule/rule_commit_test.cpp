@@ -1,10 +1,9 @@
-#include "editors/rule/rule_commit.h"
+#include "editors/rule/rule_form.h"
 
 #include <gtest/gtest.h>
 
-#include "editors/rule/rule_operation_change.h"
-#include "tests/kit/fakes/registry_snapshot.h"
 #include "tests/kit/samples/sample_rules.h"
+#include "tests/kit/fakes/registry_snapshot.h"
 
 namespace corvane::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "editors/rule/rule_opening.h"
+#include "editors/rule/rule_form.h"
 #include "reporting/message_styles.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
 #include "tests/kit/samples/sample_rules.h"

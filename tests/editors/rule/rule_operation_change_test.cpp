@@ -1,4 +1,4 @@
-#include "editors/rule/rule_operation_change.h"
+#include "editors/rule/rule_form.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "editors/rule/rule_operation_change.h"
+#include "editors/rule/rule_form.h"
 #include "tests/editors/rule/described_form.h"
 #include "tests/editors/rule/literal_operation_steps.h"
-#include "tests/kit/fakes/registry_snapshot.h"
 #include "tests/kit/samples/sample_rules.h"
+#include "tests/kit/fakes/registry_snapshot.h"
 
 namespace corvane::test {
 namespace {
@@ -31,7 +31,7 @@ void EnterSomethingEverywhere(editors::RuleForm& form, int choiceIndex) {
         const int last = static_cast<int>(field.entries.size()) - 1;
         field.index = field.isShown ? std::min(choiceIndex, last) : field.index;
     }
-    const editors::CertUse use = editors::LayoutOf(form.laidOutOperation).cert;
+    const editors::CertUse use = editors::RowOf(form.laidOutOperation).cert;
     if (use == editors::CertUse::kRecipients) {
         form.recipients = {L"CN=Typed", L"CN=Too"};
         form.cert.text = L"2";

@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "editors/rule/rule_opening.h"
-#include "editors/rule/rule_operation_change.h"
-
 namespace corvane::test {
 
 int IndexOfCode(const std::wstring& code) {
