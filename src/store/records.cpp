@@ -2,16 +2,11 @@
 
 #include <algorithm>
 
+#include "store/cs_profile_settings.h"
+
 namespace corvane::store {
 
 namespace {
-
-template <typename Element>
-void TakeEntry(const std::vector<Element>& list, std::size_t index, Element& field) {
-    if (index < list.size()) {
-        field = list[index];
-    }
-}
 
 template <typename State>
 auto FindProfileNamed(State& state) -> decltype(state.profiles.data()) {
@@ -25,17 +20,11 @@ auto FindProfileNamed(State& state) -> decltype(state.profiles.data()) {
 
 CsProfile CsProfileAt(const Profile& profile, std::size_t index) {
     CsProfile entry;
-    TakeEntry(profile.csProfiles, index, entry.name);
-    TakeEntry(profile.timeStampServers, index, entry.timeStampServer);
-    TakeEntry(profile.autoUseTimeStamp, index, entry.autoUseTimeStamp);
-    TakeEntry(profile.autoVerifyTimeStamp, index, entry.autoVerifyTimeStamp);
-    TakeEntry(profile.noTimeStampIsError, index, entry.noTimeStampIsError);
-    TakeEntry(profile.notAddCertificate, index, entry.notAddCertificate);
-    TakeEntry(profile.notCopyToLocal, index, entry.notCopyToLocal);
-    TakeEntry(profile.notLoadCrl, index, entry.notLoadCrl);
-    TakeEntry(profile.crlUpdatePeriods, index, entry.crlUpdatePeriod);
-    TakeEntry(profile.notUseDirectory, index, entry.notUseDirectory);
-    TakeEntry(profile.useAuthorityAccess, index, entry.useAuthorityAccess);
+    ForEachCsProfileSetting(profile, entry, [index](const auto& list, auto& field) {
+        if (index < list.size()) {
+            field = list[index];
+        }
+    });
     return entry;
 }
 

@@ -16,6 +16,7 @@
 #include "editors/profile/profile_form.h"
 #include "editors/rule/rule_form.h"
 #include "reporting/message_styles.h"
+#include "store/cs_profile_settings.h"
 #include "store/registry/load_configuration.h"
 #include "store/registry/save_configuration.h"
 #include "store/rules_file/rules_file.h"
@@ -434,14 +435,9 @@ struct ProfileCase : World {
     // The settings that are shown are kept for the CS profile whose index is remembered: it must be theirs.
     void ExpectConsistent() const {
         const std::size_t count = form.result.csProfiles.size();
-        EXPECT_EQ(form.result.timeStampServers.size(), count);
-        for (const store::NumberList* list :
-             {&form.result.notUseDirectory, &form.result.notAddCertificate, &form.result.notCopyToLocal,
-              &form.result.autoVerifyTimeStamp, &form.result.noTimeStampIsError,
-              &form.result.useAuthorityAccess, &form.result.autoUseTimeStamp, &form.result.notLoadCrl,
-              &form.result.crlUpdatePeriods}) {
-            EXPECT_EQ(list->size(), count);
-        }
+        store::ForEachCsProfileSetting(
+            form.result, form.shown,
+            [count](const auto& list, const auto& /*field*/) { EXPECT_EQ(list.size(), count); });
         ASSERT_LT(static_cast<std::size_t>(shown.index), count);
         EXPECT_EQ(form.result.csProfiles[static_cast<std::size_t>(shown.index)], form.shown.name);
     }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/core/editors/sample_rules.h"
+#include "tests/kit/samples/sample_rules.h"
 
 namespace corvane::test {
 namespace {

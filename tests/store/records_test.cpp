@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "store/cs_profile_settings.h"
+
 namespace corvane::test {
 namespace {
 
@@ -47,6 +51,23 @@ TEST(Records, ACsProfileEntryIsTakenFromAllElevenLists) {
     profile.useAuthorityAccess = {0, 19};
     EXPECT_EQ(store::CsProfileAt(profile, 1),
               (store::CsProfile{L"second", L"b", 11, 12, 13, 14, 15, 16, 17, 18, 19}));
+}
+
+// Names every field, so that a new one that no row of the table knows does not compile here.
+TEST(Records, EachFieldOfACsProfileAndEachListHasOneSetting) {
+    store::Profile profile;
+    store::CsProfile entry;
+    auto& [name, server, use, verify, isError, notAdd, notCopy, notLoad, period, notDirectory, access] =
+        entry;
+    std::multiset<const void*> fields;
+    std::set<const void*> lists;
+    store::ForEachCsProfileSetting(profile, entry, [&fields, &lists](const auto& list, const auto& field) {
+        fields.insert(&field);
+        lists.insert(&list);
+    });
+    EXPECT_EQ(fields, (std::multiset<const void*>{&name, &server, &use, &verify, &isError, &notAdd, &notCopy,
+                                                  &notLoad, &period, &notDirectory, &access}));
+    EXPECT_EQ(lists.size(), fields.size());
 }
 
 TEST(Records, AListThatIsTooShortGivesTheDefaultOfItsField) {

@@ -3,9 +3,9 @@
 #include <set>
 
 #include "store/records.h"
-#include "tests/kit/samples/sample_rules.h"
 #include "tests/kit/fakes/reg_file.h"
 #include "tests/kit/fixtures/store_fixture.h"
+#include "tests/kit/samples/sample_rules.h"
 
 // The example that the program is shown with, through the same doors as a user's own configuration.
 

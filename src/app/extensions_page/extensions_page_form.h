@@ -17,7 +17,7 @@ inline constexpr wchar_t kAddExtensionText[] = L"Add";
 inline constexpr wchar_t kDeleteExtensionText[] = L"Delete";
 
 /// A basic extension of the settings.
-using ExtensionField = std::wstring store::AppSettings::*;
+using ExtensionField = store::FieldOf<store::AppSettings, std::wstring>;
 
 /// What the file name extensions page edits and decides. The dialog copies the eight basic extensions of
 /// `settings` from and to its controls; its list box keeps the additional ones, sorted.

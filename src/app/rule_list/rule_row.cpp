@@ -83,7 +83,7 @@ std::wstring NumberText(const store::Rule& /*rule*/, std::size_t position) {
 }
 
 /// The text of a field of the rule as it is.
-template <std::wstring store::Rule::*field>
+template <store::FieldOf<store::Rule, std::wstring> field>
 std::wstring FieldText(const store::Rule& rule, std::size_t /*position*/) {
     return rule.*field;
 }

@@ -39,7 +39,8 @@ consteval bool CertFieldsStandInTheirPlace() {
     }
     return true;
 }
-static_assert(CertFieldsStandInTheirPlace(), "Every use has one row, at the place that its enumerator numbers.");
+static_assert(CertFieldsStandInTheirPlace(),
+              "Every use has one row, at the place that its enumerator numbers.");
 
 consteval bool LastRowsAreTexts() {
     return std::all_of(kOperations.begin(), kOperations.end(), [](const OperationRow& operation) {

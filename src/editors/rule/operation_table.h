@@ -65,7 +65,8 @@ struct CertField {
     std::wstring_view label;
     std::wstring_view toolTip;
     RuleIcon icon = RuleIcon::kCertificates;
-    std::wstring store::Rule::*path = nullptr;  ///< What is typed into the field; else it shows a number.
+    store::FieldOf<store::Rule, std::wstring> path =
+        nullptr;  ///< What is typed into the field; else it shows a number.
 };
 
 inline constexpr std::array<CertField, 5> kCertFields{{
@@ -86,35 +87,35 @@ inline constexpr std::array<CertField, 5> kCertFields{{
 
 /// A text that is typed.
 struct TextOption {
-    std::wstring store::Rule::*field;
+    store::FieldOf<store::Rule, std::wstring> field;
 
     bool operator==(const TextOption&) const = default;
 };
 
 /// A number of digits.
 struct NumberOption {
-    std::int32_t store::Rule::*field;
+    store::FieldOf<store::Rule, std::int32_t> field;
 
     bool operator==(const NumberOption&) const = default;
 };
 
 /// A choice of attached or detached signatures.
 struct SignatureFormatOption {
-    std::int32_t store::Rule::*field;
+    store::FieldOf<store::Rule, std::int32_t> field;
 
     bool operator==(const SignatureFormatOption&) const = default;
 };
 
 /// A choice of the profile's CS profiles.
 struct CsProfileOption {
-    std::wstring store::Rule::*field;
+    store::FieldOf<store::Rule, std::wstring> field;
 
     bool operator==(const CsProfileOption&) const = default;
 };
 
 /// A choice of archivers, with "No" as its first entry or without.
 struct ArchiverOption {
-    std::int32_t store::Rule::*field;
+    store::FieldOf<store::Rule, std::int32_t> field;
     bool hasNo;
 
     bool operator==(const ArchiverOption&) const = default;

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "store/cs_profile_settings.h"
 #include "store/records.h"
 #include "store/registry/registry_access.h"
 #include "store/registry/registry_layout.h"
@@ -73,18 +74,12 @@ class ConfigurationLoad {
         writer.Write(FirstSettingsLayout(), AppSettings{});
 
         Profile profile;
-        profile.timeStampServers = {kNotSetText};
-        profile.csProfiles = {state_.csProfileCatalogue.front()};
-        for (const FieldOf<Profile, NumberList> list :
-             {&Profile::autoUseTimeStamp, &Profile::autoVerifyTimeStamp, &Profile::notAddCertificate,
-              &Profile::notCopyToLocal, &Profile::notLoadCrl, &Profile::noTimeStampIsError,
-              &Profile::useAuthorityAccess}) {
-            profile.*list = {0};
-        }
-        profile.notUseDirectory = {1};
+        CsProfile entry;
+        entry.name = state_.csProfileCatalogue.front();
+        ForEachCsProfileSetting(profile, entry, [](auto& list, const auto& field) { list.push_back(field); });
         // The update periods are deliberately stored as an empty list, as every default profile so far has
         // them; the 1 comes from the padding when they are read.
-        profile.crlUpdatePeriods = {};
+        profile.crlUpdatePeriods.clear();
         if (!Create(ProfileKey(kFirstProfileName))) {
             return false;
         }
@@ -118,8 +113,9 @@ class ConfigurationLoad {
             return false;
         }
         reader_.Read(ProfileLayout(), profile);
+        // Profiles from before update periods existed have none.
         if (profile.crlUpdatePeriods.size() < profile.notLoadCrl.size()) {
-            profile.crlUpdatePeriods.resize(profile.notLoadCrl.size(), 1);
+            profile.crlUpdatePeriods.resize(profile.notLoadCrl.size(), CsProfile().crlUpdatePeriod);
         }
 
         const std::wstring rulesKey = RulesKey(profile.name);

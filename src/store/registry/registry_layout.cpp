@@ -2,7 +2,10 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
+#include <variant>
 
+#include "store/cs_profile_settings.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::store {
@@ -23,16 +26,6 @@ template <typename Record>
 constexpr StoredValue<Record> Text(const wchar_t* name, FieldOf<Record, std::wstring> field,
                                    std::uint32_t loadFlags, std::uint32_t saveFlags) {
     return {name, StoredText<Record>{field}, loadFlags, saveFlags};
-}
-
-template <typename Record>
-constexpr StoredValue<Record> List(const wchar_t* name, FieldOf<Record, TextList> field) {
-    return {name, StoredTextList<Record>{field}};
-}
-
-template <typename Record>
-constexpr StoredValue<Record> List(const wchar_t* name, FieldOf<Record, NumberList> field) {
-    return {name, StoredNumberList<Record>{field}};
 }
 
 template <typename Record>
@@ -80,19 +73,14 @@ constexpr std::array kSettingsRows{
     Number(L"Log filesize", &AppSettings::logFileSize, kShow, kShow),
 };
 
-constexpr std::array kProfileRows{
-    List(L"ServerTSP", &Profile::timeStampServers),
-    List(L"ZCSProfile", &Profile::csProfiles),
-    List(L"NotUseLDAP", &Profile::notUseDirectory),
-    List(L"NotCopyToLocal", &Profile::notCopyToLocal),
-    List(L"AutoUseTSP", &Profile::autoUseTimeStamp),
-    List(L"AutoVerifyTSP", &Profile::autoVerifyTimeStamp),
-    List(L"NoTSPisError", &Profile::noTimeStampIsError),
-    List(L"UseAIA", &Profile::useAuthorityAccess),
-    List(L"NotAddCert", &Profile::notAddCertificate),
-    List(L"NotLoadCrl", &Profile::notLoadCrl),
-    // Padded with 1 to the length of "NotLoadCrl" after reading, for profiles from before it existed.
-    List(L"CrlUpdatePeriod", &Profile::crlUpdatePeriods),
+constexpr StoredValue<Profile> StoredList(const CsProfileSetting& setting) {
+    if (const auto* const texts = std::get_if<CsProfileTexts>(&setting.values)) {
+        return {setting.name, StoredTextList<Profile>{texts->list}};
+    }
+    return {setting.name, StoredNumberList<Profile>{std::get<CsProfileNumbers>(setting.values).list}};
+}
+
+constexpr std::array kProfileOptionRows{
     Number(L"Verify File", &Profile::verifyFile, kShowThree, kShowThree),
     Number(L"Verify x file", &Profile::verifyXFile, kShowThree, kShowThree),
     Number(L"Verify det file", &Profile::verifyDetachedFile, kShowThree, kShowThree),
@@ -100,6 +88,17 @@ constexpr std::array kProfileRows{
     Number(L"Handler timeout", &Profile::handlerTimeout, kShow, kShowThree),
     Number(L"Rename conf files", &Profile::renameConfFiles, kShow, kShowThree),
 };
+
+using SettingPlaces = std::make_index_sequence<kCsProfileSettings.size()>;
+using ProfileOptionPlaces = std::make_index_sequence<kProfileOptionRows.size()>;
+
+template <std::size_t... setting, std::size_t... option>
+consteval auto ProfileRows(std::index_sequence<setting...> /*settings*/,
+                           std::index_sequence<option...> /*options*/) {
+    return std::array{StoredList(kCsProfileSettings[setting])..., kProfileOptionRows[option]...};
+}
+
+constexpr std::array kProfileRows = ProfileRows(SettingPlaces(), ProfileOptionPlaces());
 
 constexpr std::array kRuleRows{
     RuleText(L"Operation", &Rule::operation),
@@ -161,17 +160,26 @@ constexpr std::array kFirstSettingsRows{
     FirstSetting(L"Log filesize"),
 };
 
-constexpr std::array kFirstProfileRows{
-    RowNamed(kProfileRows, L"AutoUseTSP"),      RowNamed(kProfileRows, L"AutoVerifyTSP"),
-    RowNamed(kProfileRows, L"NotAddCert"),      RowNamed(kProfileRows, L"NotCopyToLocal"),
-    RowNamed(kProfileRows, L"NotLoadCrl"),      RowNamed(kProfileRows, L"CrlUpdatePeriod"),
-    RowNamed(kProfileRows, L"NoTSPisError"),    RowNamed(kProfileRows, L"NotUseLDAP"),
-    RowNamed(kProfileRows, L"ServerTSP"),       RowNamed(kProfileRows, L"UseAIA"),
-    RowNamed(kProfileRows, L"Verify File"),     RowNamed(kProfileRows, L"Verify x file"),
-    RowNamed(kProfileRows, L"Verify det file"), RowNamed(kProfileRows, L"Verify resign file"),
-    RowNamed(kProfileRows, L"Handler timeout"), RowNamed(kProfileRows, L"Rename conf files"),
-    RowNamed(kProfileRows, L"ZCSProfile"),
-};
+consteval StoredValue<Profile> FirstStored(std::size_t place) {
+    for (const CsProfileSetting& setting : kCsProfileSettings) {
+        if (setting.firstPlace == place) {
+            return StoredList(setting);
+        }
+    }
+    throw "no setting has this place";
+}
+
+/// The names of the CS profiles come last, after the options.
+template <std::size_t... setting, std::size_t... option>
+consteval auto FirstProfileRows(std::index_sequence<setting...> /*all but the last*/,
+                                std::index_sequence<option...> /*options*/) {
+    return std::array{FirstStored(setting)..., kProfileOptionRows[option]...,
+                      FirstStored(sizeof...(setting))};
+}
+
+constexpr std::array kFirstProfileRows =
+    FirstProfileRows(std::make_index_sequence<kCsProfileSettings.size() - 1>(), ProfileOptionPlaces());
+static_assert(kFirstProfileRows.size() == kProfileRows.size());
 
 }  // namespace
 

@@ -96,7 +96,9 @@ class OwnerListViewTest : public ::testing::Test {
         }
         checks_.assign(count, false);
     }
-    [[nodiscard]] certificates::OwnerRow RowAt(std::size_t row) const { return {owners_.at(row), checks_.at(row)}; }
+    [[nodiscard]] certificates::OwnerRow RowAt(std::size_t row) const {
+        return {owners_.at(row), checks_.at(row)};
+    }
     [[nodiscard]] int TopRow() const { return view_.Control().TopRow(); }
 
     static constexpr std::size_t kManyOwners = 60;

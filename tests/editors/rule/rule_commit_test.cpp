@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/kit/samples/sample_rules.h"
 #include "tests/kit/fakes/registry_snapshot.h"
+#include "tests/kit/samples/sample_rules.h"
 
 namespace corvane::test {
 namespace {

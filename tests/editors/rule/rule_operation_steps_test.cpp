@@ -5,8 +5,8 @@
 #include "editors/rule/rule_form.h"
 #include "tests/editors/rule/described_form.h"
 #include "tests/editors/rule/literal_operation_steps.h"
-#include "tests/kit/samples/sample_rules.h"
 #include "tests/kit/fakes/registry_snapshot.h"
+#include "tests/kit/samples/sample_rules.h"
 
 namespace corvane::test {
 namespace {

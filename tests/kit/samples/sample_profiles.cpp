@@ -1,5 +1,7 @@
 #include "tests/kit/samples/sample_profiles.h"
 
+#include "store/cs_profile_settings.h"
+
 namespace corvane::test {
 
 store::CsProfile FilledCsProfile(const std::wstring& name, std::int32_t seed) {
@@ -22,28 +24,19 @@ store::Profile ProfileWith(const std::wstring& name, const store::TextList& csPr
     std::int32_t seed = 0;
     for (const std::wstring& csProfile : csProfiles) {
         const store::CsProfile entry = FilledCsProfile(csProfile, seed++);
-        profile.csProfiles.push_back(entry.name);
-        profile.timeStampServers.push_back(entry.timeStampServer);
-        profile.autoUseTimeStamp.push_back(entry.autoUseTimeStamp);
-        profile.autoVerifyTimeStamp.push_back(entry.autoVerifyTimeStamp);
-        profile.noTimeStampIsError.push_back(entry.noTimeStampIsError);
-        profile.notAddCertificate.push_back(entry.notAddCertificate);
-        profile.notCopyToLocal.push_back(entry.notCopyToLocal);
-        profile.notLoadCrl.push_back(entry.notLoadCrl);
-        profile.crlUpdatePeriods.push_back(entry.crlUpdatePeriod);
-        profile.notUseDirectory.push_back(entry.notUseDirectory);
-        profile.useAuthorityAccess.push_back(entry.useAuthorityAccess);
+        store::ForEachCsProfileSetting(profile, entry,
+                                       [](auto& list, const auto& field) { list.push_back(field); });
     }
     return profile;
 }
 
 std::vector<std::size_t> ListLengths(const store::Profile& profile) {
-    return {profile.csProfiles.size(),         profile.timeStampServers.size(),
-            profile.notUseDirectory.size(),    profile.notAddCertificate.size(),
-            profile.notCopyToLocal.size(),     profile.autoVerifyTimeStamp.size(),
-            profile.noTimeStampIsError.size(), profile.useAuthorityAccess.size(),
-            profile.autoUseTimeStamp.size(),   profile.notLoadCrl.size(),
-            profile.crlUpdatePeriods.size()};
+    const store::CsProfile unused;
+    std::vector<std::size_t> lengths;
+    store::ForEachCsProfileSetting(profile, unused, [&lengths](const auto& list, const auto& /*field*/) {
+        lengths.push_back(list.size());
+    });
+    return lengths;
 }
 
 }  // namespace corvane::test

@@ -15,6 +15,7 @@
 #include "provider/provider_library.h"
 #include "reporting/error_reporter.h"
 #include "reporting/system_messages.h"
+#include "store/cs_profile_settings.h"
 #include "store/registry/registry_calls.h"
 #include "tests/kit/scriptable_library/host_setup.h"
 #include "toolkit/dialog/modal_state.h"
@@ -29,17 +30,8 @@ namespace {
 constexpr wchar_t kWindowClass[] = L"certificate_host";
 
 void AppendCsProfile(store::Profile& profile, const store::CsProfile& csProfile) {
-    profile.csProfiles.push_back(csProfile.name);
-    profile.timeStampServers.push_back(csProfile.timeStampServer);
-    profile.notUseDirectory.push_back(csProfile.notUseDirectory);
-    profile.notAddCertificate.push_back(csProfile.notAddCertificate);
-    profile.notCopyToLocal.push_back(csProfile.notCopyToLocal);
-    profile.autoVerifyTimeStamp.push_back(csProfile.autoVerifyTimeStamp);
-    profile.noTimeStampIsError.push_back(csProfile.noTimeStampIsError);
-    profile.useAuthorityAccess.push_back(csProfile.useAuthorityAccess);
-    profile.autoUseTimeStamp.push_back(csProfile.autoUseTimeStamp);
-    profile.notLoadCrl.push_back(csProfile.notLoadCrl);
-    profile.crlUpdatePeriods.push_back(csProfile.crlUpdatePeriod);
+    store::ForEachCsProfileSetting(profile, csProfile,
+                                   [](auto& list, const auto& field) { list.push_back(field); });
 }
 
 class CertificateHost {
