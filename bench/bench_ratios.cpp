@@ -126,8 +126,8 @@ std::vector<RatioRow> MeasureLists() {
     corvane::app::RuleListView ruleList(state);
     ruleList.Attach(window.MakeList(), GetSystemMetrics(SM_CXVSCROLL));
     window.AnswerWith([&ruleList](NMHDR& header) {
-        if (header.code == LVN_GETDISPINFOW && header.hwndFrom == ruleList.Control().Window()) {
-            ruleList.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
+        if (header.hwndFrom == ruleList.Control().Window()) {
+            ruleList.Control().Answer(header);
         }
     });
     corvane::app::RuleListView plainColumns(state);

@@ -15,9 +15,9 @@ ListWindow::ListWindow() {
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
-HWND ListWindow::MakeListWith(DWORD style) const {
-    return CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS | style, 0,
-                         0, 880, 360, window_, nullptr, nullptr, nullptr);
+HWND ListWindow::MakeList() const {
+    return CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0,
+                          880, 360, window_, nullptr, nullptr, nullptr);
 }
 
 LRESULT CALLBACK ListWindow::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -17,14 +17,11 @@ class ListWindow {
     ListWindow& operator=(ListWindow&&) = delete;
 
     /// Makes a list, which belongs to the window.
-    [[nodiscard]] HWND MakeList() const { return MakeListWith(0); }
-    /// One that holds no rows of its own.
-    [[nodiscard]] HWND MakeListWithoutRows() const { return MakeListWith(LVS_OWNERDATA); }
+    [[nodiscard]] HWND MakeList() const;
     /// What the lists tell and ask goes there.
     void AnswerWith(std::function<void(NMHDR&)> answer) { answer_ = std::move(answer); }
 
   private:
-    [[nodiscard]] HWND MakeListWith(DWORD style) const;
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND window_ = nullptr;

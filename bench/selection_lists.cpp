@@ -80,10 +80,9 @@ class ManyCertificates final : public corvane::provider::ProviderLibrary {
 class SelectionLists {
   public:
     explicit SelectionLists(const ListWindow& window) : form_(settings_, Start(), text_) {
-        found_.Attach(window.MakeListWithoutRows(), L"Subjects");
-        chosen_.Attach(window.MakeListWithoutRows(), L"Recipients");
-        ShowFound();
-        ShowChosen();
+        found_.Attach(window.MakeList(), L"Subjects");
+        chosen_.Attach(window.MakeList(), L"Recipients");
+        UpdateWindow(chosen_.Control().Window());
     }
     ~SelectionLists() {
         DestroyWindow(found_.Control().Window());
@@ -96,14 +95,13 @@ class SelectionLists {
 
     [[nodiscard]] RecipientSelectionForm& Form() { return form_; }
 
-    void ShowFound() { Show(found_, form_.FoundSortMark()); }
-    void ShowChosen() { Show(chosen_, form_.ChosenSortMark()); }
+    void ShowFound() { Show(found_); }
+    void ShowChosen() { Show(chosen_); }
 
     void Answer(NMHDR& header) {
         for (OwnerListView* const list : {&found_, &chosen_}) {
-            LRESULT unused = 0;
             if (header.hwndFrom == list->Control().Window()) {
-                list->Answer(header, unused);
+                list->Answer(header);
             }
         }
     }
@@ -116,8 +114,8 @@ class SelectionLists {
         }
         return start;
     }
-    static void Show(OwnerListView& list, corvane::certificates::SortMark mark) {
-        list.Show(list.CurrentPlace(), mark);
+    static void Show(OwnerListView& list) {
+        list.Change([] {});
         UpdateWindow(list.Control().Window());
     }
 
@@ -125,12 +123,10 @@ class SelectionLists {
         corvane::certificates::SearchSettingsOf({}, corvane::certificates::CertificateUse::kRecipients);
     corvane::toolkit::WindowsSystemText text_;
     RecipientSelectionForm form_;
-    OwnerListView found_{{[this] { return form_.FoundRowCount(); },
-                          [this](std::size_t row) { return form_.FoundRow(row); },
-                          [this](std::size_t row, bool isChecked) { form_.CheckFound(row, isChecked); }}};
-    OwnerListView chosen_{{[this] { return form_.ChosenRowCount(); },
-                           [this](std::size_t row) { return form_.ChosenRow(row); },
-                           [this](std::size_t row, bool isChecked) { form_.CheckChosen(row, isChecked); }}};
+    corvane::certificates::FoundOwners foundOwners_{form_};
+    corvane::certificates::ChosenOwners chosenOwners_{form_};
+    OwnerListView found_{foundOwners_};
+    OwnerListView chosen_{chosenOwners_};
 };
 
 class SelectionBench {

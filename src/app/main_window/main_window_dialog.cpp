@@ -230,8 +230,7 @@ void CCorvaneDlg::OnProfileListNotification(const NMHDR& header) {
 bool CCorvaneDlg::OnRuleListNotification(NMHDR& header) {
     switch (header.code) {
         case LVN_GETDISPINFOW:
-            ruleList_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
-            return true;
+            return ruleList_.Control().Answer(header);
         case NM_DBLCLK:
             Execute([this] { EditSelectedRule(); });
             return true;

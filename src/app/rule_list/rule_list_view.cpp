@@ -64,7 +64,7 @@ void RuleListView::Fill(std::size_t profilePosition, const std::wstring& searchT
         const std::vector<store::Rule>* const rules = ShownRules();
         if (rules != nullptr) {
             rows_ = ListedRules(*rules, searchText, text);
-            InsertRows(*rules);
+            list_.Update();
         }
         if (keep == Keep::kScrollAndSelection) {
             Select(selectedRules);
@@ -75,15 +75,6 @@ void RuleListView::Fill(std::size_t profilePosition, const std::wstring& searchT
     FitColumnsToScrollBar();
     if (keep != Keep::kNothing) {
         list_.ScrollTo(topRow);
-    }
-}
-
-void RuleListView::InsertRows(const std::vector<store::Rule>& rules) {
-    list_.AppendRowsOnRequest(rows_.size());
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
-        if (rules[rows_[row]].isOn != 0) {
-            list_.SetChecked(static_cast<int>(row), true);
-        }
     }
 }
 
@@ -107,6 +98,12 @@ const std::vector<store::Rule>* RuleListView::ShownRules() const {
                : nullptr;
 }
 
+bool RuleListView::IsTicked(std::size_t row) const {
+    const std::vector<store::Rule>* const rules = ShownRules();
+    return rules != nullptr && row < rows_.size() && rows_[row] < rules->size() &&
+           (*rules)[rows_[row]].isOn != 0;
+}
+
 std::wstring RuleListView::CellText(std::size_t row, std::size_t column) const {
     const std::vector<store::Rule>* const rules = ShownRules();
     if (rules == nullptr || row >= rows_.size() || rows_[row] >= rules->size() ||
@@ -116,15 +113,6 @@ std::wstring RuleListView::CellText(std::size_t row, std::size_t column) const {
     return RuleColumnAt(column).text((*rules)[rows_[row]], rows_[row]);
 }
 
-void RuleListView::AnswerDisplayRequest(NMLVDISPINFOW& request) {
-    if ((request.item.mask & LVIF_TEXT) == 0 || request.item.iItem < 0 || request.item.iSubItem < 0) {
-        return;
-    }
-    std::wstring& answer = answers_[nextAnswer_];
-    nextAnswer_ = (nextAnswer_ + 1) % answers_.size();
-    answer = CellText(static_cast<std::size_t>(request.item.iItem),
-                      static_cast<std::size_t>(request.item.iSubItem));
-    request.item.pszText = answer.data();
 }
 
 }  // namespace corvane::app

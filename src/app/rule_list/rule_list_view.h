@@ -1,20 +1,18 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "store/records.h"
-#include "toolkit/controls/list_view.h"
+#include "toolkit/controls/supplied_list_view.h"
 #include "toolkit/text/system_text.h"
 
 namespace corvane::app {
 
-/// The list of the current profile's rules. Its rows hold no texts; the control asks for the text of a cell
-/// when it needs it, so filling it with thousands of rules takes no longer than a blink.
-class RuleListView {
+/// The list of the current profile's rules. What the user ticks stays in the control until it is asked for.
+class RuleListView final : private toolkit::RowSource {
   public:
     /// What a refill keeps: nothing, the scroll position, or the selected rules too, as far as they are
     /// still listed. The last is only for rules that stayed at their positions.
@@ -27,7 +25,7 @@ class RuleListView {
     /// Shares its width out among the columns. `scrollBarWidth` in pixels.
     void LayOutColumns(int scrollBarWidth);
     /// Has the check boxes drawn for the scale of today; the check marks stay.
-    void MakeCheckBoxesAgain() const { list_.MakeCheckBoxesAgain(); }
+    void MakeCheckBoxesAgain() { list_.MakeCheckBoxesAgain(); }
 
     void Clear();
     /// Shows the rules of the profile at this position of the configuration that match the search text.
@@ -37,29 +35,25 @@ class RuleListView {
     /// at the row of its own position.
     [[nodiscard]] bool ShowsEveryRuleOf(std::size_t profilePosition) const;
 
-    /// Answers the control's question for a cell's text (LVN_GETDISPINFO).
-    void AnswerDisplayRequest(NMLVDISPINFOW& request);
-    [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const;
+    [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const override;
 
-    [[nodiscard]] toolkit::ListView& Control() { return list_; }
+    [[nodiscard]] toolkit::SuppliedListView& Control() { return list_; }
     [[nodiscard]] const toolkit::ListView& Control() const { return list_; }
 
   private:
+    [[nodiscard]] std::size_t RowCount() const override { return rows_.size(); }
+    [[nodiscard]] bool IsTicked(std::size_t row) const override;
     [[nodiscard]] const std::vector<store::Rule>* ShownRules() const;
     void DeleteRows();
-    void InsertRows(const std::vector<store::Rule>& rules);
     void FitColumnsToScrollBar();
     void Select(const std::vector<std::size_t>& rulePositions) const;
 
     const store::ConfigurationState& state_;
-    toolkit::ListView list_;
+    toolkit::SuppliedListView list_{*this};
     int scrollBarWidth_ = 0;
     int laidOutWidth_ = 0;                        ///< The client width that the columns share, in pixels.
     std::optional<std::size_t> profilePosition_;  ///< None while no profile is shown.
     std::vector<std::size_t> rows_;               ///< The rule position of each row.
-    // An answered text must outlive the next two questions.
-    std::array<std::wstring, 4> answers_;
-    std::size_t nextAnswer_ = 0;
 };
 
 }  // namespace corvane::app

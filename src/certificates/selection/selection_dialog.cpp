@@ -60,20 +60,13 @@ CPreEncryptDlg::CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const C
       context_(context),
       reporter_(reporter),
       files_(files),
-      foundList_({.count = [&form] { return form.FoundRowCount(); },
-                  .row = [&form](std::size_t row) { return form.FoundRow(row); },
-                  .check = [&form](std::size_t row, bool isChecked) { form.CheckFound(row, isChecked); }}),
-      chosenList_({.count = [&form] { return form.ChosenRowCount(); },
-                   .row = [&form](std::size_t row) { return form.ChosenRow(row); },
-                   .check = [&form](std::size_t row, bool isChecked) { form.CheckChosen(row, isChecked); }}) {
-}
+      foundOwners_(form),
+      chosenOwners_(form) {}
 
 bool CPreEncryptDlg::OnInitDialog() {
     SetUpControls();
     foundList_.Attach(Control(IDC_SELECTION_FOUND_LIST), L"Subjects");
     chosenList_.Attach(Control(IDC_SELECTION_CHOSEN_LIST), L"Recipients");
-    foundList_.Show({}, form_.FoundSortMark());
-    chosenList_.Show({}, form_.ChosenSortMark());
     chosenList_.Control().Focus();
     return false;
 }
@@ -178,54 +171,31 @@ bool CPreEncryptDlg::Press(int buttonId) {
     }
 }
 
-bool CPreEncryptDlg::OnNotify(NMHDR& header, LRESULT& result) {
-    if (header.hwndFrom == foundList_.Control().Window()) {
-        return foundList_.Answer(header, result) || OnFoundNotification(header);
+bool CPreEncryptDlg::OnNotify(NMHDR& header, LRESULT& /*result*/) {
+    for (OwnerListView* const list : {&foundList_, &chosenList_}) {
+        if (header.hwndFrom == list->Control().Window()) {
+            return list->Answer(header) || OnListNotification(list->Owners(), header);
+        }
     }
-    return header.hwndFrom == chosenList_.Control().Window() &&
-           (chosenList_.Answer(header, result) || OnChosenNotification(header));
+    return false;
 }
 
-bool CPreEncryptDlg::OnFoundNotification(const NMHDR& header) {
-    switch (header.code) {
-        case LVN_COLUMNCLICK:
-            ChangeFound([this] { form_.ClickFoundHeader(); });
-            return true;
-        case NM_DBLCLK:
-            if (const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem; row >= 0) {
-                ShowDetails(form_.FoundDetails(static_cast<std::size_t>(row)));
-            }
-            return true;
-        default:
-            return false;
+bool CPreEncryptDlg::OnListNotification(const OwnerRows& owners, const NMHDR& header) {
+    if (header.code != NM_DBLCLK) {
+        return false;
     }
-}
-
-bool CPreEncryptDlg::OnChosenNotification(const NMHDR& header) {
-    switch (header.code) {
-        case LVN_COLUMNCLICK:
-            ChangeChosen([this] { form_.ClickChosenHeader(); });
-            return true;
-        case NM_DBLCLK:
-            if (const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem; row >= 0) {
-                ShowDetails(form_.ChosenDetails(static_cast<std::size_t>(row)));
-            }
-            return true;
-        default:
-            return false;
+    if (const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem; row >= 0) {
+        ShowDetails(owners.Details(static_cast<std::size_t>(row)));
     }
+    return true;
 }
 
 void CPreEncryptDlg::ChangeFound(const std::function<void()>& change) {
-    const OwnerListView::Place place = foundList_.CurrentPlace();
-    change();
-    foundList_.Show(place, form_.FoundSortMark());
+    foundList_.Change(change);
 }
 
 void CPreEncryptDlg::ChangeChosen(const std::function<void()>& change) {
-    const OwnerListView::Place place = chosenList_.CurrentPlace();
-    change();
-    chosenList_.Show(place, form_.ChosenSortMark());
+    chosenList_.Change(change);
 }
 
 void CPreEncryptDlg::SearchLocalStore() {

@@ -47,8 +47,7 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     void FitColumns() const;
     void ShowIcons();
     bool Press(int buttonId);
-    bool OnFoundNotification(const NMHDR& header);
-    bool OnChosenNotification(const NMHDR& header);
+    bool OnListNotification(const OwnerRows& owners, const NMHDR& header);
 
     /// Makes a change of the form, then shows what a list holds now.
     void ChangeFound(const std::function<void()>& change);
@@ -65,8 +64,10 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     const Cryptocontext& context_;
     reporting::ErrorReporter& reporter_;
     toolkit::FileCalls& files_;
-    OwnerListView foundList_;
-    OwnerListView chosenList_;
+    FoundOwners foundOwners_;
+    ChosenOwners chosenOwners_;
+    OwnerListView foundList_{foundOwners_};
+    OwnerListView chosenList_{chosenOwners_};
     toolkit::AnchoredLayout layout_;
     toolkit::ToolTip toolTip_;
     toolkit::ButtonIcons buttonIcons_;

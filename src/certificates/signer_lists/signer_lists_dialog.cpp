@@ -7,19 +7,23 @@
 #include "certificates/selection/recipient_selection.h"
 #include "certificates/selection/selection_dialog.h"
 #include "certificates/session/wait_dialog.h"
-#include "certificates/signer_lists/signer_list_view.h"
 #include "certificates/signer_lists/signer_lists_form.h"
 #include "reporting/unsaved_changes.h"
 #include "res/ids.h"
+#include "toolkit/controls/supplied_list_view.h"
 #include "toolkit/dialog/anchored_layout.h"
 #include "toolkit/dialog/dialog.h"
+#include "toolkit/dialog/window_geometry.h"
 #include "toolkit/system/icon.h"
 
 namespace corvane::certificates {
 
 namespace {
 
-class SignerList final : public toolkit::Dialog {
+constexpr int kNameColumn = 0;
+constexpr int kSignersColumn = 1;
+
+class SignerList final : public toolkit::Dialog, private toolkit::RowSource {
   public:
     SignerList(HWND owner, const store::Profile& profile, std::size_t csProfileIndex,
                const std::vector<store::SignerGroup>& lists, const CertServices& services,
@@ -43,9 +47,14 @@ class SignerList final : public toolkit::Dialog {
     void OnScaleChanged() override;
 
   private:
+    [[nodiscard]] std::size_t RowCount() const override { return form_.Lists().size(); }
+    [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const override;
+
     void SetUpLayout();
     void ShowIcons();
+    void SetUpList();
     void LayOutColumns() const;
+    void ShowLists();
     void ShowWhatCanBeDone() const;
 
     [[nodiscard]] SelectionPlace Place();
@@ -61,7 +70,7 @@ class SignerList final : public toolkit::Dialog {
     AwaitWindow waitWindow_;
     SignerListsForm form_;
     std::vector<store::SignerGroup> opened_{form_.Lists()};
-    SignerListView list_{form_};
+    toolkit::SuppliedListView list_{*this};
     toolkit::UniqueIcon largeIcon_;
     toolkit::UniqueIcon smallIcon_;
     toolkit::AnchoredLayout layout_;
@@ -71,12 +80,10 @@ bool SignerList::OnInitDialog() {
     SetUpLayout();
     ShowIcons();
     SetWindowTextW(Window(), kSignerListsTitle);
-    list_.Attach(Control(IDC_SIGNER_LISTS_LIST));
-    LayOutColumns();
-    list_.Update();
-    list_.Control().MarkFocus(0);
+    SetUpList();
+    list_.MarkFocus(0);
     ShowWhatCanBeDone();
-    list_.Control().Focus();
+    list_.Focus();
     return false;
 }
 
@@ -96,17 +103,44 @@ void SignerList::ShowIcons() {
     toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
 }
 
+void SignerList::SetUpList() {
+    list_.Attach(Control(IDC_SIGNER_LISTS_LIST));
+    list_.AddExtendedStyles(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
+    list_.InsertColumn(kNameColumn, L"List name");
+    list_.InsertColumn(kSignersColumn, L"Signers");
+    LayOutColumns();
+    ShowLists();
+}
+
 void SignerList::LayOutColumns() const {
-    list_.LayOutColumns(DotsPerInch());
+    // The name takes a third. Room for the scroll bar is left from the beginning, so that nothing moves when
+    // it comes.
+    const bool hasScrollBar = (GetWindowLongPtrW(list_.Window(), GWL_STYLE) & WS_VSCROLL) != 0;
+    const int scrollBarWidth = toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch());
+    const int width = list_.ClientWidth() - (hasScrollBar ? 0 : scrollBarWidth);
+    list_.SetColumnWidth(kNameColumn, width / 3);
+    list_.SetColumnWidth(kSignersColumn, width - width / 3);
+}
+
+std::wstring SignerList::CellText(std::size_t row, std::size_t column) const {
+    if (row >= form_.Lists().size()) {
+        return {};
+    }
+    return column == kNameColumn ? form_.NameCell(row) : form_.SignersCell(row);
+}
+
+void SignerList::ShowLists() {
+    const toolkit::ListView::RedrawLock locked(list_);
+    list_.Update();
 }
 
 void SignerList::ShowWhatCanBeDone() const {
-    const bool hasSelection = list_.Control().FirstSelectedRow() >= 0;
+    const bool hasSelection = list_.FirstSelectedRow() >= 0;
     const HWND focus = GetFocus();
     for (const int button : {IDC_SIGNER_LISTS_EDIT_BUTTON, IDC_SIGNER_LISTS_DELETE_BUTTON}) {
         if (!hasSelection && focus == Control(button)) {
             // A disabled button would keep the focus and take every key to nowhere.
-            list_.Control().Focus();
+            list_.Focus();
         }
         EnableControl(button, hasSelection);
     }
@@ -132,13 +166,12 @@ bool SignerList::OnCommand(int controlId, UINT notificationCode) {
 }
 
 bool SignerList::OnNotify(NMHDR& header, LRESULT& /*result*/) {
-    if (header.hwndFrom != list_.Control().Window()) {
+    if (header.hwndFrom != list_.Window()) {
         return false;
     }
     switch (header.code) {
         case LVN_GETDISPINFOW:
-            list_.AnswerDisplayRequest(reinterpret_cast<NMLVDISPINFOW&>(header));
-            return true;
+            return list_.Answer(header);
         case LVN_ITEMCHANGED:
             ShowWhatCanBeDone();
             return true;
@@ -169,26 +202,32 @@ SelectionPlace SignerList::Place() {
 void SignerList::Add() {
     if (const auto session =
             AddSignerList(form_, Place(), ShowSelectionDialog(Window(), services_.reporter, files_))) {
-        list_.Update();
-        list_.Control().ScrollIntoView(list_.Control().RowCount() - 1);
+        ShowLists();
+        list_.ScrollIntoView(list_.RowCount() - 1);
     }
 }
 
 void SignerList::EditSelected() {
-    const int row = list_.Control().FirstSelectedRow();
+    const int row = list_.FirstSelectedRow();
     if (row < 0) {
         return;
     }
     if (const auto session = EditSignerList(form_, static_cast<std::size_t>(row), Place(),
                                             ShowSelectionDialog(Window(), services_.reporter, files_))) {
-        list_.Update();
+        ShowLists();
     }
 }
 
 void SignerList::DeleteSelected() {
-    const std::vector<std::size_t> rows = list_.Control().SelectedRows();
+    const std::vector<std::size_t> rows = list_.SelectedRows();
     if (form_.Delete(rows, services_.reporter, Window())) {
-        list_.Delete(rows);
+        {
+            // Each row goes with its list, so that the others keep what is selected of them.
+            const toolkit::ListView::RedrawLock locked(list_);
+            for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+                list_.DeleteRow(static_cast<int>(*row));
+            }
+        }
         ShowWhatCanBeDone();
     }
 }

@@ -99,12 +99,6 @@ void ListView::AppendRowsOnRequest(std::size_t count) const {
     }
 }
 
-void ListView::SetRowCount(std::size_t count) const {
-    // A list that gets shorter may have to scroll.
-    const bool mayStay = count >= static_cast<std::size_t>(RowCount());
-    Send(LVM_SETITEMCOUNT, count, mayStay ? LVSICF_NOSCROLL : 0);
-}
-
 void ListView::DeleteRow(int row) const {
     Send(LVM_DELETEITEM, static_cast<WPARAM>(row));
 }

@@ -42,9 +42,6 @@ class ListView {
     /// Appends `count` rows whose texts, those of all columns, are asked for when they are needed
     /// (LVN_GETDISPINFO).
     void AppendRowsOnRequest(std::size_t count) const;
-    /// Tells a list that holds no rows of its own (LVS_OWNERDATA) how many it shows. All rows are drawn anew;
-    /// the list stays where it is scrolled to unless it gets shorter.
-    void SetRowCount(std::size_t count) const;
     void DeleteRow(int row) const;
     void DeleteAllRows() const;
     void SetRowText(int row, const std::wstring& text) const;
@@ -93,10 +90,12 @@ class ListView {
     /// Windows is reported to ignore LVM_SCROLL then.
     void ScrollTo(int topRow) const;
 
-  private:
+  protected:
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(control_, message, wParam, lParam);
     }
+
+  private:
     void SetState(int row, UINT state, UINT mask) const;
 
     HWND control_ = nullptr;

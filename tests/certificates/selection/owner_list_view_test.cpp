@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,34 @@ namespace corvane::test {
 namespace {
 
 using ::testing::ElementsAre;
+
+class Owners final : public certificates::OwnerRows {
+  public:
+    [[nodiscard]] std::size_t RowCount() const override { return names.size(); }
+    [[nodiscard]] certificates::OwnerRow Row(std::size_t row) const override {
+        return {names.at(row), ticks.at(row)};
+    }
+    void Tick(std::size_t row, bool isTicked) override {
+        ticks.at(row) = isTicked;
+        ++changes;
+    }
+    void ClickHeader() override { ++headerClicks; }
+    [[nodiscard]] certificates::SortMark Mark() const override { return certificates::SortMark::kUp; }
+    [[nodiscard]] certificates::OwnerBox Details(std::size_t) const override { return {}; }
+
+    void Fill(std::size_t count) {
+        names.clear();
+        for (std::size_t row = 0; row < count; ++row) {
+            names.push_back(L"Owner " + std::to_wstring(row) + L",C=GB");
+        }
+        ticks.assign(count, false);
+    }
+
+    std::vector<std::wstring> names;
+    std::vector<bool> ticks;
+    int changes = 0;
+    int headerClicks = 0;
+};
 
 // A list of owners in a window of the test's own. Beneath it the control does what Windows is documented or
 // reported to do where the system that the test runs on does something else.
@@ -24,13 +53,13 @@ class OwnerListViewTest : public ::testing::Test {
         parent_ = CreateWindowExW(0, parentClass.lpszClassName, L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
                                   400, 300, nullptr, nullptr, parentClass.hInstance, nullptr);
         SetWindowSubclass(parent_, &Parent, 1, reinterpret_cast<DWORD_PTR>(this));
-        list_ = CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,
-                                0, 300, 150, parent_, nullptr, parentClass.hInstance, nullptr);
+        list_ = CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT, 0, 0, 300, 150,
+                                parent_, nullptr, parentClass.hInstance, nullptr);
         ASSERT_NE(list_, nullptr);
         SetWindowSubclass(list_, &Control, 1, reinterpret_cast<DWORD_PTR>(this));
-        view_.Attach(list_, L"Owners");
-        Fill(kManyOwners);
-        view_.Show({}, certificates::SortMark::kNone);
+        owners_.Fill(kManyOwners);
+        view_ = std::make_unique<certificates::OwnerListView>(owners_);
+        view_->Attach(list_, L"Owners");
     }
     void TearDown() override {
         RemoveWindowSubclass(list_, &Control, 1);
@@ -39,10 +68,13 @@ class OwnerListViewTest : public ::testing::Test {
 
     static LRESULT CALLBACK Parent(HWND parent, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR /*subclass*/, DWORD_PTR self) {
-        LRESULT result = 0;
-        if (message == WM_NOTIFY && reinterpret_cast<OwnerListViewTest*>(self)->view_.Answer(
-                                        *reinterpret_cast<NMHDR*>(lParam), result)) {
-            return result;
+        auto& test = *reinterpret_cast<OwnerListViewTest*>(self);
+        if (message == WM_NOTIFY) {
+            auto& header = *reinterpret_cast<NMHDR*>(lParam);
+            test.doubleClicks_ += header.code == NM_DBLCLK ? 1 : 0;
+            if (test.view_ != nullptr && header.hwndFrom == test.list_ && test.view_->Answer(header)) {
+                return 0;
+            }
         }
         return DefSubclassProc(parent, message, wParam, lParam);
     }
@@ -58,16 +90,14 @@ class OwnerListViewTest : public ::testing::Test {
                     return FALSE;
                 }
                 break;
-            case LVM_SETITEMCOUNT: {
-                // The list goes back to its first row unless it is told to stay.
-                const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
-                if ((lParam & LVSICF_NOSCROLL) == 0 && wParam != 0) {
-                    DefSubclassProc(list, LVM_ENSUREVISIBLE, 0, FALSE);
+            case WM_KEYDOWN:
+                if (test.ticksAllSelected_) {
+                    for (const std::size_t row : test.view_->Control().SelectedRows()) {
+                        test.view_->Control().SetChecked(static_cast<int>(row), true);
+                    }
+                    return 0;
                 }
-                return result;
-            }
-            case WM_CHAR:
-                return test.FindTyped();
+                break;
             case LVM_SETEXTENDEDLISTVIEWSTYLE:
                 test.stylesSet_.push_back(lParam & LPARAM{LVS_EX_CHECKBOXES});
                 break;
@@ -76,83 +106,167 @@ class OwnerListViewTest : public ::testing::Test {
         }
         return DefSubclassProc(list, message, wParam, lParam);
     }
-    // As Windows is reported to ask for typed letters: as if for the whole text, and without a wrap.
-    LRESULT FindTyped() {
-        NMLVFINDITEMW question = {};
-        question.hdr.hwndFrom = list_;
-        question.hdr.code = LVN_ODFINDITEMW;
-        question.iStart = static_cast<int>(owners_.size());
-        question.lvfi.flags = LVFI_STRING;
-        question.lvfi.psz = L"owner 11";
-        typedRow_ =
-            static_cast<int>(SendMessageW(parent_, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&question)));
-        return 0;
-    }
 
-    void Fill(std::size_t count) {
-        owners_.clear();
-        for (std::size_t row = 0; row < count; ++row) {
-            owners_.push_back(L"Owner " + std::to_wstring(row) + L",C=GB");
+    [[nodiscard]] int TopRow() const { return view_->Control().TopRow(); }
+    [[nodiscard]] LPARAM PointOn(int row, bool onBox) const {
+        RECT label = {};
+        label.left = LVIR_LABEL;
+        SendMessageW(list_, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&label));
+        const int x = onBox ? label.left / 2 : (label.left + label.right) / 2;
+        return MAKELPARAM(x, (label.top + label.bottom) / 2);
+    }
+    void DoubleClick(LPARAM point) const {
+        // The control waits for the button to be let go where it is not on a box.
+        PostMessageW(list_, WM_LBUTTONUP, 0, point);
+        SendMessageW(list_, WM_LBUTTONDOWN, MK_LBUTTON, point);
+        SendMessageW(list_, WM_LBUTTONUP, 0, point);
+        SendMessageW(list_, WM_LBUTTONDBLCLK, MK_LBUTTON, point);
+        SendMessageW(list_, WM_LBUTTONUP, 0, point);
+    }
+    void PressSpace() const { SendMessageW(list_, WM_KEYDOWN, VK_SPACE, 0); }
+    [[nodiscard]] std::vector<std::size_t> TickedRows() const {
+        std::vector<std::size_t> rows;
+        for (std::size_t row = 0; row < owners_.ticks.size(); ++row) {
+            if (owners_.ticks[row]) {
+                rows.push_back(row);
+            }
         }
-        checks_.assign(count, false);
+        return rows;
     }
-    [[nodiscard]] certificates::OwnerRow RowAt(std::size_t row) const {
-        return {owners_.at(row), checks_.at(row)};
-    }
-    [[nodiscard]] int TopRow() const { return view_.Control().TopRow(); }
 
     static constexpr std::size_t kManyOwners = 60;
 
     HWND parent_ = nullptr;
     HWND list_ = nullptr;
-    std::vector<std::wstring> owners_;
-    std::vector<bool> checks_;
     bool draws_ = true;
-    int typedRow_ = -2;
+    bool ticksAllSelected_ = false;
+    int doubleClicks_ = 0;
     std::vector<LPARAM> stylesSet_;
-    certificates::OwnerListView view_{{
-        .count = [this] { return owners_.size(); },
-        .row = [this](std::size_t row) { return RowAt(row); },
-        .check = [this](std::size_t row, bool isChecked) { checks_.at(row) = isChecked; },
-    }};
+    Owners owners_;
+    std::unique_ptr<certificates::OwnerListView> view_;
 };
 
 TEST_F(OwnerListViewTest, StaysWhereItIsScrolledToThroughARefill) {
-    view_.Control().ScrollTo(17);
+    view_->Control().ScrollTo(17);
     ASSERT_EQ(TopRow(), 17);
     for (const std::size_t count : {kManyOwners, kManyOwners * 2, kManyOwners - 1}) {
-        const certificates::OwnerListView::Place place = view_.CurrentPlace();
-        Fill(count);
-        view_.Show(place, certificates::SortMark::kNone);
+        view_->Change([&] { owners_.Fill(count); });
         EXPECT_EQ(TopRow(), 17) << count;
     }
 }
 
 TEST_F(OwnerListViewTest, KeepsSelectionAndFocusMarkOfARefill) {
-    view_.Control().ScrollTo(17);
-    view_.Control().SelectOnly(18);
-    const certificates::OwnerListView::Place place = view_.CurrentPlace();
-    owners_.insert(owners_.begin(), L"A new one");
-    checks_.push_back(false);
-    view_.Show(place, certificates::SortMark::kNone);
-    EXPECT_THAT(view_.Control().SelectedRows(), ElementsAre(19U));
-    EXPECT_EQ(view_.Control().FocusedRow(), 19);
+    view_->Control().ScrollTo(17);
+    view_->Control().SelectOnly(18);
+    view_->Change([this] {
+        owners_.names.insert(owners_.names.begin(), L"A new one");
+        owners_.ticks.push_back(false);
+    });
+    EXPECT_THAT(view_->Control().SelectedRows(), ElementsAre(19U));
+    EXPECT_EQ(view_->Control().FocusedRow(), 19);
     EXPECT_EQ(TopRow(), 17);
 }
 
-TEST_F(OwnerListViewTest, TypedLettersFindAnOwnerAsWindowsAsksForThem) {
-    SendMessageW(list_, WM_CHAR, L'1', 1);
-    EXPECT_EQ(typedRow_, 11);
+TEST_F(OwnerListViewTest, TicksFollowTheirOwnersThroughARefill) {
+    view_->Control().SetChecked(18, true);
+    view_->Change([this] {
+        owners_.names.insert(owners_.names.begin(), L"A new one");
+        owners_.ticks.insert(owners_.ticks.begin(), false);
+    });
+    EXPECT_EQ(view_->Control().CheckState(18), 0);
+    EXPECT_EQ(view_->Control().CheckState(19), 1);
+    EXPECT_THAT(TickedRows(), ElementsAre(19U));
+    EXPECT_EQ(owners_.changes, 1) << "what is only shown is nobody's tick";
+}
+
+TEST_F(OwnerListViewTest, AHeaderClickIsPassedOn) {
+    NMLISTVIEW click = {};
+    click.hdr.hwndFrom = list_;
+    click.hdr.code = LVN_COLUMNCLICK;
+    EXPECT_TRUE(view_->Answer(click.hdr));
+    EXPECT_EQ(owners_.headerClicks, 1);
+}
+
+TEST_F(OwnerListViewTest, TypedLettersFindAnOwnerAfterTheRowWithTheFocus) {
+    view_->Control().SelectOnly(20);
+    for (const wchar_t letter : std::wstring(L"owner 11")) {
+        SendMessageW(list_, WM_CHAR, letter, 1);
+    }
+    EXPECT_EQ(view_->Control().FocusedRow(), 11);
 }
 
 TEST_F(OwnerListViewTest, MakesItsCheckBoxesForTheNewScaleAndKeepsTheChecks) {
-    checks_[3] = true;
+    view_->Control().SetChecked(3, true);
     stylesSet_.clear();
-    view_.Rescale();
+    owners_.changes = 0;
+    view_->Rescale();
     EXPECT_THAT(stylesSet_, ElementsAre(0, LPARAM{LVS_EX_CHECKBOXES}));
-    EXPECT_EQ(view_.Control().CheckState(3), 1);
-    EXPECT_EQ(view_.Control().CheckState(4), 0);
-    EXPECT_EQ(view_.Control().ColumnWidth(0), view_.Control().ClientWidth());
+    EXPECT_EQ(owners_.changes, 0);
+    EXPECT_TRUE(owners_.ticks[3]);
+    EXPECT_EQ(view_->Control().CheckState(3), 1);
+    EXPECT_EQ(view_->Control().CheckState(4), 0);
+    EXPECT_EQ(view_->Control().ColumnWidth(0), view_->Control().ClientWidth());
+}
+
+TEST_F(OwnerListViewTest, EachHalfOfADoubleClickOnABoxTurnsTheTick) {
+    DoubleClick(PointOn(0, true));
+    EXPECT_EQ(owners_.changes, 2);
+    EXPECT_FALSE(owners_.ticks[0]);
+}
+
+TEST_F(OwnerListViewTest, OnlyADoubleClickOnTheTextIsNotified) {
+    DoubleClick(PointOn(0, true));
+    EXPECT_EQ(doubleClicks_, 0);
+    owners_.changes = 0;
+    DoubleClick(PointOn(0, false));
+    EXPECT_EQ(doubleClicks_, 1);
+    EXPECT_EQ(owners_.changes, 0);
+}
+
+TEST_F(OwnerListViewTest, TheSpaceBarGivesAllSelectedRowsTheTickOfTheOneWithTheFocus) {
+    view_->Control().SetChecked(1, true);
+    owners_.changes = 0;
+    view_->Control().SelectOnly(0);
+    view_->Control().AddToSelection(1);
+    view_->Control().AddToSelection(2);
+    PressSpace();
+    EXPECT_THAT(TickedRows(), ElementsAre(0U, 1U, 2U));
+    EXPECT_EQ(owners_.changes, 2) << "one was ticked already";
+}
+
+TEST_F(OwnerListViewTest, TheSpaceBarLeavesSelectedRowsAloneWhenTheFocusIsElsewhere) {
+    view_->Control().SelectOnly(0);
+    view_->Control().MarkFocus(3);
+    PressSpace();
+    EXPECT_THAT(TickedRows(), ElementsAre(3U));
+}
+
+TEST_F(OwnerListViewTest, WithoutAFocusTheSpaceBarTurnsNone) {
+    PressSpace();
+    EXPECT_EQ(owners_.changes, 0);
+}
+
+// As Windows does by itself.
+TEST_F(OwnerListViewTest, AControlThatTicksAllSelectedRowsIsNotCorrected) {
+    ticksAllSelected_ = true;
+    view_->Control().SelectOnly(0);
+    view_->Control().AddToSelection(2);
+    PressSpace();
+    EXPECT_THAT(TickedRows(), ElementsAre(0U, 2U));
+    EXPECT_EQ(owners_.changes, 2);
+}
+
+TEST_F(OwnerListViewTest, TheControlOutlivesTheView) {
+    view_.reset();
+    PressSpace();
+    EXPECT_EQ(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0), kManyOwners);
+}
+
+TEST_F(OwnerListViewTest, TheViewOutlivesItsControl) {
+    DestroyWindow(list_);
+    EXPECT_EQ(view_->Control().Window(), nullptr);
+    view_.reset();
+    EXPECT_EQ(owners_.changes, 0);
 }
 
 }  // namespace

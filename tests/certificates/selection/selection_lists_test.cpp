@@ -110,21 +110,20 @@ TEST_F(SelectionLists, AClickOnACheckBoxChecksTheOwner) {
     EXPECT_EQ(Chosen().Column(0), Texts{kAdams});
 }
 
-TEST_F(SelectionLists, APressOnACheckBoxThatIsLetGoElsewhereChecksNobody) {
+TEST_F(SelectionLists, APressOnACheckBoxConcernsNoRowButItsOwn) {
     OpenWithFourFound();
     const auto post = [&](UINT message, WPARAM buttons, POINT point) {
         Found().Post(message, buttons, MAKELPARAM(point.x, point.y));
     };
+    // The control turns the tick at the press.
     post(WM_LBUTTONDOWN, MK_LBUTTON, Found().CheckBoxCentre(1));
-    post(WM_LBUTTONUP, 0, Found().CheckBoxCentre(2));
-    SettleDialog();
-    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false}));
-    post(WM_LBUTTONDOWN, MK_LBUTTON, Found().CheckBoxCentre(1));
-    SettleDialog();
-    EXPECT_EQ(Found().Checks(), (Checks{false, false, false, false})) << "before it is let go";
-    post(WM_LBUTTONUP, 0, Found().CheckBoxCentre(1));
     SettleDialog();
     EXPECT_EQ(Found().Checks(), (Checks{false, true, false, false}));
+    post(WM_LBUTTONUP, 0, Found().CheckBoxCentre(2));
+    SettleDialog();
+    EXPECT_EQ(Found().Checks(), (Checks{false, true, false, false})) << "let go on another";
+    Press(IDC_SELECTION_ADD_BUTTON);
+    EXPECT_EQ(Chosen().Column(0), Texts{kAdams});
 }
 
 TEST_F(SelectionLists, ADoubleClickOnACheckBoxChecksTwiceAndShowsNothing) {
@@ -194,8 +193,6 @@ TEST_F(SelectionLists, AnOwnerIsFoundByItsTextLikeInAnyList) {
     constexpr UINT kSubstring = 0x4;
     EXPECT_EQ(FindOwner(kSubstring, L"CN=Bell"), 2);
     EXPECT_EQ(FindOwner(LVFI_STRING | kSubstring, L"bell"), -1) << "it has to be the beginning";
-    EXPECT_EQ(FindOwner(LVFI_WRAP, L"cn=bell,c=us"), 2);
-    EXPECT_EQ(FindOwner(LVFI_WRAP, L"CN=Bell"), -1);
     EXPECT_EQ(FindOwner(LVFI_PARTIAL, L"CN=", 1), 2) << "the search begins behind the row";
     EXPECT_EQ(FindOwner(LVFI_PARTIAL, L"CN=", 3), -1);
     EXPECT_EQ(FindOwner(LVFI_PARTIAL | LVFI_WRAP, L"CN=", 3), 0);

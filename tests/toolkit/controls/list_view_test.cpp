@@ -310,23 +310,6 @@ TEST_F(ListViewTest, ALayoutThatNeverFitsIsGivenUpAfterThreeTimes) {
     EXPECT_EQ(layouts, 3);
 }
 
-// Windows scrolls back to the first row otherwise.
-TEST_F(ListViewTest, ANewNumberOfRowsAsksTheListNotToScroll) {
-    LPARAM flags = 0;
-    SetWindowSubclass(
-        list_.Window(),
-        [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR noted) -> LRESULT {
-            if (message == LVM_SETITEMCOUNT) {
-                // NOLINTNEXTLINE(performance-no-int-to-ptr): the platform keeps the pointer as a number.
-                *reinterpret_cast<LPARAM*>(noted) = lParam;
-            }
-            return DefSubclassProc(window, message, wParam, lParam);
-        },
-        1, reinterpret_cast<DWORD_PTR>(&flags));
-    list_.SetRowCount(5);
-    EXPECT_EQ(flags & LVSICF_NOSCROLL, LVSICF_NOSCROLL);
-}
-
 TEST_F(ListViewTest, CheckStatesAreOnOffOrNoRow) {
     list_.AddExtendedStyles(LVS_EX_CHECKBOXES);
     AppendRows({L"a", L"b"});
@@ -375,24 +358,6 @@ TEST_F(ListViewTest, ScrollingGoesAsFarAsThereAreRows) {
     list_.DeleteAllRows();
     list_.ScrollTo(5);
     EXPECT_EQ(list_.TopRow(), 0);
-}
-
-TEST_F(ListViewTest, AListWithoutRowsOfItsOwnStaysWhereItIsUnlessItGetsShorter) {
-    toolkit::ListView list;
-    list.Attach(CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,
-                                0, 200, 150, dialog_.Window(), nullptr, GetModuleHandleW(nullptr), nullptr));
-    list.InsertColumn(0, L"Name");
-    list.SetRowCount(kManyRows);
-    list.MarkFocus(0);
-    list.ScrollTo(17);
-    ASSERT_EQ(list.TopRow(), 17);
-    list.SetRowCount(kManyRows);
-    EXPECT_EQ(list.TopRow(), 17) << "the row with the focus is not scrolled to";
-    list.SetRowCount(std::size_t{kManyRows} * 2);
-    EXPECT_EQ(list.TopRow(), 17);
-    list.SetRowCount(3);
-    EXPECT_EQ(list.TopRow(), 0);
-    EXPECT_EQ(list.RowCount(), 3);
 }
 
 TEST_F(ListViewTest, RedrawingIsOffWhileLockedAndOnAgainAfterAnException) {
