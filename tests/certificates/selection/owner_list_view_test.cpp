@@ -187,12 +187,11 @@ TEST_F(OwnerListViewTest, AHeaderClickIsPassedOn) {
     EXPECT_EQ(owners_.headerClicks, 1);
 }
 
-TEST_F(OwnerListViewTest, TypedLettersFindAnOwnerAfterTheRowWithTheFocus) {
-    view_->Control().SelectOnly(20);
-    for (const wchar_t letter : std::wstring(L"owner 11")) {
-        SendMessageW(list_, WM_CHAR, letter, 1);
-    }
-    EXPECT_EQ(view_->Control().FocusedRow(), 11);
+TEST_F(OwnerListViewTest, TypedLettersFindAnOwnerAndGoOnAtTheTop) {
+    view_->Change([this] { owners_.names[40] = L"Zed"; });
+    view_->Control().SelectOnly(50);
+    SendMessageW(list_, WM_CHAR, L'z', 1);
+    EXPECT_EQ(view_->Control().FocusedRow(), 40);
 }
 
 TEST_F(OwnerListViewTest, MakesItsCheckBoxesForTheNewScaleAndKeepsTheChecks) {
