@@ -113,6 +113,4 @@ std::wstring RuleListView::CellText(std::size_t row, std::size_t column) const {
     return RuleColumnAt(column).text((*rules)[rows_[row]], rows_[row]);
 }
 
-}
-
 }  // namespace corvane::app
