@@ -14,6 +14,7 @@
 #include "certificates/signer_lists/signer_lists_form.h"
 #include "editors/profile/cs_profile_commands.h"
 #include "editors/profile/profile_form.h"
+#include "editors/rule/rule_cs_profile_change.h"
 #include "editors/rule/rule_form.h"
 #include "reporting/message_styles.h"
 #include "store/cs_profile_settings.h"
