@@ -88,6 +88,26 @@ TEST(ChangeOperation, All576ChangesFollowTheStepsAfterEveryEarlierOperation) {
     }
 }
 
+// Another program can put something into every control, also into those that users do not see.
+TEST(ChangeOperation, All576ChangesFollowTheStepsWhateverStandsInTheHiddenFields) {
+    for (const std::wstring from : kCodes) {
+        for (const std::wstring to : kCodes) {
+            editors::RuleForm form = Opened(FullRule(from));
+            form.outputFolder.text = L"put in";
+            for (editors::TextField& field : form.texts) {
+                field.text = L"put in";
+            }
+            for (editors::NumberField& field : form.numbers) {
+                field.number = 99;
+            }
+            for (editors::ChoiceField& field : form.choices) {
+                field.index = 1;
+            }
+            ASSERT_TRUE(ChangesAlike(form, from, to));
+        }
+    }
+}
+
 TEST(ChangeOperation, ALongWalkThroughTheOperationsFollowsTheSteps) {
     editors::RuleForm form = Opened(store::Rule());
     std::wstring from = L"ENCR";
