@@ -22,7 +22,7 @@ target_precompile_headers(test_headers PRIVATE
   <gmock/gmock.h> <gtest/gtest.h>
   <algorithm> <array> <filesystem> <functional> <map> <optional> <set> <span> <string> <string_view> <vector>)
 
-# corvane_test(NAME core_config LABEL core SOURCES a_test.cpp LIBRARIES config test_support
+# corvane_test(NAME core_store LABEL core SOURCES a_test.cpp LIBRARIES store test_support
 #              ENVIRONMENT "EDITOR=$<TARGET_FILE:corvane>"  # what the program finds in its environment
 #              RESOURCE_LOCK pictures                       # what no two tests may use at once
 #              TIMEOUT 60                                   # seconds, 120 unless told
