@@ -19,7 +19,6 @@
 #include "bench/list_window.h"
 #include "bench/program_measure.h"
 #include "bench/ratio.h"
-#include "bench/sample_configuration.h"
 #include "bench/selection_lists.h"
 #include "provider/provider_library.h"
 #include "reporting/error_reporter.h"
@@ -27,6 +26,7 @@
 #include "store/registry/load_configuration.h"
 #include "store/registry/registry_calls.h"
 #include "store/registry/save_configuration.h"
+#include "tests/kit/samples/sample_configuration.h"
 #include "toolkit/system/message_presenter.h"
 #include "toolkit/text/system_text.h"
 
@@ -66,7 +66,7 @@ class Store {
 
 std::vector<RatioRow> MeasureRegistry() {
     Store store;
-    ConfigurationState sample = SampleConfiguration(10, 100);
+    ConfigurationState sample = corvane::test::SampleConfiguration(10, 100);
     CleanRegistry();
     PrepareRegistry();
     store.Save(sample);
@@ -117,7 +117,7 @@ void InsertPlainly(const corvane::toolkit::ListView& list, const std::vector<cor
 }
 
 std::vector<RatioRow> MeasureLists() {
-    ConfigurationState state = SampleConfiguration(1, kListedRules);
+    ConfigurationState state = corvane::test::SampleConfiguration(1, kListedRules);
     for (corvane::store::Rule& rule : state.profiles.front().rules) {
         rule.signerGroups.clear();
     }
@@ -185,7 +185,7 @@ std::vector<RatioRow> MeasurePrograms(const std::wstring& program, const std::ws
                 Megabytes(static_cast<std::size_t>(std::filesystem::file_size(program))),
                 Megabytes(SizeWithoutPictures(program)));
     Store store;
-    ConfigurationState sample = SampleConfiguration(1, 1000);
+    ConfigurationState sample = corvane::test::SampleConfiguration(1, 1000);
     CleanRegistry();
     PrepareRegistry();
     store.Save(sample);

@@ -13,7 +13,7 @@
     packagePackages=(faketime git msitools pandoc wixl zip)
     packageTestPackages=(jq)
     # libclang-rt-dev brings the sanitizers of whatever clang the system has.
-    testPackages=(clang clang-format clang-tidy lld libclang-rt-dev locales python3 shellcheck)
+    testPackages=(clang clang-format clang-tidy lld libclang-rt-dev locales nlohmann-json3-dev python3 shellcheck)
 }
 
 say() { printf '== %s\n' "$*"; }

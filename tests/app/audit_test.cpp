@@ -8,15 +8,15 @@ namespace {
 
 class Audit : public EditorTest {
   protected:
-    static void ExpectSound(const driver::Window& dialog, const std::string& name) {
+    static void ExpectSound(const Window& dialog, const std::string& name) {
         dialog.Send(WM_NULL);
-        audit::KeepPicture(dialog, name);
-        for (const std::wstring& fault : audit::AllFaults(dialog)) {
-            ADD_FAILURE() << driver::Utf8(fault);
+        KeepPicture(dialog, name);
+        for (const std::wstring& fault : AllFaults(dialog)) {
+            ADD_FAILURE() << Utf8(fault);
         }
     }
     /// Escape must do what the button that leaves does.
-    void LeaveByEscape(const driver::Window& dialog) const {
+    void LeaveByEscape(const Window& dialog) const {
         dialog.FocusOfThread().PostKey(VK_ESCAPE);
         dialog.WaitUntilGone();
         WaitForMain();
@@ -46,7 +46,7 @@ TEST_F(Audit, MainWindowAtItsSmallestSize) {
     Settle();
     // The movements of the controls are laid down, and so is this size; the sizes of lists and fields that
     // come of it are the user's choice.
-    audit::KeepPicture(Main(), "main_window_smallest");
+    KeepPicture(Main(), "main_window_smallest");
     const RECT bounds = Main().Bounds();
     const RECT button = Control(IDOK).Bounds();
     EXPECT_EQ(bounds.right - bounds.left,
@@ -70,7 +70,7 @@ TEST_F(Audit, MainWindowAtItsSmallestSize) {
 TEST_F(Audit, AboutBox) {
     StartWithSample();
     Main().Post(WM_SYSCOMMAND, IDM_ABOUT);
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     ExpectSound(dialog, "about");
     LeaveByEscape(dialog);
 }
@@ -78,7 +78,7 @@ TEST_F(Audit, AboutBox) {
 TEST_F(Audit, LogSettings) {
     StartWithSample();
     Control(IDC_LOG_PATH_BUTTON).PostClick();
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\windows\\temp");
     ExpectSound(dialog, "log_settings");
     LeaveByEscape(dialog);
@@ -87,7 +87,7 @@ TEST_F(Audit, LogSettings) {
 TEST_F(Audit, DescriptionBox) {
     StartWithSample();
     Rules().PostRightClick(Rules().CellCentre(kResign, kExtraColumn));
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     ExpectSound(dialog, "description_box");
     LeaveByEscape(dialog);
 }
@@ -95,7 +95,7 @@ TEST_F(Audit, DescriptionBox) {
 TEST_F(Audit, CellBox) {
     StartWithSample();
     Rules().PostRightClick(Rules().CellCentre(kMove, kMasksColumn));
-    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    const MessageBoxWindow box = Editor().WaitForMessageBox(Main());
     ExpectSound(box, "cell_box");
     LeaveByEscape(box);
 }
@@ -103,7 +103,7 @@ TEST_F(Audit, CellBox) {
 TEST_F(Audit, Question) {
     StartWithSample();
     Control(IDC_DELETE_PROFILE_BUTTON).PostClick();
-    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    const MessageBoxWindow box = Editor().WaitForMessageBox(Main());
     ExpectSound(box, "question");
     box.Answer(IDNO);
 }
@@ -111,10 +111,10 @@ TEST_F(Audit, Question) {
 TEST_F(Audit, Report) {
     StartWithSample();
     Control(IDC_LOG_PATH_BUTTON).PostClick();
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\no such folder");
     dialog.Control(IDOK).PostClick();
-    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(dialog);
+    const MessageBoxWindow box = Editor().WaitForMessageBox(dialog);
     ExpectSound(box, "report");
     box.Answer(IDOK);
 }
@@ -123,8 +123,8 @@ TEST_F(Audit, ErrorBox) {
     // Its host stands beside this program and shows nothing else.
     std::wstring path(1024, L'\0');
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    const driver::Program host(path.substr(0, path.find_last_of(L'\\') + 1) + L"error_box_host.exe");
-    const driver::Window dialog = host.WaitForWindow(driver::Window());
+    const Program host(path.substr(0, path.find_last_of(L'\\') + 1) + L"error_box_host.exe");
+    const Window dialog = host.WaitForWindow(Window());
     EXPECT_EQ(dialog.Text(), L"Error");
     EXPECT_EQ(dialog.Control(IDC_ERROR_BOX_TEXT).Text(), L"No certificate is selected for operation.");
     ExpectSound(dialog, "error_box");

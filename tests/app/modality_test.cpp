@@ -8,8 +8,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class Modality : public EditorTest {
   protected:
     /// Whatever commands come in, nothing but the main window and `dialog` is there afterwards.
@@ -17,7 +15,7 @@ class Modality : public EditorTest {
         Settle();
         for (const Window& window : Editor().TopLevelWindows()) {
             EXPECT_TRUE(window == Main() || window == dialog)
-                << "an unexpected window: " << driver::Utf8(window.Name());
+                << "an unexpected window: " << Utf8(window.Name());
         }
     }
 };
@@ -66,10 +64,10 @@ TEST_F(Modality, ADeletePostedDuringTheReportOfAFailingSaveDeletesNothing) {
     StartWithSample();
     Rules().Select({kEncrypt});
     Press(IDC_MOVE_DOWN_BUTTON);
-    const driver::Texts before = ShownRules();
-    driver::DeleteRegistryKey(kProgramKey);
+    const Texts before = ShownRules();
+    DeleteRegistryKey(kProgramKey);
     Control(IDC_SAVE_BUTTON).PostClick();
-    const driver::MessageBoxWindow report = Editor().WaitForMessageBox(Main());
+    const MessageBoxWindow report = Editor().WaitForMessageBox(Main());
     Main().PostMenuCommand(IDM_DELETE_RULE);
     Control(IDC_DELETE_RULE_BUTTON).PostClick();
     Rules().PostKey(VK_DELETE);

@@ -6,13 +6,11 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class ScaleChange : public RuleEditorTest {
   protected:
     void StartOnSample() {
         WriteSampleConfiguration();
-        driver::WriteRegistryValue(kProgramKey, L"ExtExt", driver::Texts{L"docx", L"pdf", L"xml"});
+        WriteRegistryValue(kProgramKey, L"ExtExt", Texts{L"docx", L"pdf", L"xml"});
         Start();
     }
     [[nodiscard]] Window OpenByMenu(int command) const {
@@ -33,11 +31,11 @@ class ScaleChange : public RuleEditorTest {
 TEST_F(ScaleChange, MainWindow) {
     StartOnSample();
     Rules().Select({1});
-    const driver::Texts rules = ShownRules();
+    const Texts rules = ShownRules();
     for (int row = 0; row < Rules().RowCount(); ++row) {
         Rules().SetChecked(row, row % 2 == 1);
     }
-    audit::ExpectScaleChangesKeepResizablePlaces(Main(), "main_window");
+    ExpectScaleChangesKeepResizablePlaces(Main(), "main_window");
     EXPECT_EQ(ShownRules(), rules);
     EXPECT_EQ(Rules().SelectedRows(), std::vector<int>{1});
     for (int row = 0; row < Rules().RowCount(); ++row) {
@@ -48,40 +46,40 @@ TEST_F(ScaleChange, MainWindow) {
 TEST_F(ScaleChange, AboutBox) {
     StartOnSample();
     Main().Post(WM_SYSCOMMAND, IDM_ABOUT);
-    audit::ExpectScaleChangesKeepPlaces(Editor().WaitForDialog(Main()), "about");
+    ExpectScaleChangesKeepPlaces(Editor().WaitForDialog(Main()), "about");
 }
 
 TEST_F(ScaleChange, DescriptionBox) {
     StartOnSample();
     Rules().PostRightClick(Rules().CellCentre(kResign, kExtraColumn));
-    audit::ExpectScaleChangesKeepResizablePlaces(Editor().WaitForDialog(Main()), "description_box");
+    ExpectScaleChangesKeepResizablePlaces(Editor().WaitForDialog(Main()), "description_box");
 }
 
 TEST_F(ScaleChange, LogSettings) {
     StartOnSample();
-    audit::ExpectScaleChangesKeepPlaces(OpenByMenu(IDM_LOG_PATH), "log_settings");
+    ExpectScaleChangesKeepPlaces(OpenByMenu(IDM_LOG_PATH), "log_settings");
 }
 
 TEST_F(ScaleChange, Configurations) {
     StartOnSample();
     const Window dialog = OpenByMenu(IDM_CONFIGURATIONS);
-    audit::ExpectScaleChangesKeepPlaces(dialog, "configurations");
-    audit::ExpectScaleChangesKeepPlaces(OpenByButton(dialog, IDC_CONFIG_ADD_BUTTON), "extension");
+    ExpectScaleChangesKeepPlaces(dialog, "configurations");
+    ExpectScaleChangesKeepPlaces(OpenByButton(dialog, IDC_CONFIG_ADD_BUTTON), "extension");
 }
 
 TEST_F(ScaleChange, ProfileEditor) {
     StartOnSample();
     const Window dialog = OpenByMenu(IDM_EDIT_PROFILE);
-    audit::ExpectScaleChangesKeepPlaces(dialog, "profile_editor");
-    audit::ExpectScaleChangesKeepPlaces(OpenByButton(dialog, IDC_PROFILE_ADD_CS_PROFILE_BUTTON),
-                                        "cs_profile_choice");
+    ExpectScaleChangesKeepPlaces(dialog, "profile_editor");
+    ExpectScaleChangesKeepPlaces(OpenByButton(dialog, IDC_PROFILE_ADD_CS_PROFILE_BUTTON),
+                                 "cs_profile_choice");
 }
 
 TEST_F(ScaleChange, RuleEditor) {
     StartWithRules({FullRule(L"MOVE"), FullRule(L"PACK"), FullRule(L"RESG")});
     for (int row = 0; row < 3; ++row) {
         const Window dialog = OpenStored(row);
-        audit::ExpectScaleChangesKeepPlaces(dialog, "rule_editor_" + std::to_string(row));
+        ExpectScaleChangesKeepPlaces(dialog, "rule_editor_" + std::to_string(row));
         Leave(dialog, Main());
     }
 }
@@ -90,15 +88,15 @@ TEST_F(ScaleChange, MaskDialogAndErrorBox) {
     StartWithRules({});
     const Window dialog = OpenNew();
     const Window mask = OpenByButton(dialog, IDC_RULE_ADD_MASK_BUTTON);
-    audit::ExpectScaleChangesKeepPlaces(mask, "mask");
+    ExpectScaleChangesKeepPlaces(mask, "mask");
     Leave(mask, dialog);
     dialog.Control(IDOK).PostClick();
-    audit::ExpectScaleChangesKeepPlaces(Editor().WaitForWindow(dialog), "error_box");
+    ExpectScaleChangesKeepPlaces(Editor().WaitForWindow(dialog), "error_box");
 }
 
 TEST_F(ScaleChange, ADialogThatIsOpenedAfterwardsWorks) {
     StartOnSample();
-    audit::ExpectScaleChangesKeepResizablePlaces(Main(), "main_window_before");
+    ExpectScaleChangesKeepResizablePlaces(Main(), "main_window_before");
     Leave(OpenByMenu(IDM_LOG_PATH), Main());
     ExpectNoDialog();
 }

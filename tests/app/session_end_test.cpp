@@ -9,8 +9,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class EditorAtSessionEnd : public ProfileEditorTest {
   protected:
     /// Opens a dialog of `owner` by a command.

@@ -8,8 +8,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 class Opening : public EditorTest {};
 class SecondStart : public EditorTest {};
 class FirstStart : public EditorTest {};
@@ -70,7 +68,7 @@ TEST_F(Opening, PutsItsIconOnEachIconButton) {
                                                     {IDC_EXPORT_RULES_BUTTON, IDI_EXPORT_RULES},
                                                     {IDC_IMPORT_RULES_BUTTON, IDI_IMPORT_RULES}};
     for (const auto& [button, icon] : icons) {
-        const driver::IconView view = IconOf(Control(button), driver::IconPlace::kButton, icon);
+        const IconView view = IconOf(Control(button), IconPlace::kButton, icon);
         EXPECT_TRUE(view.isThere) << "button " << button << " shows no icon";
         EXPECT_TRUE(view.showsResource) << "button " << button << " shows another icon than " << icon;
     }
@@ -78,7 +76,7 @@ TEST_F(Opening, PutsItsIconOnEachIconButton) {
 
 TEST_F(Opening, GivesTheWindowItsLargeAndSmallIcon) {
     StartWithSample();
-    for (const auto place : {driver::IconPlace::kLargeWindowIcon, driver::IconPlace::kSmallWindowIcon}) {
+    for (const auto place : {IconPlace::kLargeWindowIcon, IconPlace::kSmallWindowIcon}) {
         EXPECT_TRUE(IconOf(Main(), place, IDI_MAIN_WINDOW).showsResource);
     }
 }
@@ -101,7 +99,7 @@ TEST_F(Opening, ShowsOneToolTipForEachButton) {
                                                   {IDC_DELETE_PROFILE_BUTTON, L"Delete profile"},
                                                   {IDC_IMPORT_RULES_BUTTON, L"Import profile rules"},
                                                   {IDC_EXPORT_RULES_BUTTON, L"Export profile rules"}};
-    EXPECT_EQ(driver::ToolTipTexts(Main()), expected);
+    EXPECT_EQ(ToolTipTexts(Main()), expected);
 }
 
 TEST_F(Opening, ShowsTheMenuBarWithItsThreePopUps) {
@@ -127,7 +125,7 @@ TEST_F(Opening, ShowsTheMenuBarWithItsThreePopUps) {
                                                                 {IDM_MOVE_DOWN, L"Move down"},
                                                                 {IDM_MAKE_LAST, L"Make last"}};
     std::vector<std::pair<int, std::wstring>> found;
-    for (const driver::MenuItem& item : driver::MenuBarOf(Main())) {
+    for (const MenuItem& item : MenuBarOf(Main())) {
         EXPECT_EQ(item.depth, item.id == 0 ? 0 : 1);
         found.emplace_back(item.id, item.text);
     }
@@ -146,19 +144,19 @@ TEST_F(Opening, HasTheFrameOfAResizableDialogWithoutMaximiseBox) {
 
 TEST_F(Opening, ChangesNothingInTheRegistryThatIsFilled) {
     WriteSampleConfiguration();
-    const auto before = driver::ReadRegistryTree(L"");
+    const auto before = ReadRegistryTree(L"");
     Start();
     ExpectNothingToSave();
-    EXPECT_EQ(driver::ReadRegistryTree(L""), before);
+    EXPECT_EQ(ReadRegistryTree(L""), before);
 }
 
 TEST_F(SecondStart, ShowsOneMessageBoxAndLeavesTheFirstCopyAlone) {
     StartWithSample();
     Rules().Select({2});
-    driver::Program second(EditorPath());
-    const driver::MessageBoxWindow box = second.WaitForMessageBox(driver::Window());
-    EXPECT_EQ(box.View(), driver::MessageBoxOfStyle(L"QENT AC Velmaris - configuration allready started",
-                                                    L"QENT AC Velmaris - configuration", kRefusal));
+    Program second(EditorPath());
+    const MessageBoxWindow box = second.WaitForMessageBox(Window());
+    EXPECT_EQ(box.View(), MessageBoxOfStyle(L"QENT AC Velmaris - configuration allready started",
+                                            L"QENT AC Velmaris - configuration", kRefusal));
     EXPECT_EQ(second.TopLevelWindows().size(), 1U);
     box.Answer(IDOK);
     second.WaitForEnd();
@@ -176,11 +174,11 @@ TEST_F(SecondStart, SeesAFirstCopyThatRunsWithMoreRights) {
     InitializeAcl(&nobody, sizeof nobody, ACL_REVISION);
     SetSecurityDescriptorDacl(&security, TRUE, &nobody, FALSE);
     SECURITY_ATTRIBUTES attributes{sizeof attributes, &security, FALSE};
-    const driver::UniqueHandle mutex(CreateMutexW(&attributes, TRUE, L"QENT AC Velmaris - configuration"));
-    driver::Program second(EditorPath());
-    const driver::MessageBoxWindow box = second.WaitForMessageBox(driver::Window());
-    EXPECT_EQ(box.View(), driver::MessageBoxOfStyle(L"QENT AC Velmaris - configuration allready started",
-                                                    L"QENT AC Velmaris - configuration", kRefusal));
+    const UniqueHandle mutex(CreateMutexW(&attributes, TRUE, L"QENT AC Velmaris - configuration"));
+    Program second(EditorPath());
+    const MessageBoxWindow box = second.WaitForMessageBox(Window());
+    EXPECT_EQ(box.View(), MessageBoxOfStyle(L"QENT AC Velmaris - configuration allready started",
+                                            L"QENT AC Velmaris - configuration", kRefusal));
     box.Answer(IDOK);
     EXPECT_EQ(second.WaitForEnd(), 0U);
 }
@@ -202,9 +200,9 @@ TEST_F(FirstStart, WritesTheDefaultProfile) {
     EXPECT_EQ(Control(IDC_PROFILE_CAPTION_EDIT).Text(), L"Profile: default");
     EXPECT_EQ(Control(IDC_RULE_LIST_CAPTION_EDIT).Text(), L"CS profile's num: 1");
 
-    const driver::RegistryValues program = driver::ReadRegistryValues(kProgramKey);
-    EXPECT_EQ(program, (driver::RegistryValues{{L"LogPath", L""}, {L"Log filesize", 4000U}}));
-    const driver::RegistryValues expected = {
+    const RegistryValues program = ReadRegistryValues(kProgramKey);
+    EXPECT_EQ(program, (RegistryValues{{L"LogPath", L""}, {L"Log filesize", 4000U}}));
+    const RegistryValues expected = {
         {L"AutoUseTSP", Texts{L"0"}},
         {L"AutoVerifyTSP", Texts{L"0"}},
         {L"NotAddCert", Texts{L"0"}},
@@ -223,38 +221,38 @@ TEST_F(FirstStart, WritesTheDefaultProfile) {
         {L"Handler timeout", 15U},
         {L"Rename conf files", 0U},
         {L"ZCSProfile", Texts{L"CS one"}}};
-    EXPECT_EQ(driver::ReadRegistryValues(std::wstring(kProgramKey) + L"\\default"), expected);
-    EXPECT_TRUE(driver::RegistryKeyExists(std::wstring(kProgramKey) + L"\\default\\rules"));
+    EXPECT_EQ(ReadRegistryValues(std::wstring(kProgramKey) + L"\\default"), expected);
+    EXPECT_TRUE(RegistryKeyExists(std::wstring(kProgramKey) + L"\\default\\rules"));
     ExpectNothingToSave();
 }
 
 TEST_F(FirstStart, WithoutAnyCsProfileEndsWithOneMessageBox) {
     WriteCatalogue({});
-    driver::Program editor(EditorPath());
+    Program editor(EditorPath());
     editor.ExpectExitCode(1);
-    const driver::Window window = editor.WaitForWindow(driver::Window());
-    ASSERT_TRUE(driver::MessageBoxWindow::Is(window)) << driver::Utf8(window.Name());
-    const driver::MessageBoxWindow box(window);
-    const driver::MessageBoxView view = box.View();
+    const Window window = editor.WaitForWindow(Window());
+    ASSERT_TRUE(MessageBoxWindow::Is(window)) << Utf8(window.Name());
+    const MessageBoxWindow box(window);
+    const MessageBoxView view = box.View();
     EXPECT_EQ(view.title, L"QENT AC Velmaris - configuration");
     EXPECT_FALSE(view.text.empty());
     EXPECT_EQ(view.systemIcon, 32513);
     EXPECT_EQ(view.buttons, std::vector<int>{IDOK});
     box.Answer(IDOK);
     editor.WaitForEnd();
-    EXPECT_FALSE(driver::RegistryKeyExists(std::wstring(kProgramKey) + L"\\default"))
+    EXPECT_FALSE(RegistryKeyExists(std::wstring(kProgramKey) + L"\\default"))
         << "a start that fails left a half-made profile behind";
 }
 
 TEST_F(FirstStart, WithoutTheProvidersKeyReportsItAndEnds) {
     SetCursorPos(1, 1);
-    driver::Program editor(EditorPath());
+    Program editor(EditorPath());
     // The main window is not shown yet, so the report stands on its own.
-    const driver::MessageBoxWindow box = editor.WaitForMessageBox(driver::Window());
-    EXPECT_EQ(driver::PointerOf(box), driver::kHourglass) << "while the configuration is loaded";
+    const MessageBoxWindow box = editor.WaitForMessageBox(Window());
+    EXPECT_EQ(PointerOf(box), kHourglass) << "while the configuration is loaded";
     EXPECT_EQ(
         box.View(),
-        driver::MessageBoxOfStyle(
+        MessageBoxOfStyle(
             ReportText(L"Create (open) register key HKEY_CURRENT_USER\\SOFTWARE\\HOLVAN\\tarn\\Profiles", 2),
             L"QENT AC Velmaris - configuration", kReport));
     box.Answer(IDOK);

@@ -6,9 +6,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::ToolTipUnderTheMouse;
-using driver::Window;
-
 class ToolTipsOfTheMainWindow : public EditorTest {};
 class ToolTipsOfTheRuleEditor : public RuleEditorTest {};
 class ToolTipsOfTheProfileEditor : public ProfileEditorTest {};
@@ -30,7 +27,7 @@ TEST_F(ToolTipsOfTheMainWindow, AppearInTheConfigurationsDialog) {
 TEST_F(ToolTipsOfTheRuleEditor, AppearWhereTheMouseRests) {
     const Window dialog = StartAndOpen(FullRule(L"ENCR"));
     for (const int id : {IDC_RULE_OUTPUT_BUTTON, IDC_RULE_CERT_BUTTON}) {
-        EXPECT_EQ(ToolTipUnderTheMouse(dialog, dialog.Control(id)), driver::ToolTipTexts(dialog)[id]);
+        EXPECT_EQ(ToolTipUnderTheMouse(dialog, dialog.Control(id)), ToolTipTexts(dialog)[id]);
     }
 }
 

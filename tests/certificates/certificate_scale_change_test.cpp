@@ -20,7 +20,7 @@ TEST_F(CertificateScaleChange, Selection) {
     Press(IDC_SELECTION_FROM_STORE_BUTTON);
     Check(Found(), {1});
     Check(Chosen(), {0});
-    audit::ExpectScaleChangesKeepResizablePlaces(Dialog(), "recipients");
+    ExpectScaleChangesKeepResizablePlaces(Dialog(), "recipients");
     EXPECT_TRUE(Found().IsChecked(1));
     EXPECT_FALSE(Found().IsChecked(0));
     EXPECT_TRUE(Chosen().IsChecked(0));
@@ -28,13 +28,13 @@ TEST_F(CertificateScaleChange, Selection) {
 
 TEST_F(CertificateScaleChange, SelectionOfSigners) {
     OpenFirstList({{L"Board", {kAnn}}});
-    audit::ExpectScaleChangesKeepResizablePlaces(Dialog(), "signers");
+    ExpectScaleChangesKeepResizablePlaces(Dialog(), "signers");
 }
 
 TEST_F(CertificateScaleChange, Filter) {
     OpenRecipients();
     Control(IDC_SELECTION_FROM_NCS_BUTTON).PostClick();
-    audit::ExpectScaleChangesKeepPlaces(Program().WaitForDialog(Dialog()), "filter");
+    ExpectScaleChangesKeepPlaces(Program().WaitForDialog(Dialog()), "filter");
 }
 
 TEST_F(CertificateScaleChange, SignerLists) {
@@ -43,7 +43,7 @@ TEST_F(CertificateScaleChange, SignerLists) {
     setup.csProfile.notLoadCrl = 1;
     setup.lists = {{L"Directors", {kAnn, kBob}}, {L"Auditors", {kAnn}}};
     StartHost();
-    audit::ExpectScaleChangesKeepResizablePlaces(OpenDialog(), "signer_lists");
+    ExpectScaleChangesKeepResizablePlaces(OpenDialog(), "signer_lists");
 }
 
 class WaitWindowScaleChange : public SessionTest {};
@@ -54,7 +54,7 @@ TEST_F(WaitWindowScaleChange, WaitWindow) {
     StartHost();
     PressOpen();
     EXPECT_EQ(Result(), HostCancelled(1));
-    audit::ExpectScaleChangesKeepPlaces(WaitForWaitWindow(Program()), "wait_window");
+    ExpectScaleChangesKeepPlaces(WaitForWaitWindow(Program()), "wait_window");
 }
 
 }  // namespace

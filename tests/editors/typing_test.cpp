@@ -10,8 +10,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 /// A field and what is typed into it.
 struct TypedField {
     int id;
@@ -63,7 +61,7 @@ class RuleTyping : public RuleEditorTest {
   protected:
     void GiveUpPicker(const Window& dialog, int buttonId) const {
         dialog.Control(buttonId).PostClick();
-        driver::FileDialog(Editor().WaitForDialog(dialog)).GiveUp();
+        FileDialog(Editor().WaitForDialog(dialog)).GiveUp();
         WaitForEditor(dialog);
     }
     void EndMaskDialog(const Window& dialog, int openingButton, int endingButton) const {
@@ -79,7 +77,7 @@ class RuleTyping : public RuleEditorTest {
 TEST_F(RuleTyping, TheDeleteKeyDeletesACharacterInEveryField) {
     const Window dialog = StartAndOpen(FullRule(L"MOVE"));
     Masks(dialog).Select({0});
-    const driver::Texts masks = Masks(dialog).Column(0);
+    const Texts masks = Masks(dialog).Column(0);
     for (const TypedField& field : kMoveFields) {
         ExpectDeleteKeyInField(dialog, field);
     }
@@ -130,7 +128,7 @@ TEST_F(RuleTyping, SurvivesAFolderThatIsPickedForAnotherField) {
     const Window dialog = StartAndOpen(FullRule(L"MOVE"));
     TypeAll(dialog, kMoveFields);
     dialog.Control(IDC_RULE_INPUT_BUTTON).PostClick();
-    const driver::FileDialog picker(Editor().WaitForDialog(dialog));
+    const FileDialog picker(Editor().WaitForDialog(dialog));
     picker.SetFileName(L"C:\\windows");
     picker.Confirm();
     picker.WaitUntilGone();
@@ -176,7 +174,7 @@ TEST_F(ProfileTyping, TheDeleteKeyDeletesACharacterInEveryField) {
     for (const TypedField& field : kProfileFields) {
         ExpectDeleteKeyInField(dialog, field);
     }
-    EXPECT_EQ(ListEntries(CsProfiles(dialog)), (driver::Texts{L"CS one", L"CS two"}));
+    EXPECT_EQ(ListEntries(CsProfiles(dialog)), (Texts{L"CS one", L"CS two"}));
     Close(dialog, IDCANCEL);
 }
 
@@ -222,7 +220,7 @@ TEST_F(ProfileTyping, TheDeleteKeyDeletesACharacterOfEveryExtension) {
     const Window dialog = OpenFromMenu(IDM_CONFIGURATIONS);
     const Window list = dialog.Control(IDC_CONFIG_ADDITIONAL_LIST);
     list.Send(LB_SETCURSEL, 0);
-    const driver::Texts listed = ListEntries(list);
+    const Texts listed = ListEntries(list);
     for (const TypedField& field : kExtensionFields) {
         ExpectDeleteKeyInField(dialog, field);
     }
@@ -258,7 +256,7 @@ TEST_F(ProfileTyping, LogSettingsSurviveThePickerThatIsGivenUp) {
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(kLogFields[0].text);
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(kLogFields[1].text);
     dialog.Control(IDC_LOG_FOLDER_BUTTON).PostClick();
-    driver::FileDialog(Editor().WaitForDialog(dialog)).GiveUp();
+    FileDialog(Editor().WaitForDialog(dialog)).GiveUp();
     dialog.WaitUntilEnabled();
     ExpectTyped(dialog, kLogFields, "giving up the picker");
     Close(dialog, IDCANCEL);

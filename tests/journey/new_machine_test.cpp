@@ -10,9 +10,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-using driver::Window;
-
 constexpr wchar_t kExchangeProfile[] = L"Exchange";
 constexpr wchar_t kTimeStampServer[] = L"http://tsp.northgate.example/tsp";
 
@@ -94,7 +91,7 @@ class NewMachine : public JourneyTest {
     }
 
     [[nodiscard]] static StoredTree Expected() {
-        driver::RegistryValues values = ProfileValues({kFirstCsProfile, kSecondCsProfile}, L"1");
+        RegistryValues values = ProfileValues({kFirstCsProfile, kSecondCsProfile}, L"1");
         values[L"NotUseLDAP"] = Texts{L"0", L"1"};
         values[L"AutoUseTSP"] = Texts{L"1", L"0"};
         values[L"ServerTSP"] = Texts{kTimeStampServer, L"0"};

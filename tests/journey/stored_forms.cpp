@@ -4,9 +4,6 @@
 
 namespace corvane::test {
 
-using driver::RegistryValues;
-using driver::Texts;
-
 namespace {
 
 void AddNumbered(RegistryValues& values, const wchar_t* countName, const wchar_t* prefix,

@@ -10,10 +10,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::RegistryValues;
-using driver::Texts;
-using driver::Window;
-
 constexpr wchar_t kProfile[] = L"Exchange";
 
 class TypicalEdit : public JourneyTest {
@@ -66,7 +62,7 @@ class TypicalEdit : public JourneyTest {
     void ExpectMadeStoredAndKept(const std::vector<TypicalRule>& rules, const Texts& refreshed) {
         StartWithTwoCsProfiles();
         for (std::size_t i = 0; i < rules.size(); ++i) {
-            SCOPED_TRACE(driver::Utf8(rules[i].operation));
+            SCOPED_TRACE(Utf8(rules[i].operation));
             Make(rules[i]);
             ASSERT_EQ(Rules().RowCount(), static_cast<int>(i) + 1);
             ExpectRow(static_cast<int>(i), rules[i]);
@@ -163,10 +159,10 @@ TEST_F(TypicalEdit, RecipientsComeFromTheNetworkStoreToo) {
     EndDialog(selection, IDOK);
     Close(dialog, IDOK);
     SaveAndLeave();
-    const RegistryValues stored = driver::ReadRegistryValues(RuleKey(kProfile, 0));
-    EXPECT_EQ(stored.at(L"Ext num"), driver::RegistryData(2U));
-    EXPECT_EQ(stored.at(L"C0"), driver::RegistryData(kMajaNyberg));
-    EXPECT_EQ(stored.at(L"C1"), driver::RegistryData(kAstridLindholm));
+    const RegistryValues stored = ReadRegistryValues(RuleKey(kProfile, 0));
+    EXPECT_EQ(stored.at(L"Ext num"), RegistryData(2U));
+    EXPECT_EQ(stored.at(L"C0"), RegistryData(kMajaNyberg));
+    EXPECT_EQ(stored.at(L"C1"), RegistryData(kAstridLindholm));
 }
 
 }  // namespace

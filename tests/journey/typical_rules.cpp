@@ -2,6 +2,7 @@
 
 #include "res/ids.h"
 #include "tests/kit/fixtures/journey_fixture.h"
+#include "tests/kit/samples/operation_witness.h"
 
 namespace corvane::test {
 
@@ -11,10 +12,10 @@ constexpr wchar_t kZip[] = L"ZIP archivation";
 constexpr wchar_t kGzip[] = L"GZIP archivation";
 
 /// An operation that asks for nothing but folders, masks and, in some, the CS profile.
-TypicalRule PlainTypicalRule(const std::wstring& code, const std::wstring& operation,
-                             const std::wstring& csProfile, const std::wstring& mask) {
+TypicalRule PlainTypicalRule(const std::wstring& code, const std::wstring& csProfile,
+                             const std::wstring& mask) {
     return {.code = code,
-            .operation = operation,
+            .operation = NameOfCode(code),
             .csProfile = csProfile,
             .masks = {mask},
             .recipients = {},
@@ -34,24 +35,22 @@ TypicalRule ArchivingRule(TypicalRule rule, const std::wstring& choice, const st
     return rule;
 }
 
-TypicalRule EncryptingRule(const std::wstring& code, const std::wstring& operation,
-                           const std::wstring& csProfile, const driver::Texts& recipients) {
-    TypicalRule rule = PlainTypicalRule(code, operation, csProfile, L"*.xml");
+TypicalRule EncryptingRule(const std::wstring& code, const std::wstring& csProfile, const Texts& recipients) {
+    TypicalRule rule = PlainTypicalRule(code, csProfile, L"*.xml");
     rule.recipients = recipients;
     return rule;
 }
 
-TypicalRule VerifyingRule(const std::wstring& code, const std::wstring& operation,
-                          const std::wstring& csProfile, const std::vector<NamedSigners>& lists,
-                          const std::wstring& extraCell) {
-    TypicalRule rule = PlainTypicalRule(code, operation, csProfile, L"*.p7s");
+TypicalRule VerifyingRule(const std::wstring& code, const std::wstring& csProfile,
+                          const std::vector<NamedSigners>& lists, const std::wstring& extraCell) {
+    TypicalRule rule = PlainTypicalRule(code, csProfile, L"*.p7s");
     rule.signerLists = lists;
     rule.extraCell = extraCell;
     return rule;
 }
 
 TypicalRule ResigningRule() {
-    TypicalRule rule = VerifyingRule(L"RESG", L"Resign", kFirstCsProfile, {{L"Claims", {kDanielOkafor}}},
+    TypicalRule rule = VerifyingRule(L"RESG", kFirstCsProfile, {{L"Claims", {kDanielOkafor}}},
                                      L"1; Partner exchange; Attached signature->Detached signature");
     rule.chosen = {{IDC_RULE_ROW2_COMBO, L"Detached signature"}, {IDC_RULE_ROW3_COMBO, kSecondCsProfile}};
     rule.ownValues = {{L"In format det", 0U}, {L"Out format det", 1U}, {L"ResignProfile", kSecondCsProfile}};
@@ -59,7 +58,7 @@ TypicalRule ResigningRule() {
 }
 
 TypicalRule MovingRule() {
-    TypicalRule rule = PlainTypicalRule(L"MOVE", L"Move", L"", L"");
+    TypicalRule rule = PlainTypicalRule(L"MOVE", L"", L"");
     rule.masks = {L"*.csv", L"report_????.xml", L"*.csv"};
     rule.masksCell = L"3";
     rule.typed = {{IDC_RULE_CERT_EDIT, kExchangeSent},
@@ -77,7 +76,7 @@ TypicalRule MovingRule() {
 }
 
 TypicalRule PackingRule() {
-    TypicalRule rule = PlainTypicalRule(L"PACK", L"Pack files", L"", L"*.pdf");
+    TypicalRule rule = PlainTypicalRule(L"PACK", L"", L"*.pdf");
     rule.typed = {{IDC_RULE_ROW1_NUMBER_EDIT, L"200"},
                   {IDC_RULE_ROW2_NUMBER_EDIT, L"10240"},
                   {IDC_RULE_ROW3_NUMBER_EDIT, L"30"},
@@ -89,7 +88,7 @@ TypicalRule PackingRule() {
 }
 
 TypicalRule ExecutingRule() {
-    TypicalRule rule = PlainTypicalRule(L"EXEC", L"Execute", L"", L"*");
+    TypicalRule rule = PlainTypicalRule(L"EXEC", L"", L"*");
     rule.typed = {{IDC_RULE_CERT_EDIT, L"C:\\Ledger\\import.exe"}, {IDC_RULE_ROW1_NUMBER_EDIT, L"5"}};
     rule.extraCell = L"C:\\Ledger\\import.exe; 5";
     rule.ownValues = {{L"ExecName", L"C:\\Ledger\\import.exe"}, {L"ExecTimeout", 5U}};
@@ -100,46 +99,43 @@ TypicalRule ExecutingRule() {
 
 std::vector<TypicalRule> RulesWithRecipients() {
     return {
-        EncryptingRule(L"ENCR", L"Encrypt", kFirstCsProfile, {kHelenMarsh, kOliverTrent}),
-        ArchivingRule(EncryptingRule(L"LENC", L"Encrypt long file", kSecondCsProfile, {kDanielOkafor}), kGzip,
+        EncryptingRule(L"ENCR", kFirstCsProfile, {kHelenMarsh, kOliverTrent}),
+        ArchivingRule(EncryptingRule(L"LENC", kSecondCsProfile, {kDanielOkafor}), kGzip,
                       L"; GZIP archivation", 2),
-        ArchivingRule(EncryptingRule(L"SGEN", L"Create attached signature and encrypt", kFirstCsProfile,
-                                     {kOliverTrent, kAstridLindholm, kHelenMarsh}),
+        ArchivingRule(EncryptingRule(L"SGEN", kFirstCsProfile, {kOliverTrent, kAstridLindholm, kHelenMarsh}),
                       kZip, L"; ZIP archivation", 1),
     };
 }
 
 std::vector<TypicalRule> RulesWithSigners() {
     return {
-        VerifyingRule(L"CHCK", L"Verify attached signature", kFirstCsProfile,
+        VerifyingRule(L"CHCK", kFirstCsProfile,
                       {{L"Directors", {kHelenMarsh}}, {L"Settlement desk", {kOliverTrent}}}, L"2"),
-        VerifyingRule(L"CHKX", L"Verify and delete attached signature", kSecondCsProfile,
-                      {{L"Dispatchers", {kErikSandberg, kAstridLindholm}}}, L"1"),
-        VerifyingRule(L"DCHK", L"Verify detached signature", kFirstCsProfile, {}, L""),
+        VerifyingRule(L"CHKX", kSecondCsProfile, {{L"Dispatchers", {kErikSandberg, kAstridLindholm}}}, L"1"),
+        VerifyingRule(L"DCHK", kFirstCsProfile, {}, L""),
         ResigningRule(),
-        ArchivingRule(VerifyingRule(L"DCCX", L"Decrypt, verify and delete attached signatures",
-                                    kFirstCsProfile, {{L"Dispatchers", {kErikSandberg}}}, L""),
-                      kZip, L"; ZIP archivation", 1),
+        ArchivingRule(VerifyingRule(L"DCCX", kFirstCsProfile, {{L"Dispatchers", {kErikSandberg}}}, L""), kZip,
+                      L"; ZIP archivation", 1),
     };
 }
 
 std::vector<TypicalRule> RulesWithoutCertificates() {
     return {
-        ArchivingRule(PlainTypicalRule(L"DECR", L"Decrypt", kFirstCsProfile, L"*.p7e"), kZip, kZip, 1),
-        PlainTypicalRule(L"HASH", L"Hash file", kSecondCsProfile, L"*"),
-        PlainTypicalRule(L"B64E", L"Encode b64", L"", L"*"),
-        PlainTypicalRule(L"B64D", L"Decode b64", L"", L"*.b64"),
-        PlainTypicalRule(L"SIGN", L"Attached signature", kFirstCsProfile, L"*.pdf"),
+        ArchivingRule(PlainTypicalRule(L"DECR", kFirstCsProfile, L"*.p7e"), kZip, kZip, 1),
+        PlainTypicalRule(L"HASH", kSecondCsProfile, L"*"),
+        PlainTypicalRule(L"B64E", L"", L"*"),
+        PlainTypicalRule(L"B64D", L"", L"*.b64"),
+        PlainTypicalRule(L"SIGN", kFirstCsProfile, L"*.pdf"),
         MovingRule(),
-        PlainTypicalRule(L"DELE", L"Delete", L"", L"~*"),
-        PlainTypicalRule(L"LDEC", L"Decrypt long file", kFirstCsProfile, L"*.p7e"),
-        PlainTypicalRule(L"CDSG", L"Create detached signature", kFirstCsProfile, L"*.pdf"),
-        PlainTypicalRule(L"DSIG", L"Add detached signature", kSecondCsProfile, L"*.p7d"),
-        PlainTypicalRule(L"DELS", L"Delete signatures without verification", kFirstCsProfile, L"*.p7s"),
-        ArchivingRule(PlainTypicalRule(L"ARCH", L"Archivate file", L"", L"*.log"), kGzip, kGzip, 2),
-        ArchivingRule(PlainTypicalRule(L"UNAR", L"Unarchivate file", L"", L"*.zip"), kZip, kZip, 1),
+        PlainTypicalRule(L"DELE", L"", L"~*"),
+        PlainTypicalRule(L"LDEC", kFirstCsProfile, L"*.p7e"),
+        PlainTypicalRule(L"CDSG", kFirstCsProfile, L"*.pdf"),
+        PlainTypicalRule(L"DSIG", kSecondCsProfile, L"*.p7d"),
+        PlainTypicalRule(L"DELS", kFirstCsProfile, L"*.p7s"),
+        ArchivingRule(PlainTypicalRule(L"ARCH", L"", L"*.log"), kGzip, kGzip, 2),
+        ArchivingRule(PlainTypicalRule(L"UNAR", L"", L"*.zip"), kZip, kZip, 1),
         PackingRule(),
-        PlainTypicalRule(L"UNPK", L"Unpack files", L"", L"*.zip"),
+        PlainTypicalRule(L"UNPK", L"", L"*.zip"),
         ExecutingRule(),
     };
 }

@@ -18,8 +18,8 @@ struct TypicalRule {
     std::wstring operation;
     /// Empty where the operation has none.
     std::wstring csProfile;
-    driver::Texts masks;
-    driver::Texts recipients;
+    Texts masks;
+    Texts recipients;
     std::vector<NamedSigners> signerLists;
     /// What is typed and chosen in the fields of the operation, by control.
     std::vector<std::pair<int, std::wstring>> typed;
@@ -28,7 +28,7 @@ struct TypicalRule {
     std::wstring masksCell;
     std::wstring extraCell;
     /// What it stores beyond folders, masks, recipients and signer lists.
-    driver::RegistryValues ownValues;
+    RegistryValues ownValues;
 };
 
 /// A rule for each operation that asks for recipients, for signer lists, and for neither.

@@ -21,28 +21,28 @@ namespace {
 
 class PackagedEditor : public ::testing::Test {
   protected:
-    PackagedEditor() { driver::UseScreenPixels(); }
+    PackagedEditor() { UseScreenPixels(); }
 
     void Start() {
         editor_.reset();
         editor_.emplace(EditorPath());
-        main_ = editor_->WaitForDialog(driver::Window());
+        main_ = editor_->WaitForDialog(Window());
     }
-    [[nodiscard]] const driver::Program& Editor() const { return *editor_; }
-    [[nodiscard]] const driver::Window& Main() const { return main_; }
+    [[nodiscard]] const Program& Editor() const { return *editor_; }
+    [[nodiscard]] const Window& Main() const { return main_; }
     /// The descriptions of the shown rules: those of the first profile.
-    [[nodiscard]] driver::Texts ShownRules() const {
-        return driver::ListView(main_.Control(IDC_RULE_LIST)).Column(kDescriptionColumn);
+    [[nodiscard]] Texts ShownRules() const {
+        return ListView(main_.Control(IDC_RULE_LIST)).Column(kDescriptionColumn);
     }
     /// Moves the first rule behind the second one, and gives the descriptions as they are to be shown then.
-    driver::Texts ExchangeFirstRules() const {
-        driver::Texts expected = ShownRules();
+    Texts ExchangeFirstRules() const {
+        Texts expected = ShownRules();
         if (expected.size() < 2) {
             ADD_FAILURE() << "the worked example was expected, and there are " << expected.size() << " rules";
             return expected;
         }
         std::swap(expected[0], expected[1]);
-        const driver::ListView rules(main_.Control(IDC_RULE_LIST));
+        const ListView rules(main_.Control(IDC_RULE_LIST));
         rules.Select({0});
         main_.Control(IDC_MOVE_DOWN_BUTTON).Click();
         rules.WaitForColumn(kDescriptionColumn, expected);
@@ -50,15 +50,15 @@ class PackagedEditor : public ::testing::Test {
     }
 
   private:
-    std::optional<driver::Program> editor_;
-    driver::Window main_;
+    std::optional<Program> editor_;
+    Window main_;
 };
 
 TEST_F(PackagedEditor, ShowsTheWorkedExampleAndSavesAChangeOfIt) {
     Start();
-    EXPECT_EQ(driver::ListView(Main().Control(IDC_PROFILE_LIST)).Column(0),
-              (driver::Texts{L"Archive", L"Incoming", L"Outgoing"}));
-    const driver::Texts expected = ExchangeFirstRules();
+    EXPECT_EQ(ListView(Main().Control(IDC_PROFILE_LIST)).Column(0),
+              (Texts{L"Archive", L"Incoming", L"Outgoing"}));
+    const Texts expected = ExchangeFirstRules();
     Main().Control(IDOK).PostClick();
     EXPECT_EQ(Editor().WaitForEnd(), 0U);
     Start();
@@ -67,7 +67,7 @@ TEST_F(PackagedEditor, ShowsTheWorkedExampleAndSavesAChangeOfIt) {
 
 TEST_F(PackagedEditor, IsLeftAloneWithWhatIsNotSavedWhileANewerVersionIsInstalled) {
     Start();
-    const driver::Texts expected = ExchangeFirstRules();
+    const Texts expected = ExchangeFirstRules();
     const wchar_t* const installer = _wgetenv(L"CORVANE_NEWER_INSTALLER");
     ASSERT_NE(installer, nullptr);
     const int code = _wsystem((L"msiexec /i \"" + std::wstring(installer) + L"\" /qn").c_str());
@@ -76,9 +76,9 @@ TEST_F(PackagedEditor, IsLeftAloneWithWhatIsNotSavedWhileANewerVersionIsInstalle
     ASSERT_TRUE(Editor().IsRunning());
     EXPECT_EQ(ShownRules(), expected);
     Main().Control(IDCANCEL).PostClick();
-    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
-    EXPECT_EQ(box.View(), driver::MessageBoxOfStyle(kUnsavedQuestion, L"QENT AC Velmaris - configuration",
-                                                    kConfirmation));
+    const MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    EXPECT_EQ(box.View(),
+              MessageBoxOfStyle(kUnsavedQuestion, L"QENT AC Velmaris - configuration", kConfirmation));
     box.Answer(IDYES);
     EXPECT_EQ(Editor().WaitForEnd(), 0U);
 }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/kit/samples/sample_rules.h"
+#include "tests/kit/samples/operation_witness.h"
 
 namespace corvane::test {
 namespace {

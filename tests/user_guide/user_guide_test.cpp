@@ -14,10 +14,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::ListView;
-using driver::Texts;
-using driver::Window;
-
 constexpr int kBlueness = 40;
 constexpr wchar_t kInvoicesIn[] = L"C:\\Exchange\\Out\\Invoices";
 constexpr wchar_t kInvoicesOut[] = L"C:\\Exchange\\Sent\\Invoices";
@@ -36,12 +32,12 @@ class UserGuide : public RuleEditorTest {
     static void WaitUntilActive(const Window& dialog) {
         constexpr unsigned kLimitMilliseconds = 5000;
         constexpr int kHeightOfMenuAndMore = 30;
-        static_cast<void>(driver::WaitUntil(
+        static_cast<void>(WaitUntil(
             [&] {
                 const RECT client = dialog.ClientBounds();
                 const LONG x = client.left + (client.right - client.left) / 8;
                 for (LONG y = client.top - 1; y > client.top - kHeightOfMenuAndMore; --y) {
-                    const COLORREF colour = audit::ScreenColour({x, y});
+                    const COLORREF colour = ScreenColour({x, y});
                     if (GetBValue(colour) > GetRValue(colour) + kBlueness) {
                         return true;
                     }
@@ -55,7 +51,7 @@ class UserGuide : public RuleEditorTest {
     static void Show(const Window& dialog, const std::string& name) {
         SettleDialog(dialog);
         WaitUntilActive(dialog);
-        audit::KeepPicture(dialog, name);
+        KeepPicture(dialog, name);
     }
 
     /// Opens the first rule of this operation, keeps a picture of it and leaves it as it is.
@@ -68,7 +64,7 @@ class UserGuide : public RuleEditorTest {
         const Texts operations = Rules().Column(kOperationColumn);
         const auto found = std::find(operations.begin(), operations.end(), operation);
         if (found == operations.end()) {
-            throw driver::Failure(L"The example was expected to have a rule for \"" + operation + L"\".");
+            throw Failure(L"The example was expected to have a rule for \"" + operation + L"\".");
         }
         return OpenStored(static_cast<int>(found - operations.begin()));
     }

@@ -12,18 +12,16 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class WaitWindowPicture : public CertificateTest {
   protected:
     /// The busy program's window may reach the screen a little later than the program has painted it.
     static void WaitForText(const Window& text) {
         const COLORREF colour = GetSysColor(COLOR_WINDOWTEXT);
-        EXPECT_TRUE(driver::WaitUntil([&] {
+        EXPECT_TRUE(WaitUntil([&] {
             const RECT place = text.Bounds();
             for (LONG y = place.top; y < place.bottom; ++y) {
                 for (LONG x = place.left; x < place.right; ++x) {
-                    if (audit::ScreenColour({x, y}) == colour) {
+                    if (ScreenColour({x, y}) == colour) {
                         return true;
                     }
                 }
@@ -43,7 +41,7 @@ TEST_F(WaitWindowPicture, IsTakenWhileTheLibraryIsAtWork) {
     ruleEditor.Control(IDC_RULE_CERT_BUTTON).PostClick();
     const Window wait = WaitForWaitWindow(Program());
     WaitForText(wait.Control(IDC_WAIT_TEXT));
-    audit::KeepPictureAsPainted(wait, "wait");
+    KeepPictureAsPainted(wait, "wait");
     held.Release();
     wait.WaitUntilGone();
     const Window refusal = WaitForWarningBox(ruleEditor);

@@ -8,10 +8,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::RegistryData;
-using driver::Texts;
-using driver::Window;
-
 /// The edits of the basic extensions, their labels and texts, their stored values and what "Apply" says of an
 /// empty one.
 struct Extension {
@@ -46,9 +42,9 @@ class Configurations : public EditorTest {
     [[nodiscard]] Window StartAndOpen() {
         WriteSampleConfiguration();
         for (const Extension& extension : kExtensions) {
-            driver::WriteRegistryValue(kProgramKey, extension.value, std::wstring(extension.stored));
+            WriteRegistryValue(kProgramKey, extension.value, std::wstring(extension.stored));
         }
-        driver::WriteRegistryValue(kProgramKey, L"ExtExt", Texts{L"xml", L"p7s", L"doc"});
+        WriteRegistryValue(kProgramKey, L"ExtExt", Texts{L"xml", L"p7s", L"doc"});
         Start();
         return Open();
     }
@@ -96,7 +92,7 @@ class Configurations : public EditorTest {
         return ListEntries(dialog.Control(IDC_CONFIG_ADDITIONAL_LIST));
     }
     [[nodiscard]] static RegistryData Stored(const wchar_t* value) {
-        return driver::ReadRegistryValue(kProgramKey, value);
+        return ReadRegistryValue(kProgramKey, value);
     }
 };
 
@@ -121,12 +117,12 @@ TEST_F(Configurations, HasIconsTipsTabOrderAndOkAsItsDefault) {
     const Window dialog = StartAndOpen();
     const std::map<int, std::wstring> tips = {{IDC_CONFIG_ADD_BUTTON, L"Add"},
                                               {IDC_CONFIG_DELETE_BUTTON, L"Delete"}};
-    EXPECT_EQ(driver::ToolTipTexts(dialog), tips);
+    EXPECT_EQ(ToolTipTexts(dialog), tips);
     const std::map<int, int> icons = {{IDC_CONFIG_ADD_BUTTON, IDI_ADD_ITEM},
                                       {IDC_CONFIG_DELETE_BUTTON, IDI_DELETE_ITEM}};
     for (const auto& [button, icon] : icons) {
         EXPECT_EQ(dialog.Control(button).Text(), tips.at(button));
-        EXPECT_TRUE(driver::IconOf(dialog.Control(button), driver::IconPlace::kButton, icon).showsResource);
+        EXPECT_TRUE(IconOf(dialog.Control(button), IconPlace::kButton, icon).showsResource);
     }
     EXPECT_EQ(LOWORD(dialog.Send(DM_GETDEFID)), IDOK);
     std::vector<int> order;
@@ -190,7 +186,7 @@ TEST_F(Configurations, EveryEditCountsAsAChange) {
     Close(dialog, IDOK);
     SaveAndLeave();
     for (const Extension& extension : kExtensions) {
-        EXPECT_EQ(Stored(extension.value), RegistryData(L"new")) << driver::Utf8(extension.value);
+        EXPECT_EQ(Stored(extension.value), RegistryData(L"new")) << Utf8(extension.value);
     }
 }
 
@@ -244,7 +240,7 @@ TEST_F(Configurations, ApplyRefusesAnEmptyExtensionAndTakesNothing) {
 
 TEST_F(Configurations, ApplyWithoutAChangeChecksNothing) {
     WriteSampleConfiguration();
-    driver::WriteRegistryValue(kProgramKey, L"HashExt", std::wstring());
+    WriteRegistryValue(kProgramKey, L"HashExt", std::wstring());
     Start();
     const Window dialog = Open();
     EXPECT_EQ(dialog.Control(IDC_CONFIG_HASH_EDIT).Text(), L"");

@@ -10,21 +10,21 @@ class LogSettings : public EditorTest {
   protected:
     void StartWithLog(const std::wstring& path, std::uint32_t sizeKilobytes) {
         WriteSampleConfiguration();
-        driver::WriteRegistryValue(kProgramKey, L"LogPath", path);
-        driver::WriteRegistryValue(kProgramKey, L"Log filesize", sizeKilobytes);
+        WriteRegistryValue(kProgramKey, L"LogPath", path);
+        WriteRegistryValue(kProgramKey, L"Log filesize", sizeKilobytes);
         Start();
     }
-    [[nodiscard]] driver::Window Open() const {
+    [[nodiscard]] Window Open() const {
         Control(IDC_LOG_PATH_BUTTON).PostClick();
         return Editor().WaitForDialog(Main());
     }
-    void Close(const driver::Window& dialog, int buttonId) const {
+    void Close(const Window& dialog, int buttonId) const {
         dialog.Control(buttonId).PostClick();
         dialog.WaitUntilGone();
         WaitForMain();
     }
     /// OK must report this path with this code, and the dialog must stay open as it is.
-    void ExpectBadPath(const driver::Window& dialog, const std::wstring& path, unsigned code) const {
+    void ExpectBadPath(const Window& dialog, const std::wstring& path, unsigned code) const {
         dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(path);
         dialog.Control(IDOK).PostClick();
         ExpectMessageBox(dialog, ReportText(L"Opening file " + path, code, L"Bad Log path."), kReport, IDOK);
@@ -32,17 +32,13 @@ class LogSettings : public EditorTest {
         EXPECT_EQ(dialog.Control(IDC_LOG_FOLDER_EDIT).Text(), path);
         dialog.Control(IDC_LOG_FOLDER_EDIT).WaitForFocus();
     }
-    [[nodiscard]] static driver::RegistryData StoredPath() {
-        return driver::ReadRegistryValue(kProgramKey, L"LogPath");
-    }
-    [[nodiscard]] static driver::RegistryData StoredSize() {
-        return driver::ReadRegistryValue(kProgramKey, L"Log filesize");
-    }
+    [[nodiscard]] static RegistryData StoredPath() { return ReadRegistryValue(kProgramKey, L"LogPath"); }
+    [[nodiscard]] static RegistryData StoredSize() { return ReadRegistryValue(kProgramKey, L"Log filesize"); }
 };
 
 TEST_F(LogSettings, ShowsTheStoredSettings) {
     StartWithLog(L"C:\\windows", 1234);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     EXPECT_EQ(dialog.Text(), L"Log path");
     EXPECT_EQ(dialog.Control(IDC_LOG_FOLDER_EDIT).Text(), L"C:\\windows");
     EXPECT_EQ(dialog.Control(IDC_LOG_SIZE_EDIT).Text(), L"1234");
@@ -57,21 +53,21 @@ TEST_F(LogSettings, ShowsTheStoredSettings) {
 TEST_F(LogSettings, OpensFromTheMenuToo) {
     StartWithLog(L"C:\\windows", 4000);
     Main().PostMenuCommand(IDM_LOG_PATH);
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     EXPECT_EQ(dialog.Text(), L"Log path");
     Close(dialog, IDCANCEL);
 }
 
 TEST_F(LogSettings, OkTakesPathAndSizeWhichAreThenToBeSaved) {
     StartWithLog(L"", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\windows");
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"5000");
     Close(dialog, IDOK);
-    EXPECT_EQ(StoredPath(), driver::RegistryData(L""));
+    EXPECT_EQ(StoredPath(), RegistryData(L""));
     SaveAndLeave();
-    EXPECT_EQ(StoredPath(), driver::RegistryData(L"C:\\windows"));
-    EXPECT_EQ(StoredSize(), driver::RegistryData(5000U));
+    EXPECT_EQ(StoredPath(), RegistryData(L"C:\\windows"));
+    EXPECT_EQ(StoredSize(), RegistryData(5000U));
 }
 
 TEST_F(LogSettings, OkWithoutAnyChangeStillHasToBeSaved) {
@@ -82,11 +78,11 @@ TEST_F(LogSettings, OkWithoutAnyChangeStillHasToBeSaved) {
 
 TEST_F(LogSettings, ExitLeavesEverythingAsItWas) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\elsewhere");
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"5000");
     Close(dialog, IDCANCEL);
-    const driver::Window again = Open();
+    const Window again = Open();
     EXPECT_EQ(again.Control(IDC_LOG_FOLDER_EDIT).Text(), L"C:\\windows");
     EXPECT_EQ(again.Control(IDC_LOG_SIZE_EDIT).Text(), L"4000");
     Close(again, IDCANCEL);
@@ -95,7 +91,7 @@ TEST_F(LogSettings, ExitLeavesEverythingAsItWas) {
 
 TEST_F(LogSettings, EscapeAndTheCloseBoxDoWhatExitDoes) {
     StartWithLog(L"C:\\windows", 4000);
-    driver::Window dialog = Open();
+    Window dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"5000");
     dialog.FocusOfThread().PostKey(VK_ESCAPE);
     dialog.WaitUntilGone();
@@ -110,7 +106,7 @@ TEST_F(LogSettings, EscapeAndTheCloseBoxDoWhatExitDoes) {
 
 TEST_F(LogSettings, EnterDoesWhatOkDoes) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).PostKey(VK_RETURN);
     dialog.WaitUntilGone();
     WaitForMain();
@@ -120,8 +116,8 @@ TEST_F(LogSettings, EnterDoesWhatOkDoes) {
 // Deliberate: the size is corrected at once, even while it is being typed.
 TEST_F(LogSettings, TypingOneIntoAnEmptySizeTurnsItInto400) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
-    const driver::Window size = dialog.Control(IDC_LOG_SIZE_EDIT);
+    const Window dialog = Open();
+    const Window size = dialog.Control(IDC_LOG_SIZE_EDIT);
     size.Send(EM_SETSEL, 0, -1);
     size.Type(L"1");
     EXPECT_EQ(size.Text(), L"400");
@@ -130,17 +126,17 @@ TEST_F(LogSettings, TypingOneIntoAnEmptySizeTurnsItInto400) {
 
 TEST_F(LogSettings, EmptyingTheSizeShows400AtOnce) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"");
     EXPECT_EQ(dialog.Control(IDC_LOG_SIZE_EDIT).Text(), L"400");
     Close(dialog, IDOK);
     SaveAndLeave();
-    EXPECT_EQ(StoredSize(), driver::RegistryData(400U));
+    EXPECT_EQ(StoredSize(), RegistryData(400U));
 }
 
 TEST_F(LogSettings, ASizeOf400Stays) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"399");
     EXPECT_EQ(dialog.Control(IDC_LOG_SIZE_EDIT).Text(), L"400");
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"401");
@@ -150,7 +146,7 @@ TEST_F(LogSettings, ASizeOf400Stays) {
 
 TEST_F(LogSettings, CorrectingTheSizeKeepsThePathThatIsBeingEdited) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L"C:\\half typ");
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"1");
     EXPECT_EQ(dialog.Control(IDC_LOG_FOLDER_EDIT).Text(), L"C:\\half typ");
@@ -159,7 +155,7 @@ TEST_F(LogSettings, CorrectingTheSizeKeepsThePathThatIsBeingEdited) {
 
 TEST_F(LogSettings, APathThatDoesNotExistIsRefused) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     ExpectBadPath(dialog, L"C:\\no such folder", ERROR_FILE_NOT_FOUND);
     ExpectBadPath(dialog, L"C:\\no such folder\\logs", ERROR_PATH_NOT_FOUND);
     Close(dialog, IDCANCEL);
@@ -168,7 +164,7 @@ TEST_F(LogSettings, APathThatDoesNotExistIsRefused) {
 
 TEST_F(LogSettings, ARelativePathIsRefusedAlsoWhereItExists) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     ExpectBadPath(dialog, L".", ERROR_PATH_NOT_FOUND);
     Close(dialog, IDCANCEL);
     ExpectNothingToSave();
@@ -176,17 +172,17 @@ TEST_F(LogSettings, ARelativePathIsRefusedAlsoWhereItExists) {
 
 TEST_F(LogSettings, APathWithTwoBackslashesPasses) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     // A path of the current drive without its letter; only the two backslashes let it pass.
     dialog.Control(IDC_LOG_FOLDER_EDIT).SetText(L".\\\\.");
     Close(dialog, IDOK);
     SaveAndLeave();
-    EXPECT_EQ(StoredPath(), driver::RegistryData(L".\\\\."));
+    EXPECT_EQ(StoredPath(), RegistryData(L".\\\\."));
 }
 
 TEST_F(LogSettings, AStoredSizeBelow400IsShownAs400) {
     StartWithLog(L"C:\\windows", 10);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     EXPECT_EQ(dialog.Control(IDC_LOG_SIZE_EDIT).Text(), L"400");
     Close(dialog, IDCANCEL);
     ExpectNothingToSave();
@@ -194,10 +190,10 @@ TEST_F(LogSettings, AStoredSizeBelow400IsShownAs400) {
 
 TEST_F(LogSettings, TheButtonPicksAFolder) {
     StartWithLog(L"", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_SIZE_EDIT).SetText(L"777");
     dialog.Control(IDC_LOG_FOLDER_BUTTON).PostClick();
-    const driver::FileDialog picker(Editor().WaitForDialog(dialog));
+    const FileDialog picker(Editor().WaitForDialog(dialog));
     picker.SetFileName(L"C:\\windows");
     picker.Confirm();
     picker.WaitUntilGone();
@@ -210,9 +206,9 @@ TEST_F(LogSettings, TheButtonPicksAFolder) {
 
 TEST_F(LogSettings, GivingUpThePickerKeepsThePath) {
     StartWithLog(L"C:\\windows", 4000);
-    const driver::Window dialog = Open();
+    const Window dialog = Open();
     dialog.Control(IDC_LOG_FOLDER_BUTTON).PostClick();
-    const driver::FileDialog picker(Editor().WaitForDialog(dialog));
+    const FileDialog picker(Editor().WaitForDialog(dialog));
     picker.GiveUp();
     dialog.WaitUntilEnabled();
     EXPECT_EQ(dialog.Control(IDC_LOG_FOLDER_EDIT).Text(), L"C:\\windows");

@@ -99,7 +99,7 @@ class FocusAfter : public EditorTest, public ::testing::WithParamInterface<Step>
     /// Ends what the command has opened, and waits until it is through.
     void Finish() const {
         if (GetParam().answer != 0) {
-            const driver::Window dialog = Editor().WaitForWindow(Main());
+            const Window dialog = Editor().WaitForWindow(Main());
             dialog.Post(WM_COMMAND, static_cast<WPARAM>(GetParam().answer));
             dialog.WaitUntilGone();
             WaitForMain();
@@ -178,7 +178,7 @@ TEST_F(FocusAndSelection, StayWhereTheyAreAfterTheAboutBox) {
     StartWithSample();
     SelectInTheRuleList(2);
     Main().Post(WM_SYSCOMMAND, IDM_ABOUT);
-    const driver::Window box = Editor().WaitForDialog(Main());
+    const Window box = Editor().WaitForDialog(Main());
     box.Control(IDOK).PostClick();
     box.WaitUntilGone();
     WaitForMain();
@@ -210,12 +210,12 @@ TEST_F(FocusAndSelection, ARefillScrollsTheListOnlyWhenItMayDraw) {
     const int top = Rules().TopRow();
     ASSERT_GT(top, 0);
     Rules().Select({39});
-    const driver::MessageWatch watch(Rules(), {WM_SETREDRAW, LVM_SCROLL});
+    const MessageWatch watch(Rules(), {WM_SETREDRAW, LVM_SCROLL});
     Main().SendMenuCommand(IDM_MOVE_UP);
     EXPECT_EQ(Rules().TopRow(), top);
     bool isDrawing = true;
     int scrolls = 0;
-    for (const driver::ProbeMessage& sent : watch.Sent()) {
+    for (const ProbeMessage& sent : watch.Sent()) {
         if (sent.message == WM_SETREDRAW) {
             isDrawing = sent.wParam != 0;
         } else {

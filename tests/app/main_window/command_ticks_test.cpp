@@ -33,14 +33,14 @@ class Ticks : public EditorTest {
     }
     /// Whether the shown rule with the description of a sample rule is checked; it must be there.
     [[nodiscard]] bool IsChecked(int rule) const {
-        const driver::Texts shown = ShownRules();
+        const Texts shown = ShownRules();
         const auto row =
             std::find(shown.begin(), shown.end(), SampleDescriptions()[static_cast<std::size_t>(rule)]);
         EXPECT_NE(row, shown.end()) << "rule " << rule << " is not shown";
         return row != shown.end() && Rules().IsChecked(static_cast<int>(row - shown.begin()));
     }
     static std::uint32_t StoredSwitch(int rule) {
-        const driver::Texts stored = StoredRuleTexts(L"alpha", L"Descryption");
+        const Texts stored = StoredRuleTexts(L"alpha", L"Descryption");
         const auto found =
             std::find(stored.begin(), stored.end(), SampleDescriptions()[static_cast<std::size_t>(rule)]);
         EXPECT_NE(found, stored.end()) << "rule " << rule << " is not stored";
@@ -51,7 +51,7 @@ class Ticks : public EditorTest {
     void Give(const Command& command) const {
         Main().PostMenuCommand(command.menuId);
         if (command.answer != 0) {
-            const driver::Window dialog = Editor().WaitForWindow(Main());
+            const Window dialog = Editor().WaitForWindow(Main());
             dialog.Post(WM_COMMAND, static_cast<WPARAM>(command.answer));
             dialog.WaitUntilGone();
             WaitForMain();
@@ -141,7 +141,7 @@ TEST_F(Ticks, SurviveADoubleClickOnTheProfileAndOk) {
     StartWithSample();
     TickWithoutFocus(kMove);
     Profiles().PostLeftDoubleClick(Profiles().CellCentre(0, 0));
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     dialog.Post(WM_COMMAND, IDOK);
     dialog.WaitUntilGone();
     WaitForMain();
@@ -152,7 +152,7 @@ TEST_F(Ticks, SurviveADoubleClickOnAnotherRule) {
     StartWithSample();
     TickWithoutFocus(kMove);
     Rules().PostLeftDoubleClick(Rules().CellCentre(kPack, kDescriptionColumn));
-    const driver::Window dialog = Editor().WaitForDialog(Main());
+    const Window dialog = Editor().WaitForDialog(Main());
     dialog.Post(WM_COMMAND, IDCANCEL);
     dialog.WaitUntilGone();
     WaitForMain();
@@ -186,7 +186,7 @@ TEST_F(Ticks, AreSavedByEnterFromTheList) {
 // A box that shows what the rule is changes nothing, even where another program has stored an odd number.
 TEST_F(Ticks, NobodyHasMadeAreNoChange) {
     WriteSampleConfiguration();
-    driver::WriteRegistryValue(RuleKey(L"alpha", kEncrypt), L"Is on", 5U);
+    WriteRegistryValue(RuleKey(L"alpha", kEncrypt), L"Is on", 5U);
     Start();
     Main().SendMenuCommand(IDM_OPEN_PROFILE);
     ExpectNothingToSave();
@@ -209,13 +209,13 @@ TEST_F(Ticks, UnderAFilterWaitUntilTheListLosesTheFocus) {
 // Deliberate: the list does not have the row of the rule without operation, and rows stand for positions.
 TEST_F(Ticks, BesideARuleWithoutOperationWaitUntilTheListLosesTheFocus) {
     WriteSampleConfiguration();
-    driver::WriteRegistryValue(RuleKey(L"beta", 0), L"Operation", L"");
+    WriteRegistryValue(RuleKey(L"beta", 0), L"Operation", L"");
     Start();
     OpenProfile(L"beta");
     EnterRuleList(0);
     Rules().SetChecked(0, true);
     Main().SendMenuCommand(IDM_SAVE);
-    EXPECT_EQ(std::get<std::uint32_t>(driver::ReadRegistryValue(RuleKey(L"beta", 1), L"Is on")), 0U);
+    EXPECT_EQ(std::get<std::uint32_t>(ReadRegistryValue(RuleKey(L"beta", 1), L"Is on")), 0U);
 }
 
 }  // namespace

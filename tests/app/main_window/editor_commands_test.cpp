@@ -9,23 +9,23 @@ class GivenUpEditors : public EditorTest {
   protected:
     /// The command must have opened the editor that has this control; it is given up.
     void GiveUp(int controlOfEditor) {
-        const driver::Window editor = Editor().WaitForDialog(Main());
-        EXPECT_TRUE(editor.HasControl(controlOfEditor)) << driver::Utf8(editor.Name());
+        const Window editor = Editor().WaitForDialog(Main());
+        EXPECT_TRUE(editor.HasControl(controlOfEditor)) << Utf8(editor.Name());
         editor.Post(WM_COMMAND, IDCANCEL);
         editor.WaitUntilGone();
         ExpectNothingChanged();
     }
     void ExpectNothingChanged() {
         WaitForMain();
-        EXPECT_EQ(Profiles().Column(0), (driver::Texts{L"alpha", L"beta", L"gamma"}));
+        EXPECT_EQ(Profiles().Column(0), (Texts{L"alpha", L"beta", L"gamma"}));
         EXPECT_EQ(ShownRules(), SampleDescriptions());
         EXPECT_EQ(Control(IDC_PROFILE_CAPTION_EDIT).Text(), L"Profile: alpha");
         ExpectNothingToSave();
-        EXPECT_EQ(driver::ReadRegistryTree(L""), before_);
+        EXPECT_EQ(ReadRegistryTree(L""), before_);
     }
     void StartSelected(int row) {
         WriteSampleConfiguration();
-        before_ = driver::ReadRegistryTree(L"");
+        before_ = ReadRegistryTree(L"");
         Start();
         if (row >= 0) {
             Rules().Select({row});
@@ -33,7 +33,7 @@ class GivenUpEditors : public EditorTest {
     }
 
   private:
-    std::map<std::wstring, driver::RegistryValues> before_;
+    std::map<std::wstring, RegistryValues> before_;
 };
 
 TEST_F(GivenUpEditors, AddProfileByButton) {

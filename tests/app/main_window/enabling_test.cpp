@@ -35,7 +35,7 @@ class Enabling : public EditorTest {
             EXPECT_TRUE(Control(id).IsEnabled()) << "control " << id;
         }
         for (const int id : kMenuItemsOfAProfile) {
-            const driver::MenuItem item = MenuItemOf(Main(), id);
+            const MenuItem item = MenuItemOf(Main(), id);
             EXPECT_EQ(item.isEnabled, isProfileOpen) << "menu item " << id;
             EXPECT_EQ(item.isGrey, !isProfileOpen) << "menu item " << id;
         }
@@ -65,7 +65,7 @@ TEST_F(Enabling, DeletingTheProfileDisablesAndGreysThemUntilAnotherIsOpened) {
 // Windows draws the bar anew only when it is told to.
 TEST_F(Enabling, TheMenuBarIsDrawnAgainWhenItsItemsChange) {
     StartWithSample();
-    const driver::MessageWatch watch(Main(), {WM_NCCALCSIZE});
+    const MessageWatch watch(Main(), {WM_NCCALCSIZE});
     const auto framesDrawn = [&watch] { return watch.Sent().size(); };
     const std::size_t before = framesDrawn();
     DeleteOpenProfile(L"alpha");

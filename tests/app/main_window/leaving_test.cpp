@@ -58,13 +58,13 @@ TEST_P(LeavingWithoutSaving, EndsAtOnceWhenNothingChanged) {
 
 TEST_P(LeavingWithoutSaving, AsksWhenSomethingChangedAndYesLosesIt) {
     WriteSampleConfiguration();
-    const auto before = driver::ReadRegistryTree(L"");
+    const auto before = ReadRegistryTree(L"");
     Start();
     ChangeSomething();
     Leave();
     ExpectMessageBox(Main(), kUnsavedQuestion, kConfirmation, IDYES);
     EXPECT_EQ(Editor().WaitForEnd(), 0U);
-    EXPECT_EQ(driver::ReadRegistryTree(L""), before);
+    EXPECT_EQ(ReadRegistryTree(L""), before);
 }
 
 TEST_P(LeavingWithoutSaving, NoKeepsTheWindowAndEveryChange) {
@@ -94,7 +94,7 @@ TEST_F(SaveAndExit, SavesWhatChanged) {
     Control(IDOK).PostClick();
     EXPECT_EQ(Editor().WaitForEnd(), 0U);
     EXPECT_EQ(StoredRuleTexts(L"alpha", L"Operation"),
-              (driver::Texts{L"MOVE", L"ENCR", L"RESG", L"PACK", L"EXEC", L"DELE"}));
+              (Texts{L"MOVE", L"ENCR", L"RESG", L"PACK", L"EXEC", L"DELE"}));
 }
 
 TEST_F(SaveAndExit, IsWhatEnterDoesInTheLists) {
@@ -123,7 +123,7 @@ TEST_F(SaveAndExit, ByEnterFromAListThatTheSearchHasFilteredSwitchesNoRule) {
 TEST_F(SaveAndExit, EnterOnAnotherButtonPressesThatButton) {
     StartWithSample();
     Press(IDC_SAVE_ICON_BUTTON);
-    driver::WriteRegistryValue(RuleKey(L"alpha", 0), L"Operation", L"");
+    WriteRegistryValue(RuleKey(L"alpha", 0), L"Operation", L"");
     Profiles().PostLeftClick(Profiles().CellCentre(0, 0));
     Profiles().WaitForFocus();
     while (Main().FocusOfThread().Id() != IDC_SAVE_ICON_BUTTON) {
@@ -145,7 +145,7 @@ TEST_F(SaveAndExit, AsksWhenTheSaveFailsAndNoStays) {
     StartWithSample();
     Rules().Select({kEncrypt});
     Press(IDC_MOVE_DOWN_BUTTON);
-    driver::DeleteRegistryKey(kProgramKey);
+    DeleteRegistryKey(kProgramKey);
     Control(IDOK).PostClick();
     const std::wstring report =
         ReportText(L"Create (open) register key HKEY_CURRENT_USER\\SOFTWARE\\HOLVAN\\tarntray", 2);
@@ -192,41 +192,41 @@ TEST_F(Saving, ByTheMenuAndBothButtonsClearsTheChange) {
 
 TEST_F(Saving, WritesEveryProfileAndRuleAndLeavesTheProvidersKeyAlone) {
     StartWithSample();
-    const auto catalogue = driver::ReadRegistryTree(kCatalogueKey);
+    const auto catalogue = ReadRegistryTree(kCatalogueKey);
     SaveAndLeave();
-    EXPECT_EQ(driver::RegistrySubkeys(kProgramKey), (driver::Texts{L"alpha", L"beta", L"gamma"}));
+    EXPECT_EQ(RegistrySubkeys(kProgramKey), (Texts{L"alpha", L"beta", L"gamma"}));
     EXPECT_EQ(StoredRuleTexts(L"alpha", L"Operation"), SampleOperations());
     EXPECT_EQ(StoredRuleTexts(L"alpha", L"Descryption"), SampleDescriptions());
-    EXPECT_EQ(StoredRuleTexts(L"beta", L"Operation"), (driver::Texts{L"HASH", L"B64E"}));
-    EXPECT_EQ(driver::ReadRegistryValues(RuleKey(L"alpha", kResign) + L"\\Board"),
-              (driver::RegistryValues{{L"Signer Num", 2U}, {L"S0", L"CN=Chair"}, {L"S1", L"CN=Secretary"}}));
-    EXPECT_EQ(driver::ReadRegistryTree(kCatalogueKey), catalogue);
+    EXPECT_EQ(StoredRuleTexts(L"beta", L"Operation"), (Texts{L"HASH", L"B64E"}));
+    EXPECT_EQ(ReadRegistryValues(RuleKey(L"alpha", kResign) + L"\\Board"),
+              (RegistryValues{{L"Signer Num", 2U}, {L"S0", L"CN=Chair"}, {L"S1", L"CN=Secretary"}}));
+    EXPECT_EQ(ReadRegistryTree(kCatalogueKey), catalogue);
 }
 
 TEST_F(Saving, ASecondSaveWritesTheSame) {
     StartWithSample();
     Press(IDC_SAVE_BUTTON);
-    const auto first = driver::ReadRegistryTree(L"");
+    const auto first = ReadRegistryTree(L"");
     ExpectNothingToSave();
     Start();
     EXPECT_EQ(ShownRules(), SampleDescriptions());
     SaveAndLeave();
-    EXPECT_EQ(driver::ReadRegistryTree(L""), first);
+    EXPECT_EQ(ReadRegistryTree(L""), first);
 }
 
 // The box is asked for its pointer as soon as the mouse is over it, and has the usual one.
 TEST_F(Saving, ShowsTheHourglassButOverTheBoxesThatItShows) {
     SetCursorPos(1, 1);
     StartWithSample();
-    driver::DeleteRegistryKey(kProgramKey);
+    DeleteRegistryKey(kProgramKey);
     Control(IDC_SAVE_BUTTON).PostClick();
-    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(Main());
-    EXPECT_EQ(driver::PointerOf(box), driver::kHourglass);
+    const MessageBoxWindow box = Editor().WaitForMessageBox(Main());
+    EXPECT_EQ(PointerOf(box), kHourglass);
     box.Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(box.Handle()), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-    EXPECT_EQ(driver::PointerOf(box), driver::kArrow);
+    EXPECT_EQ(PointerOf(box), kArrow);
     box.Answer(IDOK);
     WaitForMain();
-    EXPECT_NE(driver::PointerOf(Main()), driver::kHourglass);
+    EXPECT_NE(PointerOf(Main()), kHourglass);
 }
 
 class SessionEnd : public EditorTest {};
@@ -288,7 +288,7 @@ TEST_F(TabOrder, VisitsEveryControlInReadingOrder) {
                                        IDC_PROFILE_CAPTION_EDIT};
     std::vector<int> visited;
     for (std::size_t i = 0; i < expected.size(); ++i) {
-        const driver::Window focused = Main().FocusOfThread();
+        const Window focused = Main().FocusOfThread();
         visited.push_back(focused.Id());
         focused.PostKey(VK_TAB);
         Settle();

@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-#include "tests/kit/samples/sample_state.h"
+#include "tests/kit/samples/sample_configuration.h"
 
 namespace corvane::test {
 namespace {

@@ -6,8 +6,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 class ProfileList : public EditorTest {
   protected:
     void DeleteOpenProfile(const std::wstring& asked) const {
@@ -121,7 +119,7 @@ TEST_F(ProfileList, DeletingFromWithinTheRuleListSwitchesNoRuleOfAnotherProfile)
     const std::vector<std::wstring> others = {L"beta", L"gamma"};
     for (const std::wstring& other : others) {
         for (int rule = 0; rule < 2; ++rule) {
-            driver::WriteRegistryValue(RuleKey(other, rule), L"Is on", 0U);
+            WriteRegistryValue(RuleKey(other, rule), L"Is on", 0U);
         }
     }
     Start();
@@ -132,7 +130,7 @@ TEST_F(ProfileList, DeletingFromWithinTheRuleListSwitchesNoRuleOfAnotherProfile)
     Profiles().WaitForFocus();
     SaveAndLeave();
     for (const std::wstring& other : others) {
-        EXPECT_EQ(StoredSwitches(other), (std::vector<std::uint32_t>{0, 0})) << driver::Utf8(other);
+        EXPECT_EQ(StoredSwitches(other), (std::vector<std::uint32_t>{0, 0})) << Utf8(other);
     }
 }
 
@@ -162,7 +160,7 @@ TEST_F(ProfileList, ASavedDeletionRemovesTheKeyWithEverythingUnderIt) {
     StartWithSample();
     DeleteOpenProfile(L"alpha");
     SaveAndLeave();
-    EXPECT_EQ(driver::RegistrySubkeys(kProgramKey), (Texts{L"beta", L"gamma"}));
+    EXPECT_EQ(RegistrySubkeys(kProgramKey), (Texts{L"beta", L"gamma"}));
 }
 
 TEST_F(ProfileList, AddingWithoutAnyCsProfileIsRefused) {

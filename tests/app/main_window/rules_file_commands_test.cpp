@@ -12,8 +12,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 /// A description that the machine's code page can write, beyond ASCII; Cyrillic where it has it.
 std::wstring LocalText() {
     return GetACP() == 1251
@@ -49,12 +47,12 @@ class RulesFile : public EditorTest {
     void WriteFile(const std::wstring& name, const std::string& bytes) const {
         std::ofstream(folder_ / name, std::ios::binary) << bytes;
     }
-    [[nodiscard]] driver::FileDialog OpenFileDialog(int buttonId) const {
+    [[nodiscard]] FileDialog OpenFileDialog(int buttonId) const {
         Control(buttonId).PostClick();
-        return driver::FileDialog(Editor().WaitForDialog(Main()));
+        return FileDialog(Editor().WaitForDialog(Main()));
     }
     /// Answers the file dialog with a path and waits until the main window can be used again.
-    void Choose(const driver::FileDialog& dialog, const std::wstring& path) const {
+    void Choose(const FileDialog& dialog, const std::wstring& path) const {
         dialog.SetFileName(path);
         dialog.Confirm();
         dialog.WaitUntilGone();
@@ -74,7 +72,7 @@ class RulesFile : public EditorTest {
 
 TEST_F(RulesFile, ExportOffersTheProfilesNameAndTheFileTypes) {
     StartWithSample();
-    const driver::FileDialog dialog = OpenFileDialog(IDC_EXPORT_RULES_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_EXPORT_RULES_BUTTON);
     EXPECT_EQ(dialog.FileName(), L"alpha");
     EXPECT_EQ(dialog.FileTypes(), (Texts{L"Profiles (*.prx)", L"All files (*.*)"}));
     dialog.GiveUp();
@@ -99,7 +97,7 @@ TEST_F(RulesFile, ExportWritesOneRecordForEachRule) {
 TEST_F(RulesFile, ExportByTheMenuAddsTheExtension) {
     StartWithSample();
     Main().PostMenuCommand(IDM_EXPORT_RULES);
-    Choose(driver::FileDialog(Editor().WaitForDialog(Main())), Path(L"without"));
+    Choose(FileDialog(Editor().WaitForDialog(Main())), Path(L"without"));
     WaitForMain();
     EXPECT_FALSE(Content(L"without.prx").empty());
 }
@@ -118,10 +116,10 @@ TEST_F(RulesFile, ExportOverAnExistingFileAsksFirst) {
     StartWithSample();
     OpenProfile(L"beta");
     WriteFile(L"old.prx", "old");
-    const driver::FileDialog dialog = OpenFileDialog(IDC_EXPORT_RULES_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_EXPORT_RULES_BUTTON);
     dialog.SetFileName(Path(L"old.prx"));
     dialog.Confirm();
-    const driver::MessageBoxWindow question = Editor().WaitForMessageBox(dialog);
+    const MessageBoxWindow question = Editor().WaitForMessageBox(dialog);
     question.Answer(IDNO);
     dialog.WaitUntilEnabled();
     EXPECT_EQ(Content(L"old.prx"), "old");
@@ -137,14 +135,14 @@ TEST_F(RulesFile, ExportToAFileThatCannotBeCreatedIsReported) {
     StartWithSample();
     // Opened without sharing, the file is there for the dialog and closed to the export.
     WriteFile(L"locked.prx", "locked");
-    const driver::UniqueHandle lock(CreateFileW(Path(L"locked.prx").c_str(), GENERIC_READ, 0, nullptr,
-                                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    const driver::FileDialog dialog = OpenFileDialog(IDC_EXPORT_RULES_BUTTON);
+    const UniqueHandle lock(CreateFileW(Path(L"locked.prx").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+    const FileDialog dialog = OpenFileDialog(IDC_EXPORT_RULES_BUTTON);
     dialog.SetFileName(Path(L"locked.prx"));
     dialog.Confirm();
     Editor().WaitForMessageBox(dialog).Answer(IDYES);
     dialog.WaitUntilGone();
-    EXPECT_EQ(driver::PointerOf(Editor().WaitForMessageBox(Main())), driver::kHourglass);
+    EXPECT_EQ(PointerOf(Editor().WaitForMessageBox(Main())), kHourglass);
     ExpectBox(ReportText(L"Creating file " + Path(L"locked.prx"), ERROR_SHARING_VIOLATION), kReport, IDOK);
     ExpectNothingToSave();
 }
@@ -182,12 +180,11 @@ TEST_F(RulesFile, AnImportedRuleIsSavedLikeTheOneThatWasExported) {
     Import(L"all.prx");
     SaveAndLeave();
     for (const int rule : {kEncrypt, kMove, kPack, kExecute, kDelete}) {
-        EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"target", rule)),
-                  driver::ReadRegistryTree(RuleKey(L"alpha", rule)))
+        EXPECT_EQ(ReadRegistryTree(RuleKey(L"target", rule)), ReadRegistryTree(RuleKey(L"alpha", rule)))
             << "rule " << rule;
     }
-    EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"target", kResign) + L"\\Board"),
-              driver::ReadRegistryTree(RuleKey(L"alpha", kResign) + L"\\Board"));
+    EXPECT_EQ(ReadRegistryTree(RuleKey(L"target", kResign) + L"\\Board"),
+              ReadRegistryTree(RuleKey(L"alpha", kResign) + L"\\Board"));
 }
 
 TEST_F(RulesFile, TextOfTheCodePageGoesOutAndInUnharmed) {
@@ -207,7 +204,7 @@ TEST_F(RulesFile, ImportByTheMenuGivenUpChangesNothing) {
     StartWithSample();
     Rules().Select({kMove});
     Main().PostMenuCommand(IDM_IMPORT_RULES);
-    const driver::FileDialog dialog(Editor().WaitForDialog(Main()));
+    const FileDialog dialog(Editor().WaitForDialog(Main()));
     EXPECT_EQ(dialog.FileTypes(), (Texts{L"Profiles (*.prx)", L"All files (*.*)"}));
     dialog.GiveUp();
     WaitForMain();
@@ -229,22 +226,21 @@ TEST_F(RulesFile, ImportOfAFileThatIsInUseIsReported) {
     SetCursorPos(1, 1);
     StartWithSample();
     WriteFile(L"locked.prx", "locked");
-    const driver::FileDialog dialog = OpenFileDialog(IDC_IMPORT_RULES_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_IMPORT_RULES_BUTTON);
     dialog.SetFileName(Path(L"locked.prx"));
-    const driver::UniqueHandle lock(CreateFileW(Path(L"locked.prx").c_str(), GENERIC_READ | GENERIC_WRITE, 0,
-                                                nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const UniqueHandle lock(CreateFileW(Path(L"locked.prx").c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     dialog.Confirm();
-    driver::Window box = Editor().WaitForWindow(Main());
+    Window box = Editor().WaitForWindow(Main());
     while (box == dialog) {
         dialog.WaitUntilGone();
         box = Editor().WaitForWindow(Main());
     }
-    EXPECT_EQ(driver::PointerOf(box), driver::kHourglass);
-    EXPECT_EQ(
-        driver::MessageBoxWindow(box).View(),
-        driver::MessageBoxOfStyle(ReportText(L"Opening file " + Path(L"locked.prx"), ERROR_SHARING_VIOLATION),
-                                  L"QENT AC Velmaris - configuration", kReport));
-    driver::MessageBoxWindow(box).Answer(IDOK);
+    EXPECT_EQ(PointerOf(box), kHourglass);
+    EXPECT_EQ(MessageBoxWindow(box).View(),
+              MessageBoxOfStyle(ReportText(L"Opening file " + Path(L"locked.prx"), ERROR_SHARING_VIOLATION),
+                                L"QENT AC Velmaris - configuration", kReport));
+    MessageBoxWindow(box).Answer(IDOK);
     WaitForMain();
     ExpectNothingToSave();
 }

@@ -19,7 +19,7 @@ class WindowSize : public EditorTest {
   protected:
     [[nodiscard]] Places ControlPlaces() const {
         Places places;
-        for (const driver::Window& control : Main().Children()) {
+        for (const Window& control : Main().Children()) {
             places[control.Id()] = control.BoundsInParent();
         }
         return places;
@@ -29,7 +29,7 @@ class WindowSize : public EditorTest {
         const SIZE before = Main().ClientSize();
         SetWindowPos(Main().Handle(), nullptr, 0, 0, bounds.right - bounds.left + dx,
                      bounds.bottom - bounds.top + dy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-        ASSERT_TRUE(driver::WaitUntil([&] {
+        ASSERT_TRUE(WaitUntil([&] {
             const SIZE now = Main().ClientSize();
             return now.cx == before.cx + dx && now.cy == before.cy + dy;
         })) << "the client area did not become "
@@ -38,13 +38,13 @@ class WindowSize : public EditorTest {
     }
     void Minimise() const {
         Main().Post(WM_SYSCOMMAND, SC_MINIMIZE);
-        ASSERT_TRUE(driver::WaitUntil([&] { return Main().IsMinimised(); }));
+        ASSERT_TRUE(WaitUntil([&] { return Main().IsMinimised(); }));
     }
     void Restore() const {
         Main().Post(WM_SYSCOMMAND, SC_RESTORE);
         // The window counts as restored a moment before it has left the place off screen where minimised
         // ones wait.
-        ASSERT_TRUE(driver::WaitUntil([&] {
+        ASSERT_TRUE(WaitUntil([&] {
             RECT bounds = {};
             GetWindowRect(Main().Handle(), &bounds);
             return !Main().IsMinimised() && bounds.left > -10000;
@@ -63,7 +63,7 @@ class WindowSize : public EditorTest {
     }
     /// Tells the window that it is on a screen of another scale now, as the system does.
     void MoveToScreenOf(UINT dotsPerInch) const {
-        driver::RemoteBlock block(Main().Handle(), sizeof(RECT));
+        RemoteBlock block(Main().Handle(), sizeof(RECT));
         block.Put(Main().Bounds());
         Main().Send(WM_DPICHANGED, MAKEWPARAM(dotsPerInch, dotsPerInch), block.Parameter());
     }
@@ -76,10 +76,10 @@ class WindowSize : public EditorTest {
     }
     void StoreRectangle(std::uint32_t left, std::uint32_t top, std::uint32_t right,
                         std::uint32_t bottom) const {
-        driver::WriteRegistryValue(kProgramKey, L"Window_left", left);
-        driver::WriteRegistryValue(kProgramKey, L"Window_top", top);
-        driver::WriteRegistryValue(kProgramKey, L"Window_right", right);
-        driver::WriteRegistryValue(kProgramKey, L"Window_bottom", bottom);
+        WriteRegistryValue(kProgramKey, L"Window_left", left);
+        WriteRegistryValue(kProgramKey, L"Window_top", top);
+        WriteRegistryValue(kProgramKey, L"Window_right", right);
+        WriteRegistryValue(kProgramKey, L"Window_bottom", bottom);
     }
 };
 
@@ -212,7 +212,7 @@ TEST_F(WindowSize, DrawsItsIconWhileMinimised) {
     StartWithSample();
     Minimise();
     // What a system sends that lets minimised windows draw themselves.
-    const driver::MessageWatch watch(Main(), {WM_ICONERASEBKGND});
+    const MessageWatch watch(Main(), {WM_ICONERASEBKGND});
     Main().Send(WM_PAINT);
     EXPECT_EQ(watch.Sent().size(), 1U);
     Restore();
@@ -223,7 +223,7 @@ TEST_F(WindowSize, DrawsItsIconWhileMinimised) {
 TEST_F(WindowSize, IsDraggedByItsOwnIconWhileMinimised) {
     StartWithSample();
     Minimise();
-    EXPECT_TRUE(IconOf(Main(), driver::IconPlace::kDragIcon, IDI_MAIN_WINDOW).showsResource);
+    EXPECT_TRUE(IconOf(Main(), IconPlace::kDragIcon, IDI_MAIN_WINDOW).showsResource);
 }
 
 TEST_F(WindowSize, HasASmallestSize) {
@@ -249,7 +249,7 @@ TEST_F(WindowSize, CannotBeMadeSmallerThanItsSmallestSize) {
 TEST_F(WindowSize, ShowsEveryControlWhollyAtItsFirstSize) {
     StartWithSample();
     const SIZE client = Main().ClientSize();
-    for (const driver::Window& control : Main().Children()) {
+    for (const Window& control : Main().Children()) {
         const RECT place = control.BoundsInParent();
         EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.cx &&
                     place.bottom <= client.cy)
@@ -292,14 +292,14 @@ TEST_F(WindowSize, SavingStoresTheRestoredRectangle) {
     Settle();
     Press(IDC_SAVE_BUTTON);
     const RECT bounds = Main().RestoredBounds();
-    EXPECT_EQ(driver::ReadRegistryValue(kProgramKey, L"Window_left"),
-              driver::RegistryData(static_cast<std::uint32_t>(bounds.left)));
-    EXPECT_EQ(driver::ReadRegistryValue(kProgramKey, L"Window_top"),
-              driver::RegistryData(static_cast<std::uint32_t>(bounds.top)));
-    EXPECT_EQ(driver::ReadRegistryValue(kProgramKey, L"Window_right"),
-              driver::RegistryData(static_cast<std::uint32_t>(bounds.right)));
-    EXPECT_EQ(driver::ReadRegistryValue(kProgramKey, L"Window_bottom"),
-              driver::RegistryData(static_cast<std::uint32_t>(bounds.bottom)));
+    EXPECT_EQ(ReadRegistryValue(kProgramKey, L"Window_left"),
+              RegistryData(static_cast<std::uint32_t>(bounds.left)));
+    EXPECT_EQ(ReadRegistryValue(kProgramKey, L"Window_top"),
+              RegistryData(static_cast<std::uint32_t>(bounds.top)));
+    EXPECT_EQ(ReadRegistryValue(kProgramKey, L"Window_right"),
+              RegistryData(static_cast<std::uint32_t>(bounds.right)));
+    EXPECT_EQ(ReadRegistryValue(kProgramKey, L"Window_bottom"),
+              RegistryData(static_cast<std::uint32_t>(bounds.bottom)));
     EXPECT_EQ(bounds.right - bounds.left, 1200);
 }
 
@@ -307,7 +307,7 @@ class About : public EditorTest {};
 
 TEST_F(About, StandsAtTheEndOfTheSystemMenuBelowASeparator) {
     StartWithSample();
-    const std::vector<driver::MenuItem> items = driver::SystemMenuOf(Main());
+    const std::vector<MenuItem> items = SystemMenuOf(Main());
     ASSERT_GE(items.size(), 2U);
     EXPECT_EQ(items.back().id, IDM_ABOUT);
     EXPECT_EQ(items.back().text, L"About programm...");
@@ -317,7 +317,7 @@ TEST_F(About, StandsAtTheEndOfTheSystemMenuBelowASeparator) {
 TEST_F(About, ShowsTheProductAndTheVersion) {
     StartWithSample();
     Main().Post(WM_SYSCOMMAND, IDM_ABOUT);
-    const driver::Window box = Editor().WaitForDialog(Main());
+    const Window box = Editor().WaitForDialog(Main());
     EXPECT_EQ(box.Text(), L"About programm...");
     EXPECT_EQ(box.Control(IDC_ABOUT_PRODUCT_TEXT).Text(), L"Client Velmaris");
     EXPECT_EQ(box.Control(IDC_ABOUT_VERSION_TEXT).Text(),
@@ -333,7 +333,7 @@ TEST_F(About, ShowsTheProductAndTheVersion) {
 TEST_F(About, IgnoresTheLowFourBitsThatTheSystemKeepsForItself) {
     StartWithSample();
     Main().Post(WM_SYSCOMMAND, IDM_ABOUT | 2);
-    const driver::Window box = Editor().WaitForDialog(Main());
+    const Window box = Editor().WaitForDialog(Main());
     EXPECT_EQ(box.Text(), L"About programm...");
     box.FocusOfThread().PostKey(VK_ESCAPE);
     box.WaitUntilGone();

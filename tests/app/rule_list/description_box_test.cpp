@@ -13,17 +13,17 @@ class RightClick : public EditorTest {
         ExpectMessageBox(Main(), text, kInformation, IDOK, title);
         WaitForMain();
     }
-    [[nodiscard]] driver::Window OpenExtra(int row) const {
+    [[nodiscard]] Window OpenExtra(int row) const {
         Rules().PostRightClick(Rules().CellCentre(row, kExtraColumn));
         return Editor().WaitForDialog(Main());
     }
-    void CloseExtra(const driver::Window& box) const {
+    void CloseExtra(const Window& box) const {
         box.Control(IDCANCEL).PostClick();
         box.WaitUntilGone();
         WaitForMain();
     }
     void ExpectExtra(int row, const std::wstring& text) const {
-        const driver::Window box = OpenExtra(row);
+        const Window box = OpenExtra(row);
         EXPECT_EQ(box.Text(), L"Extra");
         EXPECT_EQ(box.Control(IDC_WARNING_BOX_EDIT).Text(), text);
         CloseExtra(box);
@@ -107,19 +107,19 @@ TEST_F(RightClick, BelowTheLastRowDoesNothing) {
 
 TEST_F(RightClick, ChangesNothing) {
     WriteSampleConfiguration();
-    const auto before = driver::ReadRegistryTree(L"");
+    const auto before = ReadRegistryTree(L"");
     Start();
     ExpectCellBox(kMove, kMasksColumn, L"Masks", L"\r\n*.a\r\n*.b");
     CloseExtra(OpenExtra(kMove));
     ExpectNothingToSave();
-    EXPECT_EQ(driver::ReadRegistryTree(L""), before);
+    EXPECT_EQ(ReadRegistryTree(L""), before);
 }
 
 class DescriptionBox : public RightClick {};
 
 TEST_F(DescriptionBox, OffersOkAlone) {
     StartWithSample();
-    const driver::Window box = OpenExtra(kEncrypt);
+    const Window box = OpenExtra(kEncrypt);
     EXPECT_FALSE(box.Control(IDOK).IsVisible());
     EXPECT_FALSE(box.Control(IDOK).IsEnabled());
     EXPECT_EQ(box.Control(IDOK).Text(), L"Continue");
@@ -130,21 +130,21 @@ TEST_F(DescriptionBox, OffersOkAlone) {
 
 TEST_F(DescriptionBox, CarriesTheInformationIcon) {
     StartWithSample();
-    const driver::Window box = OpenExtra(kEncrypt);
-    EXPECT_TRUE(IconOf(box, driver::IconPlace::kLargeWindowIcon, IDI_INFO_MODE).showsResource);
-    EXPECT_TRUE(IconOf(box, driver::IconPlace::kSmallWindowIcon, IDI_INFO_MODE).showsResource);
+    const Window box = OpenExtra(kEncrypt);
+    EXPECT_TRUE(IconOf(box, IconPlace::kLargeWindowIcon, IDI_INFO_MODE).showsResource);
+    EXPECT_TRUE(IconOf(box, IconPlace::kSmallWindowIcon, IDI_INFO_MODE).showsResource);
     CloseExtra(box);
 }
 
 TEST_F(DescriptionBox, IsClosedByEscapeByEnterAndByItsCloseBox) {
     StartWithSample();
     for (const int key : {VK_ESCAPE, VK_RETURN}) {
-        const driver::Window box = OpenExtra(kEncrypt);
+        const Window box = OpenExtra(kEncrypt);
         box.FocusOfThread().PostKey(static_cast<WPARAM>(key));
         box.WaitUntilGone();
         WaitForMain();
     }
-    const driver::Window box = OpenExtra(kEncrypt);
+    const Window box = OpenExtra(kEncrypt);
     box.Post(WM_SYSCOMMAND, SC_CLOSE);
     box.WaitUntilGone();
     WaitForMain();
@@ -153,15 +153,14 @@ TEST_F(DescriptionBox, IsClosedByEscapeByEnterAndByItsCloseBox) {
 
 TEST_F(DescriptionBox, ResizingMovesTheButtonsAndGrowsTheText) {
     StartWithSample();
-    const driver::Window box = OpenExtra(kEncrypt);
+    const Window box = OpenExtra(kEncrypt);
     const RECT window = box.Bounds();
     const RECT button = box.Control(IDCANCEL).BoundsInParent();
     const RECT hidden = box.Control(IDOK).BoundsInParent();
     const RECT edit = box.Control(IDC_WARNING_BOX_EDIT).BoundsInParent();
     SetWindowPos(box.Handle(), nullptr, 0, 0, window.right - window.left + 60,
                  window.bottom - window.top + 40, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    EXPECT_TRUE(
-        driver::WaitUntil([&] { return box.Control(IDCANCEL).BoundsInParent().left == button.left + 60; }));
+    EXPECT_TRUE(WaitUntil([&] { return box.Control(IDCANCEL).BoundsInParent().left == button.left + 60; }));
     const RECT movedButton = box.Control(IDCANCEL).BoundsInParent();
     EXPECT_EQ(movedButton.left, button.left + 60);
     EXPECT_EQ(movedButton.top, button.top + 40);
@@ -178,18 +177,18 @@ TEST_F(DescriptionBox, ResizingMovesTheButtonsAndGrowsTheText) {
 // A minimised box has no client area, which must not be taken for the size that its controls stand in.
 TEST_F(DescriptionBox, AnotherScaleAndBackWhileMinimisedMovesNothing) {
     StartWithSample();
-    const driver::Window box = OpenExtra(kEncrypt);
+    const Window box = OpenExtra(kEncrypt);
     const RECT button = box.Control(IDCANCEL).BoundsInParent();
     const RECT edit = box.Control(IDC_WARNING_BOX_EDIT).BoundsInParent();
     ShowWindow(box.Handle(), SW_SHOWMINNOACTIVE);
-    ASSERT_TRUE(driver::WaitUntil([&] { return box.IsMinimised(); }));
+    ASSERT_TRUE(WaitUntil([&] { return box.IsMinimised(); }));
     for (const UINT dotsPerInch : {144U, 96U}) {
-        driver::RemoteBlock block(box.Handle(), sizeof(RECT));
+        RemoteBlock block(box.Handle(), sizeof(RECT));
         block.Put(box.Bounds());
         box.Send(WM_DPICHANGED, MAKEWPARAM(dotsPerInch, dotsPerInch), block.Parameter());
     }
     ShowWindow(box.Handle(), SW_RESTORE);
-    ASSERT_TRUE(driver::WaitUntil([&] { return !box.IsMinimised() && box.Bounds().left > -10000; }));
+    ASSERT_TRUE(WaitUntil([&] { return !box.IsMinimised() && box.Bounds().left > -10000; }));
     box.Send(WM_NULL);
     const RECT buttonAfter = box.Control(IDCANCEL).BoundsInParent();
     const RECT editAfter = box.Control(IDC_WARNING_BOX_EDIT).BoundsInParent();
@@ -200,7 +199,7 @@ TEST_F(DescriptionBox, AnotherScaleAndBackWhileMinimisedMovesNothing) {
 
 TEST_F(DescriptionBox, KeepsASmallestSize) {
     StartWithSample();
-    const driver::Window box = OpenExtra(kEncrypt);
+    const Window box = OpenExtra(kEncrypt);
     const POINT smallest = box.SmallestTrackingSize();
     const RECT button = box.Control(IDCANCEL).Bounds();
     EXPECT_EQ(smallest.x, 2 * (GetSystemMetrics(SM_CXVSCROLL) + 3 * (button.right - button.left)));

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/kit/fakes/test_system_text.h"
-#include "tests/kit/samples/sample_state.h"
+#include "tests/kit/samples/sample_configuration.h"
 
 namespace corvane::test {
 namespace {

@@ -3,8 +3,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 /// Each command has a button and a menu item; both must do the same.
 enum class Route { kButton, kMenu };
 
@@ -159,8 +157,7 @@ TEST_P(RuleCommands, ACopiedRuleIsSavedWithEverythingItCarries) {
     Rules().Select({kResign});
     Run(IDC_COPY_RULE_BUTTON, IDM_COPY_RULE);
     SaveAndLeave();
-    EXPECT_EQ(driver::ReadRegistryTree(RuleKey(L"alpha", kResign)),
-              driver::ReadRegistryTree(RuleKey(L"alpha", kResign + 1)));
+    EXPECT_EQ(ReadRegistryTree(RuleKey(L"alpha", kResign)), ReadRegistryTree(RuleKey(L"alpha", kResign + 1)));
 }
 
 TEST_P(RuleCommands, DeleteRemovesExactlyTheSelectedRules) {

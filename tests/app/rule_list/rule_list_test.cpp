@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 class RuleList : public EditorTest {};
 class Search : public EditorTest {};
 class CheckBoxes : public EditorTest {

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/kit/samples/sample_state.h"
+#include "tests/kit/samples/sample_configuration.h"
 
 namespace corvane::test {
 namespace {

@@ -10,8 +10,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 constexpr wchar_t kAnn[] = L"CN=Ann,C=GB";
 constexpr wchar_t kBob[] = L"CN=Bob,C=GB";
 
@@ -37,12 +35,12 @@ class SelectionGroupFile : public SelectionTest {
         std::ifstream file(std::filesystem::path(Folder() + name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    [[nodiscard]] driver::FileDialog OpenFileDialog(int buttonId) const {
+    [[nodiscard]] FileDialog OpenFileDialog(int buttonId) const {
         Control(buttonId).PostClick();
-        return driver::FileDialog(Program().WaitForDialog(Dialog()));
+        return FileDialog(Program().WaitForDialog(Dialog()));
     }
     /// Answers a file dialog with a file of the test's folder. What the command says follows.
-    void Choose(const driver::FileDialog& dialog, const std::wstring& name) const {
+    void Choose(const FileDialog& dialog, const std::wstring& name) const {
         dialog.SetFileName(Folder() + name);
         dialog.Confirm();
         dialog.WaitUntilGone();
@@ -72,7 +70,7 @@ class SelectionGroupFile : public SelectionTest {
 
 TEST_F(SelectionGroupFile, OpeningOffersTheFileTypes) {
     OpenRecipients();
-    const driver::FileDialog dialog = OpenFileDialog(IDC_SELECTION_FROM_GROUP_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_SELECTION_FROM_GROUP_BUTTON);
     EXPECT_EQ(dialog.FileTypes(), (Texts{L"User groups files (*.grx)", L"All files (*.*)"}));
     EXPECT_EQ(dialog.FileName(), L"");
     dialog.GiveUp();
@@ -103,18 +101,18 @@ TEST_F(SelectionGroupFile, TheFileLastUsedIsProposedUntilTheListIsDeleted) {
     OpenWithTwoFound();
     WriteFile(L"team.grx", "CN=Zoe,C=GB\r\n");
     Load(L"team.grx");
-    const driver::FileDialog again = OpenFileDialog(IDC_SELECTION_FROM_GROUP_BUTTON);
+    const FileDialog again = OpenFileDialog(IDC_SELECTION_FROM_GROUP_BUTTON);
     EXPECT_EQ(again.FileName(), L"team.grx");
     again.GiveUp();
     WaitForDialog();
     Press(IDC_SELECTION_SELECT_ALL_BUTTON);
-    const driver::FileDialog save = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
+    const FileDialog save = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
     EXPECT_EQ(save.FileName(), L"team.grx");
     save.GiveUp();
     WaitForDialog();
     Control(IDC_SELECTION_DELETE_ALL_BUTTON).PostClick();
     ExpectBox(L"Delete all list items?", kBoxQuestion, IDYES);
-    const driver::FileDialog last = OpenFileDialog(IDC_SELECTION_FROM_GROUP_BUTTON);
+    const FileDialog last = OpenFileDialog(IDC_SELECTION_FROM_GROUP_BUTTON);
     EXPECT_EQ(last.FileName(), L"");
     last.GiveUp();
     WaitForDialog();
@@ -152,7 +150,7 @@ TEST_F(SelectionGroupFile, SavingWritesTheCheckedOwnersInTheOrderShown) {
     Press(IDC_SELECTION_SELECT_ALL_BUTTON);
     ClickHeader(Found());
     ClickHeader(Found());
-    const driver::FileDialog dialog = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
     EXPECT_EQ(dialog.FileTypes(), (Texts{L"User groups files (*.grx)", L"All files (*.*)"}));
     EXPECT_EQ(dialog.FileName(), L"New group.grx");
     Choose(dialog, L"saved");
@@ -167,7 +165,7 @@ TEST_F(SelectionGroupFile, SavingOverAFileAsksFirst) {
     OpenWithTwoFound();
     Press(IDC_SELECTION_SELECT_ALL_BUTTON);
     WriteFile(L"old.grx", "old");
-    const driver::FileDialog dialog = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
     dialog.SetFileName(Folder() + L"old.grx");
     dialog.Confirm();
     Program().WaitForMessageBox(dialog).Answer(IDNO);
@@ -187,7 +185,7 @@ TEST_F(SelectionGroupFile, AFileThatCannotBeCreatedIsReported) {
     const HANDLE held = CreateFileW((Folder() + L"held.grx").c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                     OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
-    const driver::FileDialog dialog = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
+    const FileDialog dialog = OpenFileDialog(IDC_SELECTION_SAVE_BUTTON);
     dialog.SetFileName(Folder() + L"held.grx");
     dialog.Confirm();
     Program().WaitForMessageBox(dialog).Answer(IDYES);

@@ -6,9 +6,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::ListView;
-using driver::WinEvents;
-
 /// Ticks of the owner lists, which the control does not keep by itself, as a screen reader hears of them.
 class SelectionAnnouncements : public SelectionTest {
   protected:

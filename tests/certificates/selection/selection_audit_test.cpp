@@ -7,15 +7,15 @@ namespace {
 
 class SelectionAudit : public SelectionTest {
   protected:
-    static void ExpectSound(const driver::Window& dialog, const std::string& name) {
+    static void ExpectSound(const Window& dialog, const std::string& name) {
         dialog.Send(WM_NULL);
-        audit::KeepPicture(dialog, name);
-        for (const std::wstring& fault : audit::AllFaults(dialog)) {
-            ADD_FAILURE() << driver::Utf8(fault);
+        KeepPicture(dialog, name);
+        for (const std::wstring& fault : AllFaults(dialog)) {
+            ADD_FAILURE() << Utf8(fault);
         }
     }
     /// Escape must do what the button that leaves does.
-    static void LeaveByEscape(const driver::Window& dialog) {
+    static void LeaveByEscape(const Window& dialog) {
         dialog.FocusOfThread().PostKey(VK_ESCAPE);
         dialog.WaitUntilGone();
     }
@@ -74,7 +74,7 @@ TEST_F(SelectionAudit, ExclusionReport) {
     Press(IDC_SELECTION_FROM_STORE_BUTTON);
     Press(IDC_SELECTION_SELECT_ALL_BUTTON);
     Control(IDC_SELECTION_ADD_BUTTON).PostClick();
-    const driver::Window box = WaitForWarningBox(Dialog());
+    const Window box = WaitForWarningBox(Dialog());
     ExpectSound(box, "excluded_signers");
     LeaveByEscape(box);
 }
@@ -82,7 +82,7 @@ TEST_F(SelectionAudit, ExclusionReport) {
 TEST_F(SelectionAudit, Filter) {
     OpenRecipients();
     Control(IDC_SELECTION_FROM_NCS_BUTTON).PostClick();
-    const driver::Window filter = Program().WaitForDialog(Dialog());
+    const Window filter = Program().WaitForDialog(Dialog());
     ExpectSound(filter, "filter_empty");
     filter.Control(IDC_FILTER_FIELD_COMBO).Send(CB_SETCURSEL, 9);
     filter.Control(IDC_FILTER_SAMPLE_EDIT).SetText(L"*O=Northgate*");

@@ -5,8 +5,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 constexpr wchar_t kAnn[] = L"CN=Ann,C=GB";
 constexpr wchar_t kBob[] = L"CN=Bob,C=GB";
 constexpr wchar_t kCyd[] = L"CN=Cyd,C=GB";

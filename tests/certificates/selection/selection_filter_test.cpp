@@ -5,8 +5,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 constexpr int kCommonName = 0;
 constexpr int kOrganization = 5;
 constexpr int kEntireName = 9;
@@ -17,8 +15,8 @@ class SelectionFilter : public SelectionTest {
         Control(IDC_SELECTION_FROM_NCS_BUTTON).PostClick();
         filter_ = Program().WaitForDialog(Dialog());
     }
-    [[nodiscard]] const driver::Window& FilterDialog() const { return filter_; }
-    [[nodiscard]] driver::Window Fields() const { return filter_.Control(IDC_FILTER_FIELD_COMBO); }
+    [[nodiscard]] const Window& FilterDialog() const { return filter_; }
+    [[nodiscard]] Window Fields() const { return filter_.Control(IDC_FILTER_FIELD_COMBO); }
     void ChooseField(int field) const { Fields().Send(CB_SETCURSEL, static_cast<WPARAM>(field)); }
     void WriteSample(const std::wstring& text) const {
         filter_.Control(IDC_FILTER_SAMPLE_EDIT).SetText(text);
@@ -36,7 +34,7 @@ class SelectionFilter : public SelectionTest {
     }
 
   private:
-    driver::Window filter_;
+    Window filter_;
 };
 
 std::string SearchByPattern(const std::string& flags, const std::string& pattern) {
@@ -74,11 +72,11 @@ TEST_F(SelectionFilter, OkIsEnabledByASampleThatSaysSomething) {
     OpenFilter();
     for (const wchar_t* const sample : {L"a", L"*", L" x ", L"**b"}) {
         WriteSample(sample);
-        EXPECT_TRUE(IsOkEnabled()) << driver::Utf8(sample);
+        EXPECT_TRUE(IsOkEnabled()) << Utf8(sample);
     }
     for (const wchar_t* const sample : {L"", L"  **  ", L"**", L" ", L"* ", L"\t*"}) {
         WriteSample(sample);
-        EXPECT_FALSE(IsOkEnabled()) << driver::Utf8(sample);
+        EXPECT_FALSE(IsOkEnabled()) << Utf8(sample);
     }
 }
 
@@ -97,7 +95,7 @@ TEST_F(SelectionFilter, OkWithoutAFieldAsksForOneAndDropsTheListDown) {
     WriteSample(L"Iva*");
     FilterDialog().Control(IDOK).PostClick();
     ExpectMessageBox(FilterDialog(), L"Select field for filter", kBoxRefusal, IDOK);
-    EXPECT_TRUE(driver::WaitUntil([&] { return Fields().Send(CB_GETDROPPEDSTATE) != 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return Fields().Send(CB_GETDROPPEDSTATE) != 0; }));
     EXPECT_TRUE(FilterDialog().IsLive());
     Fields().Send(CB_SHOWDROPDOWN, FALSE);
     ChooseField(kCommonName);

@@ -5,8 +5,6 @@
 
 namespace corvane::test {
 namespace {
-
-using driver::Texts;
 using Checks = std::vector<bool>;
 
 constexpr wchar_t kIvanov[] = L"CN=IVANOV,O=Bravo,C=RU";
@@ -26,9 +24,9 @@ class SelectionLists : public SelectionTest {
         ASSERT_EQ(Found().Column(0), (Texts{kIvanov, kAdams, kBell, kNovak}));
     }
     /// HDF_SORTUP, HDF_SORTDOWN or 0.
-    [[nodiscard]] static int MarkOf(const driver::ListView& list) {
-        const driver::Window header = HeaderOf(list);
-        driver::RemoteBlock block(header.Handle(), sizeof(HDITEMW));
+    [[nodiscard]] static int MarkOf(const ListView& list) {
+        const Window header = HeaderOf(list);
+        RemoteBlock block(header.Handle(), sizeof(HDITEMW));
         HDITEMW item{};
         item.mask = HDI_FORMAT;
         block.Put(item);
@@ -37,8 +35,7 @@ class SelectionLists : public SelectionTest {
     }
     /// The first row behind another that the upper list's own search finds (LVM_FINDITEM).
     [[nodiscard]] int FindOwner(UINT flags, const std::wstring& text, int after = -1) const {
-        driver::RemoteBlock block(Found().Handle(),
-                                  sizeof(LVFINDINFOW) + (text.size() + 1) * sizeof(wchar_t));
+        RemoteBlock block(Found().Handle(), sizeof(LVFINDINFOW) + (text.size() + 1) * sizeof(wchar_t));
         LVFINDINFOW search{};
         search.flags = flags;
         search.psz = static_cast<const wchar_t*>(block.Address(sizeof search));
@@ -128,7 +125,7 @@ TEST_F(SelectionLists, APressOnACheckBoxConcernsNoRowButItsOwn) {
 
 TEST_F(SelectionLists, ADoubleClickOnACheckBoxChecksTwiceAndShowsNothing) {
     OpenWithFourFound({kNovak});
-    for (const driver::ListView& list : {Found(), Chosen()}) {
+    for (const ListView& list : {Found(), Chosen()}) {
         list.SetChecked(0, true);
         list.PostLeftDoubleClick(list.CheckBoxCentre(0));
         ExpectStaysOpen();
@@ -145,14 +142,14 @@ TEST_F(SelectionLists, ChecksOutlastAChangeOfTheScale) {
     Check(Chosen(), {1});
     RECT bounds{};
     GetWindowRect(Dialog().Handle(), &bounds);
-    driver::RemoteBlock suggested(Dialog().Handle(), sizeof bounds);
+    RemoteBlock suggested(Dialog().Handle(), sizeof bounds);
     suggested.Put(bounds);
     const UINT newScale = GetDpiForWindow(Dialog().Handle()) * 2;
     Dialog().Send(WM_DPICHANGED, MAKEWPARAM(newScale, newScale), suggested.Parameter());
     SettleDialog();
     EXPECT_EQ(Found().Checks(), (Checks{false, true, true, false}));
     EXPECT_EQ(Chosen().Checks(), (Checks{false, true}));
-    for (const driver::ListView& list : {Found(), Chosen()}) {
+    for (const ListView& list : {Found(), Chosen()}) {
         EXPECT_NE(list.ExtendedListStyle() & LVS_EX_CHECKBOXES, 0U);
         EXPECT_EQ(list.ColumnWidth(0), list.ClientSize().cx);
     }

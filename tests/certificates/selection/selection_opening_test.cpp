@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 class SelectionOpening : public SelectionTest {};
 
 TEST_F(SelectionOpening, RecipientsHaveTheirTitleAndTheButtonsTheirTexts) {
@@ -27,15 +25,14 @@ TEST_F(SelectionOpening, RecipientsHaveTheirTitleAndTheButtonsTheirTexts) {
 
 TEST_F(SelectionOpening, TheArrowButtonsHaveIconsNamesAndTips) {
     OpenRecipients();
-    const driver::IconView add =
-        driver::IconOf(Control(IDC_SELECTION_ADD_BUTTON), driver::IconPlace::kButton, IDI_ADD_TO_CHOSEN);
+    const IconView add = IconOf(Control(IDC_SELECTION_ADD_BUTTON), IconPlace::kButton, IDI_ADD_TO_CHOSEN);
     EXPECT_TRUE(add.isThere && add.showsResource);
-    const driver::IconView remove = driver::IconOf(Control(IDC_SELECTION_REMOVE_BUTTON),
-                                                   driver::IconPlace::kButton, IDI_REMOVE_FROM_CHOSEN);
+    const IconView remove =
+        IconOf(Control(IDC_SELECTION_REMOVE_BUTTON), IconPlace::kButton, IDI_REMOVE_FROM_CHOSEN);
     EXPECT_TRUE(remove.isThere && remove.showsResource);
     EXPECT_EQ(Control(IDC_SELECTION_ADD_BUTTON).Text(), L"Add");
     EXPECT_EQ(Control(IDC_SELECTION_REMOVE_BUTTON).Text(), L"Remove");
-    const std::map<int, std::wstring> tips = driver::ToolTipTexts(Dialog());
+    const std::map<int, std::wstring> tips = ToolTipTexts(Dialog());
     EXPECT_EQ(tips.at(IDC_SELECTION_ADD_BUTTON), L"Add");
     EXPECT_EQ(tips.at(IDC_SELECTION_REMOVE_BUTTON), L"Remove");
 }
@@ -53,7 +50,7 @@ TEST_F(SelectionOpening, BothListsHaveOneColumnOfTheWidthOfTheClientArea) {
     OpenRecipients({L"CN=Zoe,C=GB"});
     EXPECT_EQ(Found().Headings(), Texts{L"Subjects"});
     EXPECT_EQ(Chosen().Headings(), Texts{L"Recipients"});
-    for (const driver::ListView& list : {Found(), Chosen()}) {
+    for (const ListView& list : {Found(), Chosen()}) {
         EXPECT_EQ(list.ColumnWidth(0), list.ClientSize().cx);
         const DWORD wanted = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP;
         EXPECT_EQ(list.ExtendedListStyle() & wanted, wanted);
@@ -63,7 +60,7 @@ TEST_F(SelectionOpening, BothListsHaveOneColumnOfTheWidthOfTheClientArea) {
 
 TEST_F(SelectionOpening, TheOfferedFieldsAreThereToSortByAndTheFirstIsChosen) {
     OpenRecipients();
-    const driver::Window combo = Control(IDC_SELECTION_SORT_COMBO);
+    const Window combo = Control(IDC_SELECTION_SORT_COMBO);
     Texts entries;
     const LRESULT count = combo.Send(CB_GETCOUNT);
     for (LRESULT i = 0; i < count; ++i) {
@@ -108,7 +105,7 @@ TEST_F(SelectionOpening, ANewSignerListHasAnEmptyName) {
     OpenNewList({{L"Board", {L"CN=Ann,C=GB"}}});
     EXPECT_EQ(Dialog().Text(), L"Add list");
     EXPECT_EQ(Chosen().RowCount(), 0);
-    const driver::Window name = Control(IDC_SELECTION_LIST_NAME_EDIT);
+    const Window name = Control(IDC_SELECTION_LIST_NAME_EDIT);
     EXPECT_TRUE(name.IsVisible() && name.IsEnabled());
     EXPECT_EQ(name.Text(), L"");
     EXPECT_TRUE(Control(IDC_SELECTION_LIST_NAME_LABEL).IsVisible());

@@ -23,7 +23,7 @@ class SelectionSize : public SelectionTest {
     }
     [[nodiscard]] std::vector<RECT> Places() const {
         std::vector<RECT> places;
-        for (const driver::Window& child : Dialog().Children()) {
+        for (const Window& child : Dialog().Children()) {
             places.push_back(child.BoundsInParent());
         }
         return places;
@@ -50,7 +50,7 @@ TEST_F(SelectionSize, BothListsShareTheNewHeightAndTakeTheNewWidth) {
     EXPECT_EQ(Control(IDC_SELECTION_FROM_STORE_BUTTON).BoundsInParent().top, search.top);
     EXPECT_EQ(Control(IDCANCEL).BoundsInParent().left, exit.left + 120);
     EXPECT_EQ(Control(IDCANCEL).BoundsInParent().top, exit.top + 81);
-    for (const driver::ListView& list : {Found(), Chosen()}) {
+    for (const ListView& list : {Found(), Chosen()}) {
         EXPECT_EQ(list.ColumnWidth(0), list.ClientSize().cx);
     }
 }
@@ -65,7 +65,7 @@ TEST_F(SelectionSize, NothingDriftsOnTheWayBack) {
     const std::vector<RECT> after = Places();
     ASSERT_EQ(after.size(), before.size());
     for (std::size_t i = 0; i < before.size(); ++i) {
-        EXPECT_TRUE(EqualRect(&before[i], &after[i])) << driver::Utf8(Dialog().Children()[i].Name());
+        EXPECT_TRUE(EqualRect(&before[i], &after[i])) << Utf8(Dialog().Children()[i].Name());
     }
 }
 
@@ -85,7 +85,7 @@ TEST_F(SelectionSize, AMaximisedWindowIsFilledToo) {
     const RECT found = Found().BoundsInParent();
     const LONG clientWidth = Dialog().ClientSize().cx;
     Dialog().Post(WM_SYSCOMMAND, SC_MAXIMIZE);
-    ASSERT_TRUE(driver::WaitUntil([&] { return Dialog().ClientSize().cx > clientWidth; }));
+    ASSERT_TRUE(WaitUntil([&] { return Dialog().ClientSize().cx > clientWidth; }));
     SettleDialog();
     EXPECT_EQ(Width(Found().BoundsInParent()) - Width(found), Dialog().ClientSize().cx - clientWidth);
 }

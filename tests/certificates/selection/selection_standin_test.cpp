@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-
 constexpr wchar_t kHelen[] = L"CN=Helen Marsh,OU=Settlement,O=Northgate Clearing,C=GB";
 constexpr wchar_t kErik[] = L"CN=Erik Sandberg,O=Lindholm Freight,C=SE";
 constexpr wchar_t kGrace[] = L"CN=Grace Whitfield,O=Ferrow Insurance,C=US";
@@ -29,7 +27,7 @@ class SelectionAmongCertificates : public SelectionTest {
     }
     void SearchNetworkStore(int field, const std::wstring& sample) const {
         Control(IDC_SELECTION_FROM_NCS_BUTTON).PostClick();
-        const driver::Window filter = Program().WaitForDialog(Dialog());
+        const Window filter = Program().WaitForDialog(Dialog());
         filter.Control(IDC_FILTER_FIELD_COMBO).Send(CB_SETCURSEL, static_cast<WPARAM>(field));
         filter.Control(IDC_FILTER_SAMPLE_EDIT).SetText(sample);
         filter.Control(IDOK).PostClick();

@@ -8,8 +8,8 @@ class SelectionToolTips : public SelectionTest {};
 
 TEST_F(SelectionToolTips, AppearWhereTheMouseRests) {
     OpenRecipients();
-    EXPECT_EQ(driver::ToolTipUnderTheMouse(Dialog(), Control(IDC_SELECTION_ADD_BUTTON)), L"Add");
-    EXPECT_EQ(driver::ToolTipUnderTheMouse(Dialog(), Control(IDC_SELECTION_REMOVE_BUTTON)), L"Remove");
+    EXPECT_EQ(ToolTipUnderTheMouse(Dialog(), Control(IDC_SELECTION_ADD_BUTTON)), L"Add");
+    EXPECT_EQ(ToolTipUnderTheMouse(Dialog(), Control(IDC_SELECTION_REMOVE_BUTTON)), L"Remove");
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ TEST_F(SelectionTyping, SurvivesTheSearches) {
     Press(IDC_SELECTION_FROM_STORE_BUTTON);
     ExpectTyped("a search of the local store");
     Control(IDC_SELECTION_FROM_NCS_BUTTON).PostClick();
-    const driver::Window filter = Program().WaitForDialog(Dialog());
+    const Window filter = Program().WaitForDialog(Dialog());
     filter.Control(IDCANCEL).PostClick();
     filter.WaitUntilGone();
     Dialog().WaitUntilEnabled();
@@ -42,7 +42,7 @@ TEST_F(SelectionTyping, SurvivesTheFileDialogsThatAreGivenUp) {
     Press(IDC_SELECTION_SELECT_ALL_BUTTON);
     for (const int button : {IDC_SELECTION_FROM_GROUP_BUTTON, IDC_SELECTION_SAVE_BUTTON}) {
         Control(button).PostClick();
-        driver::FileDialog(Program().WaitForDialog(Dialog())).GiveUp();
+        FileDialog(Program().WaitForDialog(Dialog())).GiveUp();
         Dialog().WaitUntilEnabled();
         ExpectTyped("button " + std::to_string(button));
     }
@@ -64,7 +64,7 @@ TEST_F(SelectionTyping, SurvivesTheButtonsOfTheLists) {
 TEST_F(SelectionTyping, TheDeleteKeyDeletesACharacterInBothFields) {
     OpenAndType();
     for (const int id : {IDC_SELECTION_LIST_NAME_EDIT, IDC_SELECTION_FILTER_EDIT}) {
-        const driver::Window edit = Control(id);
+        const Window edit = Control(id);
         const std::wstring text = edit.Text();
         Dialog().Send(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(edit.Handle()), TRUE);
         edit.WaitForFocus();

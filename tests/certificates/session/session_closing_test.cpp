@@ -3,8 +3,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 constexpr char kAnna[] = "CN=Anna,C=GB";
 
 class ClosingTest : public SessionTest {
@@ -21,7 +19,7 @@ class ClosingTest : public SessionTest {
         setup.lists = {{L"first", {L"CN=Anna,C=GB"}}};
         StartHost();
         lists = OpenDialog();
-        driver::ListView(lists.Control(IDC_SIGNER_LISTS_LIST)).Select({0});
+        ListView(lists.Control(IDC_SIGNER_LISTS_LIST)).Select({0});
         Settle(lists);
         lists.Control(IDC_SIGNER_LISTS_EDIT_BUTTON).PostClick();
         selection = WaitForDialogOf(lists);

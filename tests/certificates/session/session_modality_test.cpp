@@ -10,8 +10,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 /// The real rule editor, on a rule of a profile whose CS profile asks the network store.
 class ModalityTest : public SessionTest {
   protected:
@@ -24,16 +22,14 @@ class ModalityTest : public SessionTest {
     Window OpenRuleEditor() {
         WriteProfile(L"alpha", {L"Clearing"});
         const std::wstring profile = std::wstring(kProgramKey) + L"\\alpha";
-        driver::WriteRegistryValue(profile, L"NotUseLDAP",
-                                   driver::Texts{std::to_wstring(setup.csProfile.notUseDirectory)});
-        driver::WriteRegistryValue(profile, L"NotLoadCrl",
-                                   driver::Texts{std::to_wstring(setup.csProfile.notLoadCrl)});
+        WriteRegistryValue(profile, L"NotUseLDAP", Texts{std::to_wstring(setup.csProfile.notUseDirectory)});
+        WriteRegistryValue(profile, L"NotLoadCrl", Texts{std::to_wstring(setup.csProfile.notLoadCrl)});
         StoredRule rule = PlainRule(L"ENCR", L"only");
         rule.values[L"ZCSProfile"] = L"Clearing";
         rule.recipients = {L"CN=Anna,C=GB"};
         WriteRule(L"alpha", 0, rule);
         StartEditor();
-        driver::ListView(Main().Control(IDC_RULE_LIST)).Select({0});
+        ListView(Main().Control(IDC_RULE_LIST)).Select({0});
         Main().Control(IDC_EDIT_RULE_BUTTON).PostClick();
         return WaitForDialogOf(Main());
     }
@@ -104,7 +100,7 @@ TEST_F(ModalityTest, BehindTheWarningNothingCanBeDone) {
     selection.WaitUntilGone();
     editor.WaitUntilEnabled();
     SettleBehind(editor);
-    EXPECT_EQ(driver::Utf8(editor.Control(IDC_RULE_DESCRIPTION_EDIT).Text()), "typed meanwhile");
+    EXPECT_EQ(Utf8(editor.Control(IDC_RULE_DESCRIPTION_EDIT).Text()), "typed meanwhile");
     EXPECT_EQ(Calls("Initialize").size(), 1U);
 }
 
@@ -149,10 +145,10 @@ TEST_F(ModalityTest, EveryCallThatMayTakeLongFindsTheWindowsDisabled) {
     HeldCall closing(script, "Uninitialize", 1, HeldCall::Meanwhile::kHandlesMessages);
     const Window editor = OpenRuleEditor();
     const auto waitUntilDisabled = [](const Window& window, const char* call) {
-        EXPECT_TRUE(driver::WaitUntil([&] { return !window.IsEnabled(); })) << call;
+        EXPECT_TRUE(WaitUntil([&] { return !window.IsEnabled(); })) << call;
     };
     PressCertificates(editor);
-    ASSERT_TRUE(driver::WaitUntil([&] { return Calls("Initialize").size() == 1; }));
+    ASSERT_TRUE(WaitUntil([&] { return Calls("Initialize").size() == 1; }));
     waitUntilDisabled(editor, "the check of the network store");
     probe.Release();
     const Window selection = WaitForDialogOf(editor);
@@ -178,8 +174,8 @@ TEST_F(ModalityTest, LoadingRevocationListsFindsTheWindowsDisabled) {
     HeldCall loading(script, "Ctrl", 1, HeldCall::Meanwhile::kHandlesMessages);
     const Window editor = OpenRuleEditor();
     PressCertificates(editor);
-    ASSERT_TRUE(driver::WaitUntil([&] { return Calls("Initialize").size() == 1; }));
-    EXPECT_TRUE(driver::WaitUntil([&] { return !editor.IsEnabled(); }));
+    ASSERT_TRUE(WaitUntil([&] { return Calls("Initialize").size() == 1; }));
+    EXPECT_TRUE(WaitUntil([&] { return !editor.IsEnabled(); }));
     const std::size_t windows = WindowCount();
     CommandEverythingBehind(editor);
     SettleBehind(editor);
@@ -205,7 +201,7 @@ TEST_F(ModalityTest, InputThatCameWhileTheLibraryBlockedIsLost) {
     WaitForWarningBox(editor).Control(IDCANCEL).PostClick();
     editor.WaitUntilEnabled();
     SettleBehind(editor);
-    EXPECT_EQ(driver::Utf8(description.Text()), "only");
+    EXPECT_EQ(Utf8(description.Text()), "only");
     EXPECT_TRUE(editor.IsVisible());
 }
 

@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class OpeningTest : public SessionTest {
   protected:
     OpeningTest() { CheckNothing(); }
@@ -67,7 +65,7 @@ TEST_F(OpeningTest, PassesTheNameInTheCodePage) {
     setup.csProfile.name = L"caf\u00E9 \u0416";
     StartHost();
     OpenAndCancel();
-    const std::string name = scriptable::Escaped(ToCodePage(setup.csProfile.name));
+    const std::string name = Escaped(ToCodePage(setup.csProfile.name));
     EXPECT_EQ(Calls("Initialize"),
               std::vector<std::string>{"Initialize name=\"" + name + "\" flags=80000045 -> 0"});
 }
@@ -183,7 +181,7 @@ class ElsewhereTest : public OpeningTest {
     ElsewhereTest() : folder_(std::filesystem::path(Folder()) / L"elsewhere") {
         std::filesystem::create_directory(folder_);
         InstallLibrary(Library::kScriptable);
-        for (const wchar_t* const file : {L"tarn1.dll", L"tarn1_script.txt"}) {
+        for (const std::filesystem::path file : {L"tarn1.dll", kLibraryScriptFile}) {
             std::filesystem::rename(std::filesystem::path(Folder()) / file, folder_ / file);
         }
     }

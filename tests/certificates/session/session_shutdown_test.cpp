@@ -7,9 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::ListView;
-using driver::Window;
-
 class ShutdownTest : public SessionTest {
   protected:
     ShutdownTest() {

@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class WaitWindowTest : public SessionTest {
   protected:
     WaitWindowTest() { CheckNothing(); }
@@ -31,8 +29,8 @@ TEST_F(WaitWindowTest, StandsWithItsTextWhileTheLibraryIsAtWork) {
     HeldCall held(script, "Initialize", 1);
     StartHost();
     const Window window = PressAndWait();
-    EXPECT_EQ(driver::Utf8(StoredText(window.Control(IDC_WAIT_TEXT))), driver::Utf8(certificates::kWaitText));
-    EXPECT_EQ(driver::Utf8(StoredText(window)), driver::Utf8(kProgramTitle));
+    EXPECT_EQ(Utf8(StoredText(window.Control(IDC_WAIT_TEXT))), Utf8(certificates::kWaitText));
+    EXPECT_EQ(Utf8(StoredText(window)), Utf8(kProgramTitle));
     EXPECT_EQ(window.Owner(), Main());
     EXPECT_FALSE(Main().IsEnabled()) << "the owner collects clicks that nobody sees";
     EXPECT_EQ(window.Style() & (WS_SYSMENU | WS_THICKFRAME), 0U) << "it offers to be closed or resized";
@@ -59,7 +57,7 @@ TEST_F(WaitWindowTest, IsPaintedBeforeTheLibraryIsCalled) {
         return count;
     };
     // The program does not paint any more while it is held, so this comes from before the call or never.
-    EXPECT_TRUE(driver::WaitUntil([&] { return countPixels(GetSysColor(COLOR_WINDOWTEXT)) > 100; }))
+    EXPECT_TRUE(WaitUntil([&] { return countPixels(GetSysColor(COLOR_WINDOWTEXT)) > 100; }))
         << "the text is not on the screen";
     EXPECT_GT(countPixels(GetSysColor(COLOR_BTNFACE)), 1000) << "the background is not on the screen";
     held.Release();
@@ -120,7 +118,7 @@ TEST_F(WaitWindowTest, IsGoneBeforeTheChecks) {
     StartHost();
     const Window window = PressAndWait();
     held.Release();
-    ASSERT_TRUE(driver::WaitUntil([&] { return Calls("Initialize").size() == 1; }));
+    ASSERT_TRUE(WaitUntil([&] { return Calls("Initialize").size() == 1; }));
     window.WaitUntilGone();
     EXPECT_TRUE(Calls("FindCert").empty());
     heldSearch.Release();
@@ -129,7 +127,7 @@ TEST_F(WaitWindowTest, IsGoneBeforeTheChecks) {
 TEST_F(WaitWindowTest, DoesNotComeWithoutALibrary) {
     StartHost(Library::kNone);
     PressOpen();
-    const driver::MessageBoxWindow box = WaitForMessageBox(Main());
+    const MessageBoxWindow box = WaitForMessageBox(Main());
     for (const Window& window : Program().TopLevelWindows()) {
         EXPECT_FALSE(window.HasControl(IDC_WAIT_TEXT));
     }

@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 /// Far fewer than those of a short text in the smallest letters, and more than a frame could lend.
 constexpr std::ptrdiff_t kPointsOfAText = 100;
 
@@ -18,9 +16,9 @@ class SignerListsAudit : public SessionTest {
 
     static void ExpectSound(const Window& dialog, const std::string& name) {
         dialog.Send(WM_NULL);
-        audit::KeepPicture(dialog, name);
-        for (const std::wstring& fault : audit::AllFaults(dialog)) {
-            ADD_FAILURE() << driver::Utf8(fault);
+        KeepPicture(dialog, name);
+        for (const std::wstring& fault : AllFaults(dialog)) {
+            ADD_FAILURE() << Utf8(fault);
         }
     }
     static void LeaveByEscape(const Window& dialog) {
@@ -45,7 +43,7 @@ class SignerListsAudit : public SessionTest {
 
 TEST_F(SignerListsAudit, SignerLists) {
     OpenLists();
-    driver::ListView(Dialog().Control(IDC_SIGNER_LISTS_LIST)).Select({1});
+    ListView(Dialog().Control(IDC_SIGNER_LISTS_LIST)).Select({1});
     Settle(Dialog());
     ExpectSound(Dialog(), "signer_lists");
     LeaveByEscape(Dialog());
@@ -63,7 +61,7 @@ TEST_F(SignerListsAudit, SignerListsMadeLarger) {
 
 TEST_F(SignerListsAudit, OneListInFull) {
     OpenLists();
-    const driver::ListView list(Dialog().Control(IDC_SIGNER_LISTS_LIST));
+    const ListView list(Dialog().Control(IDC_SIGNER_LISTS_LIST));
     list.PostRightClick(list.CellCentre(0, 0));
     const Window box = WaitForWarningBox(Dialog());
     ExpectSound(box, "signer_list_box");
@@ -72,10 +70,10 @@ TEST_F(SignerListsAudit, OneListInFull) {
 
 TEST_F(SignerListsAudit, QuestionBeforeDeleting) {
     OpenLists();
-    driver::ListView(Dialog().Control(IDC_SIGNER_LISTS_LIST)).Select({0, 1});
+    ListView(Dialog().Control(IDC_SIGNER_LISTS_LIST)).Select({0, 1});
     Settle(Dialog());
     Dialog().Control(IDC_SIGNER_LISTS_DELETE_BUTTON).PostClick();
-    const driver::MessageBoxWindow box = WaitForMessageBox(Dialog());
+    const MessageBoxWindow box = WaitForMessageBox(Dialog());
     ExpectSound(box, "signer_lists_question");
     box.Answer(IDNO);
 }
@@ -86,12 +84,12 @@ TEST_F(SignerListsAudit, WaitWindow) {
     PressOpen();
     EXPECT_EQ(Result(), HostCancelled(1));
     const Window window = WaitForWaitWindow(Program());
-    audit::KeepPicture(window, "wait_window");
+    KeepPicture(window, "wait_window");
     // It has no button on purpose, so there is no default button to look for.
-    for (const audit::Faults& faults : {audit::CutOffTexts(window), audit::MisplacedControls(window),
-                                        audit::NamelessControls(window), audit::ForeignColours(window)}) {
+    for (const Faults& faults :
+         {CutOffTexts(window), MisplacedControls(window), NamelessControls(window), ForeignColours(window)}) {
         for (const std::wstring& fault : faults) {
-            ADD_FAILURE() << driver::Utf8(fault);
+            ADD_FAILURE() << Utf8(fault);
         }
     }
 }
@@ -104,11 +102,11 @@ TEST_F(SignerListsAudit, WaitWindowWhileTheLibraryIsAtWork) {
     const RECT text = window.Control(IDC_WAIT_TEXT).Bounds();
     // The display shows what the program has painted in its own time; the program itself is held. A window
     // that is not painted yet is black all over, like the text.
-    EXPECT_TRUE(driver::WaitUntil([&] {
-        return audit::CountPoints(text, GetSysColor(COLOR_WINDOWTEXT)) > kPointsOfAText &&
-               audit::CountPoints(text, GetSysColor(COLOR_BTNFACE)) > kPointsOfAText;
+    EXPECT_TRUE(WaitUntil([&] {
+        return CountPoints(text, GetSysColor(COLOR_WINDOWTEXT)) > kPointsOfAText &&
+               CountPoints(text, GetSysColor(COLOR_BTNFACE)) > kPointsOfAText;
     })) << "the text is not on the screen";
-    audit::KeepPictureAsPainted(window, "wait_window_at_work");
+    KeepPictureAsPainted(window, "wait_window_at_work");
 }
 
 TEST_F(SignerListsAudit, FailedOpening) {
@@ -134,7 +132,7 @@ TEST_F(SignerListsAudit, NetworkStoreThatDoesNotAnswer) {
     const Window box = WaitForWarningBox(Window());
     ExpectSound(box, "network_store_warning");
     LeaveByEscape(box);
-    const driver::MessageBoxWindow question = WaitForMessageBox(Main());
+    const MessageBoxWindow question = WaitForMessageBox(Main());
     ExpectSound(question, "network_store_question");
     LeaveByEscape(question);
     EXPECT_EQ(Result(), HostCancelled(1));
@@ -142,7 +140,7 @@ TEST_F(SignerListsAudit, NetworkStoreThatDoesNotAnswer) {
 
 TEST_F(SignerListsAudit, DistributionPointThatDoesNotAnswer) {
     RefreshListsOnly();
-    driver::CreateRegistryKey(kRefreshTimesKey);
+    CreateRegistryKey(kRefreshTimesKey);
     script.Status("Ctrl", 1, 0xE0700050);
     script.ErrorText(0xE0700050, "The CRL distribution point does not answer");
     script.ControlText("http://crl.example/clearing.crl: no answer");
@@ -151,7 +149,7 @@ TEST_F(SignerListsAudit, DistributionPointThatDoesNotAnswer) {
     const Window box = WaitForWarningBox(Window());
     ExpectSound(box, "revocation_lists_warning");
     LeaveByEscape(box);
-    const driver::MessageBoxWindow question = WaitForMessageBox(Main());
+    const MessageBoxWindow question = WaitForMessageBox(Main());
     ExpectSound(question, "revocation_lists_question");
     LeaveByEscape(question);
     EXPECT_EQ(Result(), HostCancelled(1));

@@ -6,10 +6,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::ListView;
-using driver::Texts;
-using driver::Window;
-
 const store::SignerGroup kDirectors = {L"Directors", {L"CN=Anna,C=GB", L"CN=Boris,O=\"A, B\",C=RU"}};
 const store::SignerGroup kClerks = {L"Clerks", {L"CN=Clara,C=GB"}};
 const store::SignerGroup kAuditors = {L"Auditors", {L"CN=Dora,C=GB"}};
@@ -80,15 +76,15 @@ class SignerListsTest : public SessionTest {
 
 TEST_F(SignerListsTest, ShowsTheListsWithTheirSigners) {
     Open();
-    EXPECT_EQ(driver::Utf8(Dialog().Text()), "Signer lists");
+    EXPECT_EQ(Utf8(Dialog().Text()), "Signer lists");
     EXPECT_EQ(List().Headings(), (Texts{L"List name", L"Signers"}));
     EXPECT_EQ(Rows(), (std::vector<Texts>{{L"Directors", L"CN=Anna,C=GB; CN=Boris,O=\"A, B\",C=RU"},
                                           {L"Clerks", L"CN=Clara,C=GB"},
                                           {L"Auditors", L"CN=Dora,C=GB"}}));
-    EXPECT_EQ(driver::Utf8(Button(IDC_SIGNER_LISTS_ADD_BUTTON).Text()), "Add");
-    EXPECT_EQ(driver::Utf8(Button(IDC_SIGNER_LISTS_EDIT_BUTTON).Text()), "Edit");
-    EXPECT_EQ(driver::Utf8(Button(IDC_SIGNER_LISTS_DELETE_BUTTON).Text()), "Delete");
-    EXPECT_EQ(driver::Utf8(Button(IDCANCEL).Text()), "Exit");
+    EXPECT_EQ(Utf8(Button(IDC_SIGNER_LISTS_ADD_BUTTON).Text()), "Add");
+    EXPECT_EQ(Utf8(Button(IDC_SIGNER_LISTS_EDIT_BUTTON).Text()), "Edit");
+    EXPECT_EQ(Utf8(Button(IDC_SIGNER_LISTS_DELETE_BUTTON).Text()), "Delete");
+    EXPECT_EQ(Utf8(Button(IDCANCEL).Text()), "Exit");
     EXPECT_TRUE(List().SelectedRows().empty());
     List().WaitForFocus();
     EXPECT_TRUE(Calls().empty()) << "no cryptocontext is needed to look at the lists";
@@ -132,8 +128,8 @@ TEST_F(SignerListsTest, AddsAList) {
     Open();
     Select({1});
     const Window selection = PressForSelection(IDC_SIGNER_LISTS_ADD_BUTTON);
-    EXPECT_EQ(driver::Utf8(selection.Text()), "Add list");
-    EXPECT_EQ(driver::Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "");
+    EXPECT_EQ(Utf8(selection.Text()), "Add list");
+    EXPECT_EQ(Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "");
     EXPECT_EQ(ListView(selection.Control(IDC_SELECTION_CHOSEN_LIST)).RowCount(), 0);
     selection.Control(IDC_SELECTION_LIST_NAME_EDIT).SetText(L"New");
     ChooseEmma(selection);
@@ -175,8 +171,8 @@ TEST_F(SignerListsTest, RenamesAndChangesAListInItsPlace) {
     Open();
     Select({1});
     const Window selection = PressForSelection(IDC_SIGNER_LISTS_EDIT_BUTTON);
-    EXPECT_EQ(driver::Utf8(selection.Text()), "Edit list");
-    EXPECT_EQ(driver::Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "Clerks");
+    EXPECT_EQ(Utf8(selection.Text()), "Edit list");
+    EXPECT_EQ(Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "Clerks");
     EXPECT_EQ(ListView(selection.Control(IDC_SELECTION_CHOSEN_LIST)).Column(0), Texts{L"CN=Clara,C=GB"});
     selection.Control(IDC_SELECTION_LIST_NAME_EDIT).SetText(L"Clerks of today");
     ChooseEmma(selection);
@@ -194,7 +190,7 @@ TEST_F(SignerListsTest, AcceptsAListThatKeepsItsName) {
     Open();
     List().PostLeftDoubleClick(List().CellCentre(2, 1));
     const Window selection = WaitForDialogOf(Dialog());
-    EXPECT_EQ(driver::Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "Auditors");
+    EXPECT_EQ(Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "Auditors");
     selection.Control(IDOK).PostClick();
     WaitForDialogBack();
     EXPECT_EQ(Leave(Dialog(), IDOK), HostResult(1, setup.lists));
@@ -231,7 +227,7 @@ TEST_F(SignerListsTest, EditsTheFirstOfSeveralSelectedLists) {
     Open();
     Select({1, 2});
     const Window selection = PressForSelection(IDC_SIGNER_LISTS_EDIT_BUTTON);
-    EXPECT_EQ(driver::Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "Clerks");
+    EXPECT_EQ(Utf8(selection.Control(IDC_SELECTION_LIST_NAME_EDIT).Text()), "Clerks");
 }
 
 TEST_F(SignerListsTest, DeletesTheSelectedListsAfterAsking) {
@@ -294,7 +290,7 @@ TEST_F(SignerListsTest, ShowsTheBoxOfARightClickWithTheInformationIcon) {
     Open();
     List().PostRightClick(List().CellCentre(1, 0));
     const Window box = WaitForWarningBox(Dialog());
-    EXPECT_TRUE(driver::IconOf(box, driver::IconPlace::kLargeWindowIcon, IDI_INFO_MODE).showsResource);
+    EXPECT_TRUE(IconOf(box, IconPlace::kLargeWindowIcon, IDI_INFO_MODE).showsResource);
     box.Control(IDCANCEL).PostClick();
     WaitForDialogBack();
 }

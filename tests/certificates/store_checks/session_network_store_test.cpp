@@ -3,8 +3,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 constexpr wchar_t kStoreQuestion[] = L"The store does not answer (0xE0700041).\r\nContinue without NCS?";
 
 class NetworkStoreTest : public SessionTest {

@@ -5,9 +5,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-using driver::Window;
-
 constexpr std::int64_t kHour = 3600;
 
 constexpr wchar_t kQuestion[] =
@@ -17,7 +14,7 @@ class RevocationListsTest : public SessionTest {
   protected:
     RevocationListsTest() {
         RefreshListsOnly();
-        driver::CreateRegistryKey(kRefreshTimesKey);
+        CreateRegistryKey(kRefreshTimesKey);
         script.ErrorText(0xE0700050, "The distribution point does not answer");
     }
 
@@ -26,20 +23,18 @@ class RevocationListsTest : public SessionTest {
         return name + L";;" + std::to_wstring(seconds);
     }
     static void StoreEntries(const Texts& entries) {
-        driver::WriteRegistryValue(kRefreshTimesKey, kRefreshTimesValue, entries);
+        WriteRegistryValue(kRefreshTimesKey, kRefreshTimesValue, entries);
     }
     static Texts StoredEntries() {
-        return std::get<Texts>(driver::ReadRegistryValue(kRefreshTimesKey, kRefreshTimesValue));
+        return std::get<Texts>(ReadRegistryValue(kRefreshTimesKey, kRefreshTimesValue));
     }
-    static bool HasEntries() {
-        return driver::ReadRegistryValues(kRefreshTimesKey).contains(kRefreshTimesValue);
-    }
+    static bool HasEntries() { return ReadRegistryValues(kRefreshTimesKey).contains(kRefreshTimesValue); }
 
     /// The entry is the one of "Clearing" and was written between these two times.
     static void ExpectFreshEntry(const std::wstring& entry, std::int64_t earliest, std::int64_t latest) {
         const std::size_t separator = entry.find(L";;");
-        ASSERT_NE(separator, std::wstring::npos) << driver::Utf8(entry);
-        EXPECT_EQ(driver::Utf8(entry.substr(0, separator)), "Clearing");
+        ASSERT_NE(separator, std::wstring::npos) << Utf8(entry);
+        EXPECT_EQ(Utf8(entry.substr(0, separator)), "Clearing");
         const std::int64_t seconds = std::stoll(entry.substr(separator + 2));
         EXPECT_GE(seconds, earliest);
         EXPECT_LE(seconds, latest);
@@ -194,7 +189,7 @@ TEST_F(RevocationListsTest, AreStoppedByAUserWhoIsToldThatClosingFailed) {
 }
 
 TEST_F(RevocationListsTest, ReportAValueOfAnotherTypeAndStoreTheTimeInIt) {
-    driver::WriteRegistryValue(kRefreshTimesKey, kRefreshTimesValue, std::uint32_t{7});
+    WriteRegistryValue(kRefreshTimesKey, kRefreshTimesValue, std::uint32_t{7});
     StartHost();
     const std::int64_t before = Now();
     PressOpen();
@@ -205,7 +200,7 @@ TEST_F(RevocationListsTest, ReportAValueOfAnotherTypeAndStoreTheTimeInIt) {
 }
 
 TEST_F(RevocationListsTest, AreNotLoadedWithoutTheKeyOfTheProgram) {
-    driver::DeleteRegistryKey(kRefreshTimesKey);
+    DeleteRegistryKey(kRefreshTimesKey);
     StartHost();
     PressOpen();
     ExpectMessageBox(Main(),

@@ -9,9 +9,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-using driver::Window;
-
 class MaskTest : public RuleEditorTest {
   protected:
     /// Opens a rule with these masks.
@@ -221,9 +218,9 @@ TEST_F(MaskDialog, SuggestsTheMasksOfTheRulesAndThenTheExtensions) {
         {L"SigExt", L"x1"}, {L"DsigExt", L"x2"}, {L"EncExt", L"x3"},
         {L"B64Ext", L"x4"}, {L"HashExt", L"x5"}, {L"VerifyFileExt", L"x6"}};
     for (const auto& [name, extension] : extensions) {
-        driver::WriteRegistryValue(kProgramKey, name, extension);
+        WriteRegistryValue(kProgramKey, name, extension);
     }
-    driver::WriteRegistryValue(kProgramKey, L"ExtExt", Texts{L"x7", L"x8"});
+    WriteRegistryValue(kProgramKey, L"ExtExt", Texts{L"x7", L"x8"});
     Start();
     const Texts expected = {L"*.a",  L"*.A",  L"*.b",  L"*.x2", L"*.x1", L"*.x3",
                             L"*.x4", L"*.x5", L"*.x6", L"*.x7", L"*.x8"};
@@ -262,7 +259,7 @@ TEST_F(MaskDialog, NoTextIsRefused) {
     ExpectMessageBox(mask, L"No Mask selected.", kRefusal, IDOK);
     mask.WaitUntilEnabled();
     // The part of the combo box that is typed into.
-    driver::Window(GetWindow(mask.Control(IDC_MASK_COMBO).Handle(), GW_CHILD)).WaitForFocus();
+    Window(GetWindow(mask.Control(IDC_MASK_COMBO).Handle(), GW_CHILD)).WaitForFocus();
     EXPECT_TRUE(mask.IsVisible());
     CloseMaskDialog(dialog, mask, IDCANCEL);
     ExpectMasks(dialog, {L"*.a"});

@@ -6,15 +6,13 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class ProfileEditorAudit : public ProfileEditorTest {
   protected:
     static void ExpectSound(const Window& dialog, const std::string& name) {
         dialog.Send(WM_NULL);
-        audit::KeepPicture(dialog, name);
-        for (const std::wstring& fault : audit::AllFaults(dialog)) {
-            ADD_FAILURE() << driver::Utf8(fault);
+        KeepPicture(dialog, name);
+        for (const std::wstring& fault : AllFaults(dialog)) {
+            ADD_FAILURE() << Utf8(fault);
         }
     }
     /// Escape must do what "Exit" does.
@@ -67,7 +65,7 @@ TEST_F(ProfileEditorAudit, CsProfileChoice) {
 
 TEST_F(ProfileEditorAudit, Configurations) {
     WriteSampleConfiguration();
-    driver::WriteRegistryValue(kProgramKey, L"ExtExt", driver::Texts{L"docx", L"pdf", L"tar.gz", L"xml"});
+    WriteRegistryValue(kProgramKey, L"ExtExt", Texts{L"docx", L"pdf", L"tar.gz", L"xml"});
     Start();
     Main().PostMenuCommand(IDM_CONFIGURATIONS);
     const Window dialog = Editor().WaitForDialog(Main());

@@ -5,9 +5,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-using driver::Window;
-
 // The first rule of "alpha" has recipients, the third one signer lists, both with "CS one".
 constexpr wchar_t kDeleteCsOneQuestion[] =
     L"Rule(s) '1,3' of profile 'alpha' are using sertificates of CS profile 'CS one'.\r\n"
@@ -149,10 +146,10 @@ TEST_F(CsProfileList, AMissingTimeStampServerKeepsFromLeavingTheEntry) {
     dialog.Control(IDC_PROFILE_TSP_EDIT).SetText(L"");
     const ShownSettings before = SettingsOf(dialog);
     PostSelection(dialog, 0);
-    const driver::MessageBoxWindow box = Editor().WaitForMessageBox(dialog);
+    const MessageBoxWindow box = Editor().WaitForMessageBox(dialog);
     EXPECT_EQ(SelectedCsProfile(dialog), 1) << "the selection is back before the box is shown";
-    EXPECT_EQ(box.View(), driver::MessageBoxOfStyle(L"Please, type TSP data.",
-                                                    L"QENT AC Velmaris - configuration", kRefusal));
+    EXPECT_EQ(box.View(),
+              MessageBoxOfStyle(L"Please, type TSP data.", L"QENT AC Velmaris - configuration", kRefusal));
     box.Answer(IDOK);
     dialog.WaitUntilEnabled();
     SettleEditor(dialog);
@@ -239,8 +236,7 @@ TEST_F(CsProfileList, RulesThatResignToADeletedEntryGetTheFirstOneLeft) {
     DeleteCsProfile(dialog, L"Delete CS profile 'CS two' from list?", IDYES);
     Close(dialog, IDOK);
     SaveAndLeave();
-    EXPECT_EQ(driver::ReadRegistryValue(RuleKey(L"alpha", kResign), L"ResignProfile"),
-              driver::RegistryData(L"CS one"));
+    EXPECT_EQ(ReadRegistryValue(RuleKey(L"alpha", kResign), L"ResignProfile"), RegistryData(L"CS one"));
 }
 
 TEST_F(CsProfileList, AnEntryThatIsDeletedAndAddedAgainRedirectsNoRule) {

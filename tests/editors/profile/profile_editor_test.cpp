@@ -13,10 +13,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::RegistryData;
-using driver::Texts;
-using driver::Window;
-
 class ProfileEditor : public ProfileEditorTest {
   protected:
     [[nodiscard]] static std::wstring ProfileKey(const std::wstring& profile) {
@@ -26,7 +22,7 @@ class ProfileEditor : public ProfileEditorTest {
     void StartWith(const std::map<std::wstring, RegistryData>& values) {
         WriteSampleConfiguration();
         for (const auto& [name, data] : values) {
-            driver::WriteRegistryValue(ProfileKey(L"alpha"), name, data);
+            WriteRegistryValue(ProfileKey(L"alpha"), name, data);
         }
         Start();
     }
@@ -93,13 +89,12 @@ TEST_F(ProfileEditor, ShowsItsTexts) {
     }
     const std::map<int, std::wstring> tips = {{IDC_PROFILE_ADD_CS_PROFILE_BUTTON, L"Add"},
                                               {IDC_PROFILE_DELETE_CS_PROFILE_BUTTON, L"Delete"}};
-    EXPECT_EQ(driver::ToolTipTexts(dialog), tips);
-    EXPECT_TRUE(driver::IconOf(dialog.Control(IDC_PROFILE_ADD_CS_PROFILE_BUTTON), driver::IconPlace::kButton,
-                               IDI_ADD_ITEM)
+    EXPECT_EQ(ToolTipTexts(dialog), tips);
+    EXPECT_TRUE(IconOf(dialog.Control(IDC_PROFILE_ADD_CS_PROFILE_BUTTON), IconPlace::kButton, IDI_ADD_ITEM)
                     .showsResource);
-    EXPECT_TRUE(driver::IconOf(dialog.Control(IDC_PROFILE_DELETE_CS_PROFILE_BUTTON),
-                               driver::IconPlace::kButton, IDI_DELETE_ITEM)
-                    .showsResource);
+    EXPECT_TRUE(
+        IconOf(dialog.Control(IDC_PROFILE_DELETE_CS_PROFILE_BUTTON), IconPlace::kButton, IDI_DELETE_ITEM)
+            .showsResource);
     Close(dialog, IDCANCEL);
 }
 
@@ -334,7 +329,7 @@ TEST_F(ProfileEditor, TheTimeoutTakesDigitsAndWhateverFits) {
     timeout.SetText(L"100000");
     Close(dialog, IDOK);
     SaveAndLeave();
-    EXPECT_EQ(driver::ReadRegistryValue(ProfileKey(L"delta"), L"Handler timeout"), RegistryData(100000U));
+    EXPECT_EQ(ReadRegistryValue(ProfileKey(L"delta"), L"Handler timeout"), RegistryData(100000U));
 }
 
 TEST_F(ProfileEditor, RefusesEachFaultInItsOrder) {
@@ -391,8 +386,7 @@ TEST_F(ProfileEditor, ANameOf15CharactersIsAddedAndSavedWithItsDefaults) {
         {L"NoTSPisError", {L"0"}},    {L"UseAIA", {L"0"}},         {L"AutoUseTSP", {L"0"}},
         {L"NotLoadCrl", {L"0"}},      {L"CrlUpdatePeriod", {L"1"}}};
     EXPECT_EQ(StoredLists(L"123456789012345"), expected);
-    EXPECT_EQ(driver::ReadRegistryValue(ProfileKey(L"123456789012345"), L"Handler timeout"),
-              RegistryData(15U));
+    EXPECT_EQ(ReadRegistryValue(ProfileKey(L"123456789012345"), L"Handler timeout"), RegistryData(15U));
 }
 
 TEST_F(ProfileEditor, ANameThatDiffersInItsCaseOnlyIsAnotherName) {
@@ -438,8 +432,7 @@ TEST_F(ProfileEditor, EverySettingIsSaved) {
         {L"Handler timeout", 30U}, {L"Verify File", 1U},        {L"Verify x file", 0U},
         {L"Verify det file", 1U},  {L"Verify resign file", 0U}, {L"Rename conf files", 1U}};
     for (const auto& [value, number] : options) {
-        EXPECT_EQ(driver::ReadRegistryValue(ProfileKey(name), value), RegistryData(number))
-            << driver::Utf8(value);
+        EXPECT_EQ(ReadRegistryValue(ProfileKey(name), value), RegistryData(number)) << Utf8(value);
     }
 }
 
@@ -454,7 +447,7 @@ TEST_F(ProfileEditor, ARenamedProfileKeepsItsPlaceItsRulesAndStaysOpen) {
     EXPECT_EQ(Control(IDC_RULE_LIST_CAPTION_EDIT).Text(), L"CS profile's num: 1");
     EXPECT_EQ(ShownRules(), (Texts{L"Hash reports", L"Encode reports"}));
     SaveAndLeave();
-    EXPECT_EQ(driver::RegistrySubkeys(kProgramKey), (Texts{L"alpha", L"BETA", L"gamma"}));
+    EXPECT_EQ(RegistrySubkeys(kProgramKey), (Texts{L"alpha", L"BETA", L"gamma"}));
     EXPECT_EQ(StoredRuleTexts(L"BETA", L"Descryption"), (Texts{L"Hash reports", L"Encode reports"}));
 }
 
@@ -464,7 +457,7 @@ TEST_F(ProfileEditor, ARenamedProfileIsSavedUnderItsNewNameAlone) {
     dialog.Control(IDC_PROFILE_NAME_EDIT).SetText(L"omega");
     Close(dialog, IDOK);
     SaveAndLeave();
-    EXPECT_EQ(driver::RegistrySubkeys(kProgramKey), (Texts{L"beta", L"gamma", L"omega"}));
+    EXPECT_EQ(RegistrySubkeys(kProgramKey), (Texts{L"beta", L"gamma", L"omega"}));
     EXPECT_EQ(StoredRuleTexts(L"omega", L"Descryption"), SampleDescriptions());
 }
 

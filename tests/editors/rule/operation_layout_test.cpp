@@ -10,6 +10,7 @@
 #include "editors/rule/rule_form.h"
 #include "store/records.h"
 #include "tests/kit/fakes/registry_snapshot.h"
+#include "tests/kit/samples/operation_witness.h"
 #include "tests/kit/samples/sample_rules.h"
 
 namespace corvane::test {
@@ -134,45 +135,16 @@ void ExpectSeen(const editors::RuleForm& form, const SeenOperation& seen) {
     EXPECT_TRUE(form.operation.isShown && form.outputFolder.isShown && form.cert.isShown);
 }
 
-constexpr std::pair<std::wstring_view, std::wstring_view> kNames[] = {
-    {L"ENCR", L"Encrypt"},
-    {L"DECR", L"Decrypt"},
-    {L"HASH", L"Hash file"},
-    {L"B64E", L"Encode b64"},
-    {L"B64D", L"Decode b64"},
-    {L"SIGN", L"Attached signature"},
-    {L"CHCK", L"Verify attached signature"},
-    {L"CHKX", L"Verify and delete attached signature"},
-    {L"MOVE", L"Move"},
-    {L"DELE", L"Delete"},
-    {L"LENC", L"Encrypt long file"},
-    {L"LDEC", L"Decrypt long file"},
-    {L"CDSG", L"Create detached signature"},
-    {L"DSIG", L"Add detached signature"},
-    {L"DCHK", L"Verify detached signature"},
-    {L"DELS", L"Delete signatures without verification"},
-    {L"RESG", L"Resign"},
-    {L"SGEN", L"Create attached signature and encrypt"},
-    {L"DCCX", L"Decrypt, verify and delete attached signatures"},
-    {L"ARCH", L"Archivate file"},
-    {L"UNAR", L"Unarchivate file"},
-    {L"PACK", L"Pack files"},
-    {L"UNPK", L"Unpack files"},
-    {L"EXEC", L"Execute"},
-};
-
 TEST(OperationLayout, HasTheCodesAndNamesInTheOrderOfTheOperationChoice) {
-    ASSERT_EQ(editors::kOperations.size(), std::size(kNames));
-    ASSERT_EQ(kCodes.size(), std::size(kNames));
-    for (std::size_t index = 0; index < std::size(kNames); ++index) {
-        EXPECT_EQ(editors::kOperations[index].code, kNames[index].first) << "code " << index;
-        EXPECT_EQ(editors::kOperations[index].name, kNames[index].second) << "name " << index;
-        EXPECT_EQ(kCodes[index], kNames[index].first);
+    ASSERT_EQ(editors::kOperations.size(), kWitnessedOperations.size());
+    for (std::size_t index = 0; index < kWitnessedOperations.size(); ++index) {
+        EXPECT_EQ(editors::kOperations[index].code, kWitnessedOperations[index].code) << "code " << index;
+        EXPECT_EQ(editors::kOperations[index].name, kWitnessedOperations[index].name) << "name " << index;
     }
 }
 
 TEST(OperationLayout, EveryCodeIsShownByItsName) {
-    for (const auto& [code, name] : kNames) {
+    for (const auto& [code, name] : kWitnessedOperations) {
         EXPECT_EQ(editors::OperationDisplayName(code), name);
     }
 }

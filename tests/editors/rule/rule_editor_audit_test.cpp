@@ -6,8 +6,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class RuleEditorAudit : public RuleEditorTest {
   protected:
     static void ExpectSound(const Window& dialog, const std::string& name) {
@@ -16,24 +14,24 @@ class RuleEditorAudit : public RuleEditorTest {
     }
     static void ExpectSoundDialog(const Window& dialog, const std::string& name) {
         dialog.Send(WM_NULL);
-        audit::KeepPicture(dialog, name);
-        for (const std::wstring& fault : audit::AllFaults(dialog)) {
-            ADD_FAILURE() << driver::Utf8(fault);
+        KeepPicture(dialog, name);
+        for (const std::wstring& fault : AllFaults(dialog)) {
+            ADD_FAILURE() << Utf8(fault);
         }
     }
     /// Opens a stored rule of each of these operations, which look alike, and keeps a picture of the first.
-    void ExpectSoundLayout(const driver::Texts& codes, const std::string& name) {
+    void ExpectSoundLayout(const Texts& codes, const std::string& name) {
         StartAndOpenEach(codes, [&name](const Window& dialog) { ExpectSound(dialog, name); });
     }
     template <typename Look>
-    void StartAndOpenEach(const driver::Texts& codes, const Look& look) {
+    void StartAndOpenEach(const Texts& codes, const Look& look) {
         const Window dialog = StartAndOpen(FullRule(codes.front()));
         look(dialog);
         for (const std::wstring& code : codes) {
             SelectOperation(dialog, code);
             SettleEditor(dialog);
-            for (const std::wstring& fault : audit::CutOffTexts(dialog)) {
-                ADD_FAILURE() << driver::Utf8(code) << ": " << driver::Utf8(fault);
+            for (const std::wstring& fault : CutOffTexts(dialog)) {
+                ADD_FAILURE() << Utf8(code) << ": " << Utf8(fault);
             }
         }
         dialog.FocusOfThread().PostKey(VK_ESCAPE);

@@ -9,10 +9,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::RegistryData;
-using driver::Texts;
-using driver::Window;
-
 constexpr wchar_t kHelen[] = L"CN=Helen Marsh,OU=Settlement,O=Northgate Clearing,C=GB";
 constexpr wchar_t kOliver[] = L"CN=Oliver Trent,OU=Settlement,O=Northgate Clearing,C=GB";
 constexpr wchar_t kRecipientsQuestion[] =
@@ -25,8 +21,8 @@ class RuleCertificates : public RuleEditorTest {
         WriteCatalogue({L"CS one", L"CS two"});
         WriteProfile(L"alpha", {L"CS one", L"CS two"});
         const std::wstring profile = std::wstring(kProgramKey) + L"\\alpha";
-        driver::WriteRegistryValue(profile, L"NotUseLDAP", Texts{L"1", L"1"});
-        driver::WriteRegistryValue(profile, L"NotLoadCrl", Texts{L"1", L"1"});
+        WriteRegistryValue(profile, L"NotUseLDAP", Texts{L"1", L"1"});
+        WriteRegistryValue(profile, L"NotLoadCrl", Texts{L"1", L"1"});
         for (std::size_t i = 0; i < rules.size(); ++i) {
             WriteRule(L"alpha", static_cast<int>(i), rules[i]);
         }
@@ -54,11 +50,11 @@ TEST_F(RuleCertificates, ChosenRecipientsAreCountedCommittedAndShownAgain) {
     EXPECT_EQ(Count(dialog), L"2");
     EXPECT_EQ(dialog.Control(IDC_RULE_INPUT_EDIT).Text(), kInFolder);
     const Window again = OpenByButton(dialog, IDC_SELECTION_CHOSEN_LIST);
-    EXPECT_EQ(driver::ListView(again.Control(IDC_SELECTION_CHOSEN_LIST)).Column(0), (Texts{kHelen, kOliver}));
+    EXPECT_EQ(ListView(again.Control(IDC_SELECTION_CHOSEN_LIST)).Column(0), (Texts{kHelen, kOliver}));
     EndDialog(again, IDCANCEL);
     EXPECT_EQ(Count(dialog), L"2");
     Close(dialog, IDOK);
-    driver::RegistryValues rule = SaveAndRead(0)[L""];
+    RegistryValues rule = SaveAndRead(0)[L""];
     EXPECT_EQ(rule[L"Ext num"], RegistryData(2U));
     EXPECT_EQ(rule[L"C0"], RegistryData(kHelen));
     EXPECT_EQ(rule[L"C1"], RegistryData(kOliver));
@@ -102,7 +98,7 @@ TEST_F(RuleCertificates, ANewRuleIsGuardedTowardsTheCsProfileOfTheRuleOpenedBefo
 TEST_F(RuleCertificates, ACsProfileThatTheProviderDoesNotKnowIsReportedAndNothingIsLost) {
     StartQuietly({FullRule(L"ENCR")});
     // The provider reads its catalogue when a cryptocontext is opened.
-    driver::DeleteRegistryKey(kCatalogueKey);
+    DeleteRegistryKey(kCatalogueKey);
     const Window dialog = OpenStored();
     const Window report = OpenByButton(dialog, IDC_WARNING_BOX_EDIT);
     EXPECT_NE(report.Control(IDC_WARNING_BOX_EDIT).Text().find(L"Cryptocontext initialization"),

@@ -10,11 +10,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::RegistryData;
-using driver::RegistryValues;
-using driver::Texts;
-using driver::Window;
-
 /// The values that an operation uses besides folders, description and masks, as FullRule has them.
 struct Used {
     const wchar_t* code;
@@ -68,8 +63,8 @@ class RuleEditorCommit : public RuleEditorTest {
   protected:
     /// The rule must be stored with what its operation uses, as `full` has it, and nothing else.
     static void ExpectStored(int number, const Used& used, const StoredRule& full) {
-        SCOPED_TRACE(driver::Utf8(used.code));
-        auto tree = driver::ReadRegistryTree(RuleKey(L"alpha", number));
+        SCOPED_TRACE(Utf8(used.code));
+        auto tree = ReadRegistryTree(RuleKey(L"alpha", number));
         RegistryValues& rule = tree[L""];
         const bool isDelete = std::wstring(used.code) == L"DELE";
         EXPECT_EQ(rule[L"Operation"], RegistryData(used.code));
@@ -85,7 +80,7 @@ class RuleEditorCommit : public RuleEditorTest {
             const RegistryData& value = full.values.at(name);
             const RegistryData nothing =
                 std::holds_alternative<std::wstring>(value) ? RegistryData(L"") : RegistryData(0U);
-            EXPECT_EQ(rule[name], Holds(used.values, name) ? value : nothing) << driver::Utf8(name);
+            EXPECT_EQ(rule[name], Holds(used.values, name) ? value : nothing) << Utf8(name);
         }
         EXPECT_EQ(rule[L"Ext num"], RegistryData(used.hasRecipients ? 2U : 0U));
         EXPECT_EQ(rule.count(L"C1"), used.hasRecipients ? 1U : 0U);

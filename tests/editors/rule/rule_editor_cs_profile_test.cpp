@@ -7,9 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::RegistryData;
-using driver::Window;
-
 constexpr wchar_t kRecipientsQuestion[] =
     L"Recipients field must be clean to change CS profile.\r\nDelete all recipients from rule?";
 constexpr wchar_t kSignersQuestion[] =
@@ -45,7 +42,7 @@ TEST_F(CsProfileGuard, NoGoesBackAndKeepsTheRecipients) {
     Answer(dialog, kRecipientsQuestion, IDNO);
     ExpectShown(dialog, L"CS two", L"2");
     Close(dialog, IDOK);
-    driver::RegistryValues rule = SaveAndRead(0)[L""];
+    RegistryValues rule = SaveAndRead(0)[L""];
     EXPECT_EQ(rule[L"ZCSProfile"], RegistryData(L"CS two"));
     EXPECT_EQ(rule[L"Ext num"], RegistryData(2U));
 }

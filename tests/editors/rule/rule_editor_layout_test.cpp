@@ -15,9 +15,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-using driver::Window;
-
 constexpr wchar_t kNoCs[] = L"hidden";
 constexpr wchar_t kFirstCs[] = L"CS profile: (CS one/CS two) CS one";
 constexpr wchar_t kSecondCs[] = L"CS profile: (CS one/CS two) CS two";
@@ -132,9 +129,9 @@ TEST_F(RuleEditorLayout, AddingARuleGoesThroughAllOperations) {
     StartWithRules({});
     const Window dialog = OpenNew();
     const std::vector<Layout> layouts = Layouts();
-    ASSERT_EQ(layouts.size(), OperationCodes().size());
+    ASSERT_EQ(layouts.size(), kCodes.size());
     for (std::size_t i = 0; i < layouts.size(); ++i) {
-        SCOPED_TRACE(driver::Utf8(layouts[i].code));
+        SCOPED_TRACE(Utf8(layouts[i].code));
         if (i != 0) {
             SelectOperation(dialog, layouts[i].code);
         }
@@ -146,20 +143,20 @@ TEST_F(RuleEditorLayout, AddingARuleGoesThroughAllOperations) {
 
 TEST_F(RuleEditorLayout, EveryStoredOperationOpensWithItsValues) {
     std::vector<StoredRule> rules;
-    for (const std::wstring& code : OperationCodes()) {
+    for (const std::wstring code : kCodes) {
         rules.push_back(FullRule(code));
     }
     StartWithRules(rules);
     const std::vector<Layout> layouts = Layouts();
     for (std::size_t i = 0; i < layouts.size(); ++i) {
-        SCOPED_TRACE(driver::Utf8(layouts[i].code));
+        SCOPED_TRACE(Utf8(layouts[i].code));
         const Window dialog = OpenStored(static_cast<int>(i));
         EXPECT_EQ(dialog.Text(), L"Edit rule");
         ExpectFields(dialog,
                      ExpectedFields(i, kSecondCs, kOutFolder, layouts[i].storedCert, layouts[i].storedRows));
         EXPECT_EQ(dialog.Control(IDC_RULE_INPUT_EDIT).Text(), kInFolder);
         EXPECT_EQ(dialog.Control(IDC_RULE_ERROR_EDIT).Text(), kErrorFolder);
-        EXPECT_EQ(dialog.Control(IDC_RULE_DESCRIPTION_EDIT).Text(), L"Rule of " + OperationCodes()[i]);
+        EXPECT_EQ(dialog.Control(IDC_RULE_DESCRIPTION_EDIT).Text(), std::wstring(L"Rule of ") + kCodes.at(i));
         EXPECT_EQ(Masks(dialog).Column(0), (Texts{L"*.one", L"*.two"}));
         Close(dialog, IDCANCEL);
     }
@@ -188,22 +185,20 @@ TEST_F(RuleEditorLayout, BearsItsTextsToolTipsAndIcons) {
     EXPECT_EQ(dialog.Control(IDC_RULE_DESCRIPTION_LABEL).Text(), L"Descrip\ntion");
     EXPECT_EQ(dialog.Control(IDCANCEL).Text(), L"Exit");
     EXPECT_EQ(dialog.Control(IDOK).Text(), L"OK");
-    EXPECT_EQ(driver::ToolTipTexts(dialog),
-              (std::map<int, std::wstring>{{IDC_RULE_INPUT_BUTTON, L"Input folder"},
-                                           {IDC_RULE_OUTPUT_BUTTON, L"Output folder"},
-                                           {IDC_RULE_ERROR_BUTTON, L"Error folder"},
-                                           {IDC_RULE_CERT_BUTTON, L"Add recipients"},
-                                           {IDC_RULE_ADD_MASK_BUTTON, L"Add"},
-                                           {IDC_RULE_EDIT_MASK_BUTTON, L"Edit"},
-                                           {IDC_RULE_DELETE_MASK_BUTTON, L"Delete"}}));
+    EXPECT_EQ(ToolTipTexts(dialog), (std::map<int, std::wstring>{{IDC_RULE_INPUT_BUTTON, L"Input folder"},
+                                                                 {IDC_RULE_OUTPUT_BUTTON, L"Output folder"},
+                                                                 {IDC_RULE_ERROR_BUTTON, L"Error folder"},
+                                                                 {IDC_RULE_CERT_BUTTON, L"Add recipients"},
+                                                                 {IDC_RULE_ADD_MASK_BUTTON, L"Add"},
+                                                                 {IDC_RULE_EDIT_MASK_BUTTON, L"Edit"},
+                                                                 {IDC_RULE_DELETE_MASK_BUTTON, L"Delete"}}));
     const std::map<int, int> icons = {
         {IDC_RULE_INPUT_BUTTON, IDI_INPUT_FOLDER},     {IDC_RULE_OUTPUT_BUTTON, IDI_OUTPUT_FOLDER},
         {IDC_RULE_ERROR_BUTTON, IDI_ERROR_FOLDER},     {IDC_RULE_CERT_BUTTON, IDI_CERTIFICATES},
         {IDC_RULE_ADD_MASK_BUTTON, IDI_ADD_ITEM},      {IDC_RULE_EDIT_MASK_BUTTON, IDI_EDIT_ITEM},
         {IDC_RULE_DELETE_MASK_BUTTON, IDI_DELETE_ITEM}};
     for (const auto& [button, icon] : icons) {
-        EXPECT_TRUE(driver::IconOf(dialog.Control(button), driver::IconPlace::kButton, icon).showsResource)
-            << button;
+        EXPECT_TRUE(IconOf(dialog.Control(button), IconPlace::kButton, icon).showsResource) << button;
     }
     EXPECT_EQ(Masks(dialog).Headings(), (Texts{L"Masks"}));
     EXPECT_NE(Masks(dialog).ExtendedListStyle() & LVS_EX_FULLROWSELECT, 0U);
@@ -218,8 +213,8 @@ TEST_F(RuleEditorLayout, IconButtonsAreNamedAsTheirToolTipsSay) {
     const Window dialog = OpenNew();
     for (const std::wstring& code : Texts{L"ENCR", L"CHCK", L"MOVE", L"EXEC", L"HASH"}) {
         SelectOperation(dialog, code);
-        for (const auto& [id, text] : driver::ToolTipTexts(dialog)) {
-            EXPECT_EQ(dialog.Control(id).Text(), text) << driver::Utf8(code);
+        for (const auto& [id, text] : ToolTipTexts(dialog)) {
+            EXPECT_EQ(dialog.Control(id).Text(), text) << Utf8(code);
         }
     }
     Close(dialog, IDCANCEL);
@@ -231,10 +226,10 @@ TEST_F(RuleEditorLayout, ThreeControlsAreThereAndNeverShown) {
     EXPECT_TRUE(dialog.Control(IDC_RULE_UNUSED_EDIT).IsOfClass(L"Edit"));
     EXPECT_TRUE(dialog.Control(IDC_RULE_UNUSED_COMBO).IsOfClass(L"ComboBox"));
     EXPECT_EQ(dialog.Control(IDC_RULE_UNUSED_LABEL).Text(), L"Mask");
-    for (const std::wstring& code : OperationCodes()) {
+    for (const std::wstring code : kCodes) {
         SelectOperation(dialog, code);
         for (const int id : {IDC_RULE_UNUSED_EDIT, IDC_RULE_UNUSED_COMBO, IDC_RULE_UNUSED_LABEL}) {
-            EXPECT_FALSE(dialog.Control(id).IsVisible()) << driver::Utf8(code) << " " << id;
+            EXPECT_FALSE(dialog.Control(id).IsVisible()) << Utf8(code) << " " << id;
         }
     }
     Close(dialog, IDCANCEL);
@@ -416,9 +411,9 @@ TEST_F(RuleEditorLayout, AProfileWithoutCsProfilesHasNoneToChoose) {
     EXPECT_EQ(ShownFields(dialog)[1], L"CS profile: () nothing");
     EXPECT_EQ(Row(dialog, 3), L"New signature profile: () nothing");
     Close(dialog, IDOK);
-    const driver::RegistryValues stored = SaveAndRead(0)[L""];
-    EXPECT_EQ(stored.at(L"ZCSProfile"), driver::RegistryData(L""));
-    EXPECT_EQ(stored.at(L"ResignProfile"), driver::RegistryData(L""));
+    const RegistryValues stored = SaveAndRead(0)[L""];
+    EXPECT_EQ(stored.at(L"ZCSProfile"), RegistryData(L""));
+    EXPECT_EQ(stored.at(L"ResignProfile"), RegistryData(L""));
 }
 
 }  // namespace

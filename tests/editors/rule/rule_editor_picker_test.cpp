@@ -8,17 +8,14 @@
 namespace corvane::test {
 namespace {
 
-using driver::Texts;
-using driver::Window;
-
 class RuleEditorPickers : public RuleEditorTest {
   protected:
-    [[nodiscard]] driver::FileDialog OpenPicker(const Window& dialog, int buttonId) const {
+    [[nodiscard]] FileDialog OpenPicker(const Window& dialog, int buttonId) const {
         dialog.Control(buttonId).PostClick();
-        return driver::FileDialog(Editor().WaitForDialog(dialog));
+        return FileDialog(Editor().WaitForDialog(dialog));
     }
     void Pick(const Window& dialog, int buttonId, const std::wstring& path) const {
-        const driver::FileDialog picker = OpenPicker(dialog, buttonId);
+        const FileDialog picker = OpenPicker(dialog, buttonId);
         picker.SetFileName(path);
         picker.Confirm();
         picker.WaitUntilGone();
@@ -64,7 +61,7 @@ TEST_F(RuleEditorPickers, ExecutePicksAFileThatExistsAmongAll) {
     const std::wstring program = L"C:\\windows\\system32\\cmd.exe";
     const Window dialog = StartAndOpen(FullRule(L"EXEC"));
     dialog.Control(IDC_RULE_ROW1_NUMBER_EDIT).SetText(L"99");
-    const driver::FileDialog picker = OpenPicker(dialog, IDC_RULE_CERT_BUTTON);
+    const FileDialog picker = OpenPicker(dialog, IDC_RULE_CERT_BUTTON);
     EXPECT_EQ(picker.FileTypes(), (Texts{L"All files (*.*)"}));
     picker.SetFileName(L"C:\\windows\\system32\\no such program.exe");
     picker.Confirm();
@@ -97,7 +94,7 @@ TEST_F(RuleEditorPickers, WithoutTheProvidersLibraryRecipientsStayAndTheEditorGo
     const Window dialog = StartAndOpen(FullRule(L"ENCR"));
     dialog.Control(IDC_RULE_INPUT_EDIT).SetText(L"C:\\half typ");
     dialog.Control(IDC_RULE_CERT_BUTTON).PostClick();
-    const driver::MessageBoxWindow report = Editor().WaitForMessageBox(dialog);
+    const MessageBoxWindow report = Editor().WaitForMessageBox(dialog);
     EXPECT_EQ(report.View().text,
               ReportText(L"Loading crypto provider library (tarn1.dll)", ERROR_MOD_NOT_FOUND));
     report.Answer(IDOK);
@@ -111,11 +108,11 @@ TEST_F(RuleEditorPickers, SignerListsAreEditedWithoutTheProvidersLibraryUntilOne
     const Window dialog = StartAndOpen(FullRule(L"CHCK"));
     dialog.Control(IDC_RULE_CERT_BUTTON).PostClick();
     Window lists = Editor().WaitForDialog(dialog);
-    driver::ListView(lists.Control(IDC_SIGNER_LISTS_LIST)).Select({0, 1});
+    ListView(lists.Control(IDC_SIGNER_LISTS_LIST)).Select({0, 1});
     lists.Control(IDC_SIGNER_LISTS_DELETE_BUTTON).PostClick();
     ExpectMessageBox(lists, L"Delete 2 list(s)?", 0x134, IDYES);
     lists.WaitUntilEnabled();
-    driver::ListView(lists.Control(IDC_SIGNER_LISTS_LIST)).WaitForRowCount(1);
+    ListView(lists.Control(IDC_SIGNER_LISTS_LIST)).WaitForRowCount(1);
     lists.Control(IDOK).PostClick();
     lists.WaitUntilGone();
     WaitForEditor(dialog);
@@ -137,9 +134,9 @@ class MissingDialogs : public RuleEditorPickers {
     }
 
     void ExpectReport(const Window& owner, const std::wstring& what, unsigned code) const {
-        const driver::MessageBoxWindow report = Editor().WaitForMessageBox(owner);
-        EXPECT_EQ(report.View(), driver::MessageBoxOfStyle(ReportText(L"Showing " + what, code),
-                                                           L"QENT AC Velmaris - configuration", kReport));
+        const MessageBoxWindow report = Editor().WaitForMessageBox(owner);
+        EXPECT_EQ(report.View(), MessageBoxOfStyle(ReportText(L"Showing " + what, code),
+                                                   L"QENT AC Velmaris - configuration", kReport));
         report.Answer(IDOK);
         owner.WaitUntilEnabled();
     }

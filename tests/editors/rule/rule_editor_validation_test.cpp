@@ -7,8 +7,6 @@
 namespace corvane::test {
 namespace {
 
-using driver::Window;
-
 class RuleEditorValidation : public RuleEditorTest {
   protected:
     /// A new rule that lacks nothing but what its operation wants besides folders and masks.

@@ -17,10 +17,8 @@
 #include "tests/kit/driver/message_box.h"
 #include "tests/kit/driver/probe.h"
 
-namespace audit {
+namespace corvane::test {
 namespace {
-
-using driver::Window;
 
 enum class Kind {
     kLabel,
@@ -74,9 +72,9 @@ struct FontDeleter {
 using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, FontDeleter>;
 
 UniqueFont FontOf(const Window& control) {
-    driver::ProbeRequest question{};
-    question.question = driver::ProbeQuestion::kFont;
-    const driver::ProbeRequest answer = driver::Probe(control, question);
+    ProbeRequest question{};
+    question.question = ProbeQuestion::kFont;
+    const ProbeRequest answer = Probe(control, question);
     return UniqueFont(CreateFontIndirectW(&answer.font));
 }
 
@@ -106,7 +104,7 @@ void AddIfTooSmall(const Window& control, SIZE needed, SIZE given, Faults& fault
 }
 
 void CheckHeadings(const Window& control, Faults& faults) {
-    const driver::ListView list(control);
+    const ListView list(control);
     const UniqueFont font = FontOf(Window(reinterpret_cast<HWND>(control.Send(LVM_GETHEADER))));
     const std::vector<std::wstring> headings = list.Headings();
     for (std::size_t column = 0; column < headings.size(); ++column) {
@@ -194,7 +192,7 @@ POINT BackgroundPoint(const Window& dialog) {
 Faults CutOffTexts(const Window& dialog) {
     Faults faults;
     // How wide a message box is, the system decides.
-    if (!driver::MessageBoxWindow::Is(dialog) || dialog.HasControl(IDC_ERROR_BOX_TEXT)) {
+    if (!MessageBoxWindow::Is(dialog) || dialog.HasControl(IDC_ERROR_BOX_TEXT)) {
         CheckCaptionBar(dialog, faults);
     }
     for (const Window& control : VisibleControls(dialog)) {
@@ -320,7 +318,7 @@ Faults MisreadControls(const Window& dialog) {
         if (!control.IsVisible() || (!isField && !hasOwnName)) {
             continue;
         }
-        const driver::AccessibleView heard = driver::AccessibleOf(control);
+        const AccessibleView heard = AccessibleOf(control);
         const std::wstring name = Spoken(isField ? label : control.Text());
         if (heard.name != name) {
             faults.push_back(control.Name() + L" is read out as \"" + heard.name + L"\" instead of \"" +
@@ -369,7 +367,7 @@ Faults DefaultButtonFaults(const Window& dialog) {
     }
     // Wine's message boxes mark the right button, but name OK whatever they have.
     const LRESULT named = dialog.Send(DM_GETDEFID);
-    if (!driver::MessageBoxWindow::Is(dialog) && LOWORD(named) != buttons.front().Id()) {
+    if (!MessageBoxWindow::Is(dialog) && LOWORD(named) != buttons.front().Id()) {
         return {dialog.Name() + L" marks " + buttons.front().Name() + L" and names " +
                 std::to_wstring(LOWORD(named)) + L" as its default button."};
     }
@@ -396,8 +394,8 @@ Faults ForeignColours(const Window& dialog) {
 
 Faults WrongIconSizes(const Window& dialog) {
     Faults faults;
-    const auto check = [&faults](const Window& window, driver::IconPlace place, int wanted) {
-        const driver::IconView icon = driver::IconOf(window, place);
+    const auto check = [&faults](const Window& window, IconPlace place, int wanted) {
+        const IconView icon = IconOf(window, place);
         if (icon.isThere && (icon.width != wanted || icon.height != wanted)) {
             faults.push_back(L"The icon of " + window.Name() + L" is " + std::to_wstring(icon.width) +
                              L" by " + std::to_wstring(icon.height) + L" pixels instead of " +
@@ -406,11 +404,11 @@ Faults WrongIconSizes(const Window& dialog) {
     };
     const int large = MulDiv(32, ScreenDpi(), 96);
     const int small = MulDiv(16, ScreenDpi(), 96);
-    check(dialog, driver::IconPlace::kLargeWindowIcon, large);
-    check(dialog, driver::IconPlace::kSmallWindowIcon, small);
+    check(dialog, IconPlace::kLargeWindowIcon, large);
+    check(dialog, IconPlace::kSmallWindowIcon, small);
     for (const Window& control : VisibleControls(dialog)) {
         if (KindOf(control) == Kind::kIconButton) {
-            check(control, driver::IconPlace::kButton, large);
+            check(control, IconPlace::kButton, large);
         }
     }
     return faults;
@@ -430,4 +428,4 @@ Faults AllFaults(const Window& dialog) {
     return all;
 }
 
-}  // namespace audit
+}  // namespace corvane::test

@@ -19,7 +19,7 @@ using std::min;
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace audit {
+namespace corvane::test {
 namespace {
 
 constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
@@ -29,7 +29,7 @@ class PictureLibrary {
     PictureLibrary() {
         const Gdiplus::GdiplusStartupInput input;
         if (Gdiplus::GdiplusStartup(&token_, &input, nullptr) != Gdiplus::Ok) {
-            throw driver::Failure(L"The system's picture library does not start.");
+            throw Failure(L"The system's picture library does not start.");
         }
     }
     ~PictureLibrary() { Gdiplus::GdiplusShutdown(token_); }
@@ -43,7 +43,7 @@ class PictureLibrary {
 std::filesystem::path PictureFolder() {
     std::array<wchar_t, 1024> folder{};
     if (GetEnvironmentVariableW(L"CORVANE_PICTURES", folder.data(), static_cast<DWORD>(folder.size())) == 0) {
-        throw driver::Failure(L"CORVANE_PICTURES names no folder for the pictures.");
+        throw Failure(L"CORVANE_PICTURES names no folder for the pictures.");
     }
     std::wstring path = folder.data();
     // A cross-built test sees the building machine's files through drive Z.
@@ -52,7 +52,7 @@ std::filesystem::path PictureFolder() {
 
 /// The rectangle that the window takes on the screen, with its frame: a window manager need not draw the
 /// frame as wide as the window takes it to be, and what lies behind would be in the picture.
-RECT FrameOnScreen(const driver::Window& window) {
+RECT FrameOnScreen(const Window& window) {
     const RECT bounds = window.Bounds();
     const RECT client = window.ClientBounds();
     const COLORREF line = ScreenColour({client.left - 1, (client.top + client.bottom) / 2});
@@ -117,12 +117,12 @@ class ScreenCopy {
 
 /// Comes back when the window has looked the same for a few looks: the window manager draws its frame in its
 /// own time. What never rests is pictured as it is.
-void WaitUntilAtRest(const driver::Window& window) {
+void WaitUntilAtRest(const Window& window) {
     constexpr int kEnoughLooks = 5;
     constexpr unsigned kLimitMilliseconds = 5000;
     int looks = 0;
     std::vector<DWORD> before;
-    static_cast<void>(driver::WaitUntil(
+    static_cast<void>(WaitUntil(
         [&] {
             std::vector<DWORD> now = ScreenCopy(window.Bounds()).Pixels();
             looks = now == before ? looks + 1 : 0;
@@ -161,14 +161,14 @@ std::ptrdiff_t CountPoints(const RECT& place, COLORREF colour) {
                          [&](DWORD pixel) { return (pixel & kColours) == wanted; });
 }
 
-void KeepPicture(const driver::Window& window, const std::string& name) {
+void KeepPicture(const Window& window, const std::string& name) {
     RedrawWindow(window.Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     window.Send(WM_NULL);
     KeepPictureAsPainted(window, name);
 }
 
-void KeepPictureAsPainted(const driver::Window& window, const std::string& name) {
+void KeepPictureAsPainted(const Window& window, const std::string& name) {
     if (!IsPictureScale()) {
         return;
     }
@@ -185,8 +185,8 @@ void KeepPictureAsPainted(const driver::Window& window, const std::string& name)
         isKept = picture.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
     }
     if (!isKept) {
-        throw driver::Failure(L"The picture could not be kept: " + file.wstring());
+        throw Failure(L"The picture could not be kept: " + file.wstring());
     }
 }
 
-}  // namespace audit
+}  // namespace corvane::test

@@ -5,16 +5,16 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace audit {
+namespace corvane::test {
 
 /// Keeps a picture of the window with its frame, as it stands on the screen, under
 /// "<folder of pictures>/<name>_<dpi>.png". The folder is what CORVANE_PICTURES names. Nothing at a scale of
 /// which no pictures are kept.
-void KeepPicture(const driver::Window& window, const std::string& name);
+void KeepPicture(const Window& window, const std::string& name);
 
 /// The same of a window whose program is busy: nothing is asked of it, and what it has painted is what there
 /// is.
-void KeepPictureAsPainted(const driver::Window& window, const std::string& name);
+void KeepPictureAsPainted(const Window& window, const std::string& name);
 
 /// Colour of one point of the screen.
 [[nodiscard]] COLORREF ScreenColour(POINT point);
@@ -28,4 +28,4 @@ void KeepPictureAsPainted(const driver::Window& window, const std::string& name)
 /// Dots per inch of the screen.
 [[nodiscard]] int ScreenDpi();
 
-}  // namespace audit
+}  // namespace corvane::test

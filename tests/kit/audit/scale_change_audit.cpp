@@ -11,15 +11,13 @@
 #include "tests/kit/driver/icon.h"
 #include "tests/kit/driver/scale_change.h"
 
-namespace audit {
+namespace corvane::test {
 
 namespace {
 
-using driver::Window;
-
 void ExpectNothing(const std::vector<std::wstring>& faults, const std::string& when) {
     for (const std::wstring& fault : faults) {
-        ADD_FAILURE() << when << ": " << driver::Utf8(fault);
+        ADD_FAILURE() << when << ": " << Utf8(fault);
     }
 }
 
@@ -29,7 +27,7 @@ void ExpectPictures(const Window& dialog, UINT scale) {
         if (!control.IsOfClass(L"Static") || (control.Style() & SS_TYPEMASK) != SS_ICON) {
             continue;
         }
-        const driver::IconView icon = driver::IconOf(control, driver::IconPlace::kStatic);
+        const IconView icon = IconOf(control, IconPlace::kStatic);
         EXPECT_EQ(icon.width, MulDiv(32, static_cast<int>(scale), 96)) << "at " << scale << " dots per inch";
     }
 }
@@ -47,7 +45,7 @@ void GoRound(const Window& dialog, const std::string& name, const std::function<
         if (scale == own) {
             continue;
         }
-        driver::MoveToScreenOfScale(dialog, own, scale);
+        MoveToScreenOfScale(dialog, own, scale);
         const std::string when = name + " at " + std::to_string(scale) + " dots per inch";
         if (scale == 96 || scale == 144) {
             KeepPicture(dialog, name + "_brought_to_another_scale_from");
@@ -55,14 +53,14 @@ void GoRound(const Window& dialog, const std::string& name, const std::function<
         ExpectNothing(CutOffTexts(dialog), when);
         ExpectNothing(MisplacedControls(dialog), when);
         ExpectPictures(dialog, scale);
-        driver::MoveToScreenOfScale(dialog, scale, own);
+        MoveToScreenOfScale(dialog, scale, own);
         ExpectPictures(dialog, own);
         atHome();
     }
     for (const UINT scale : {own * 3 / 2, own * 2 / 3}) {
-        driver::MoveToScreenOfScale(dialog, own, scale);
-        driver::MoveToScreenOfScale(dialog, scale, own * 5 / 4);
-        driver::MoveToScreenOfScale(dialog, own * 5 / 4, own);
+        MoveToScreenOfScale(dialog, own, scale);
+        MoveToScreenOfScale(dialog, scale, own * 5 / 4);
+        MoveToScreenOfScale(dialog, own * 5 / 4, own);
     }
     atHome();
 }
@@ -71,23 +69,23 @@ void GoRound(const Window& dialog, const std::string& name, const std::function<
 
 void ExpectScaleChangesKeepPlaces(const Window& dialog, const std::string& name) {
     dialog.Send(WM_NULL);
-    const driver::DialogPlaces places = driver::PlacesIn(dialog);
-    GoRound(dialog, name, [&] { ExpectNothing(driver::Moved(dialog, places), name + " back home"); });
+    const DialogPlaces places = PlacesIn(dialog);
+    GoRound(dialog, name, [&] { ExpectNothing(Moved(dialog, places), name + " back home"); });
 }
 
 void ExpectScaleChangesKeepResizablePlaces(const Window& dialog, const std::string& name) {
     dialog.Send(WM_NULL);
-    const driver::DialogPlaces places = driver::PlacesIn(dialog);
+    const DialogPlaces places = PlacesIn(dialog);
     const SIZE larger = {places.size.cx + 61, places.size.cy + 47};
     Resize(dialog, larger);
-    const driver::DialogPlaces largerPlaces = driver::PlacesIn(dialog);
+    const DialogPlaces largerPlaces = PlacesIn(dialog);
     GoRound(dialog, name, [&] {
         // By rounding, the way back may end a pixel beside the first size.
         Resize(dialog, larger);
-        ExpectNothing(driver::Moved(dialog, largerPlaces), name + " back home");
+        ExpectNothing(Moved(dialog, largerPlaces), name + " back home");
     });
     Resize(dialog, places.size);
-    ExpectNothing(driver::Moved(dialog, places), name + " at its first size");
+    ExpectNothing(Moved(dialog, places), name + " at its first size");
 }
 
-}  // namespace audit
+}  // namespace corvane::test

@@ -9,7 +9,7 @@
 
 #include "tests/kit/driver/failure.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 struct Releaser {
@@ -60,4 +60,4 @@ AccessibleView AccessibleOf(const Window& control) {
     return view;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// What a screen reader hears of a control, through the platform's accessibility interface (IAccessible).
 struct AccessibleView {
@@ -18,4 +18,4 @@ struct AccessibleView {
 /// Throws Failure where the platform knows no such object.
 [[nodiscard]] AccessibleView AccessibleOf(const Window& control);
 
-}  // namespace driver
+}  // namespace corvane::test

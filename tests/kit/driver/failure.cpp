@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace driver {
+namespace corvane::test {
 
 std::string Utf8(std::wstring_view text) {
     if (text.empty()) {
@@ -15,4 +15,4 @@ std::string Utf8(std::wstring_view text) {
     return result;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace driver {
+namespace corvane::test {
 
 /// Wide text as UTF-8, for messages.
 [[nodiscard]] std::string Utf8(std::wstring_view text);
@@ -16,4 +16,4 @@ class Failure : public std::runtime_error {
     explicit Failure(std::wstring_view what) : std::runtime_error(Utf8(what)) {}
 };
 
-}  // namespace driver
+}  // namespace corvane::test

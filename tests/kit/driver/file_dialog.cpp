@@ -4,7 +4,7 @@
 
 #include "tests/kit/driver/failure.h"
 
-namespace driver {
+namespace corvane::test {
 
 Window FileDialog::FileNameField() const {
     for (const int id : {cmb13, edt1}) {
@@ -46,4 +46,4 @@ void FileDialog::GiveUp() const {
     WaitUntilGone();
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// The system's dialog for saving or opening a file, open in the driven program.
 class FileDialog : public Window {
@@ -24,4 +24,4 @@ class FileDialog : public Window {
     [[nodiscard]] Window FileNameField() const;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

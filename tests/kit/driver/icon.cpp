@@ -2,7 +2,7 @@
 
 #include "tests/kit/driver/probe.h"
 
-namespace driver {
+namespace corvane::test {
 
 IconView IconOf(const Window& window, IconPlace place, int resource) {
     ProbeRequest request{};
@@ -19,4 +19,4 @@ IconView IconOf(const Window& window, IconPlace place, int resource) {
     return view;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

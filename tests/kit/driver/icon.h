@@ -3,7 +3,7 @@
 #include "tests/kit/driver/probe_protocol.h"
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// An icon as it is shown.
 struct IconView {
@@ -19,4 +19,4 @@ struct IconView {
 /// The icon of a control or a window, compared with the program's icon resource `resource` (0: none).
 [[nodiscard]] IconView IconOf(const Window& window, IconPlace place, int resource = 0);
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -8,7 +8,7 @@
 #include "tests/kit/driver/remote_block.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 constexpr std::size_t kTextRoomChars = 2048;
@@ -235,4 +235,4 @@ void ListView::WaitForColumn(int column, const std::vector<std::wstring>& cells)
     }
 }
 
-}  // namespace driver
+}  // namespace corvane::test

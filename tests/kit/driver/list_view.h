@@ -5,7 +5,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// A list view of another process, in report style.
 class ListView : public Window {
@@ -53,4 +53,4 @@ class ListView : public Window {
     void SetState(int row, UINT state, UINT mask) const;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/probe.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 std::vector<MenuItem> Items(const Window& window, ProbeQuestion question) {
@@ -48,4 +48,4 @@ MenuItem MenuItemOf(const Window& window, int id) {
     return *found;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// One item of a menu, as it was when it was looked at.
 struct MenuItem {
@@ -27,4 +27,4 @@ struct MenuItem {
 /// The item with that command; throws Failure where there is none.
 [[nodiscard]] MenuItem MenuItemOf(const Window& window, int id);
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/icon.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 std::wstring WithoutAccelerator(std::wstring caption) {
@@ -136,4 +136,4 @@ void MessageBoxWindow::Dismiss() const {
     WaitUntilGone();
 }
 
-}  // namespace driver
+}  // namespace corvane::test

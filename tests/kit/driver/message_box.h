@@ -6,7 +6,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// What a message box shows.
 struct MessageBoxView {
@@ -41,4 +41,4 @@ class MessageBoxWindow : public Window {
     void Dismiss() const;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

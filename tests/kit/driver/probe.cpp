@@ -9,7 +9,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/remote_block.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 std::wstring LibraryPath() {
@@ -87,4 +87,4 @@ std::vector<ProbeMessage> MessageWatch::Sent() const {
             answer.messages.begin() + static_cast<std::ptrdiff_t>(answer.messageCount)};
 }
 
-}  // namespace driver
+}  // namespace corvane::test

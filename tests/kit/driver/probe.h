@@ -6,7 +6,7 @@
 #include "tests/kit/driver/probe_protocol.h"
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// Asks a question about `window` inside its own process and gives the record back with the answer.
 /// Throws Failure when no answer comes.
@@ -40,4 +40,4 @@ class MessageWatch {
     HHOOK hook_;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -7,16 +7,13 @@
 
 #include "tests/kit/driver/probe_protocol.h"
 
+namespace corvane::test {
 namespace {
-
-using driver::IconPlace;
-using driver::ProbeQuestion;
-using driver::ProbeRequest;
 
 void ListItems(HMENU menu, std::int32_t depth, ProbeRequest& request) {
     const int count = GetMenuItemCount(menu);
     for (int position = 0; position < count && request.itemCount < request.items.size(); ++position) {
-        driver::ProbeMenuItem& item = request.items[request.itemCount++];
+        ProbeMenuItem& item = request.items[request.itemCount++];
         MENUITEMINFOW info{};
         info.cbSize = sizeof info;
         info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
@@ -185,11 +182,13 @@ void Answer(HWND window, ProbeRequest& request) {
 }
 
 }  // namespace
+}  // namespace corvane::test
 
 extern "C" __declspec(dllexport) LRESULT CALLBACK ProbeHook(int code, WPARAM wParam, LPARAM lParam) {
+    using namespace corvane::test;
     if (code == HC_ACTION) {
         const auto& call = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-        static const UINT kProbeMessage = RegisterWindowMessageW(driver::kProbeMessageName);
+        static const UINT kProbeMessage = RegisterWindowMessageW(kProbeMessageName);
         if (call.message == kProbeMessage && call.lParam != 0) {
             Answer(call.hwnd, *reinterpret_cast<ProbeRequest*>(call.lParam));
         } else {

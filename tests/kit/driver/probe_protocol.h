@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace driver {
+namespace corvane::test {
 
 /// Menus and icons can only be looked at in their own process: their handles mean nothing elsewhere. A
 /// small library is hooked into the driven program for a moment, and answers these questions there. The
@@ -69,4 +69,4 @@ inline constexpr wchar_t kProbeMessageName[] = L"driver probe question";
 inline constexpr wchar_t kProbeLibrary[] = L"driver_probe.dll";
 inline constexpr char kProbeHook[] = "ProbeHook";
 
-}  // namespace driver
+}  // namespace corvane::test

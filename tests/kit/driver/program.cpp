@@ -9,7 +9,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 /// A cross-built test sees the building machine's files through drive Z.
@@ -189,4 +189,4 @@ MessageBoxWindow Program::WaitForMessageBox(const Window& owner) const {
     return MessageBoxWindow(window);
 }
 
-}  // namespace driver
+}  // namespace corvane::test

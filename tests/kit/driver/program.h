@@ -7,7 +7,7 @@
 #include "tests/kit/driver/watched_process.h"
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// A running program. Where it still runs when this object goes, it is left as its user would leave it. A
 /// program that cannot be left, that crashes or that ends with another exit code than the expected one fails
@@ -52,4 +52,4 @@ class Program {
     DWORD expectedExitCode_ = 0;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

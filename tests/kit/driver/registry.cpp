@@ -8,7 +8,7 @@
 
 #include "tests/kit/driver/failure.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 constexpr wchar_t kAsideKey[] = L"SOFTWARE\\HOLVAN set aside by tests";
@@ -190,4 +190,4 @@ std::map<std::wstring, RegistryValues> ReadRegistryTree(const std::wstring& path
     return tree;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

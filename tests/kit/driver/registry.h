@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-namespace driver {
+namespace corvane::test {
 
 using Texts = std::vector<std::wstring>;
 /// The data of a value: a DWORD, an SZ, or a MULTI_SZ.
@@ -41,4 +41,4 @@ void WriteRegistryValue(const std::wstring& path, const std::wstring& name, cons
 /// Everything below a key: the values of every key by its path below `path` (the key itself: "").
 [[nodiscard]] std::map<std::wstring, RegistryValues> ReadRegistryTree(const std::wstring& path);
 
-}  // namespace driver
+}  // namespace corvane::test

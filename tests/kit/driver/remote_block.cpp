@@ -2,7 +2,7 @@
 
 #include "tests/kit/driver/failure.h"
 
-namespace driver {
+namespace corvane::test {
 
 RemoteBlock::RemoteBlock(HWND window, std::size_t sizeBytes) {
     DWORD processId = 0;
@@ -49,4 +49,4 @@ std::wstring RemoteBlock::Text(std::size_t offset, std::size_t roomChars) const 
     return text.substr(0, text.find(L'\0'));
 }
 
-}  // namespace driver
+}  // namespace corvane::test

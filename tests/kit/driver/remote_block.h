@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-namespace driver {
+namespace corvane::test {
 
 /// A block of memory in the process that a window belongs to, for the control messages that take pointers:
 /// the system carries only the oldest messages from one process to the other.
@@ -42,4 +42,4 @@ class RemoteBlock {
     void* address_ = nullptr;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

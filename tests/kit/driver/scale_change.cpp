@@ -2,7 +2,7 @@
 
 #include "tests/kit/driver/remote_block.h"
 
-namespace driver {
+namespace corvane::test {
 
 namespace {
 
@@ -56,4 +56,4 @@ std::vector<std::wstring> Moved(const Window& dialog, const DialogPlaces& expect
     return moved;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -5,7 +5,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// Tells a window that it has come from a screen of one scale to one of another, both in dots per inch, as
 /// the system does: with its own size scaled from the one to the other. Comes back when the window has dealt
@@ -22,4 +22,4 @@ struct DialogPlaces {
 /// What is elsewhere now, in words, one for each; empty where everything is in its place.
 [[nodiscard]] std::vector<std::wstring> Moved(const Window& dialog, const DialogPlaces& expected);
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -6,7 +6,7 @@
 #include "tests/kit/driver/remote_block.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 constexpr std::size_t kToolTipRoomChars = 256;
@@ -119,4 +119,4 @@ std::wstring ToolTipUnderTheMouse(const Window& dialog, const Window& control) {
     return shown.text;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

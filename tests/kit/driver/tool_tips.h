@@ -5,7 +5,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// The texts of the tooltip control that belongs to `dialog`, by the id of the control they explain.
 /// Throws Failure where the dialog has no tooltip control.
@@ -15,4 +15,4 @@ namespace driver {
 /// the text of the tip; then takes the mouse away. Throws Failure where no tip comes.
 [[nodiscard]] std::wstring ToolTipUnderTheMouse(const Window& dialog, const Window& control);
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace driver {
+namespace corvane::test {
 
 bool WaitUntil(const std::function<bool()>& holds, unsigned limitMilliseconds) {
     const ULONGLONG start = GetTickCount64();
@@ -21,4 +21,4 @@ bool WaitUntil(const std::function<bool()>& holds, unsigned limitMilliseconds) {
     }
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-namespace driver {
+namespace corvane::test {
 
 /// The longest that a state may take to come. Far beyond what any needs on a busy machine: it only ends a
 /// test whose state never comes.
@@ -13,4 +13,4 @@ inline constexpr unsigned kLimitMilliseconds = 30000;
 [[nodiscard]] bool WaitUntil(const std::function<bool()>& holds,
                              unsigned limitMilliseconds = kLimitMilliseconds);
 
-}  // namespace driver
+}  // namespace corvane::test

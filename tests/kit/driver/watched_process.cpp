@@ -7,7 +7,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 /// Gives the system's code. Under Wine a start may end as an internal error before anything of the program
@@ -152,4 +152,4 @@ DWORD WatchedProcess::Note(const DEBUG_EVENT& event) {
     return DBG_CONTINUE;
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -10,7 +10,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace driver {
+namespace corvane::test {
 
 struct HandleCloser {
     void operator()(HANDLE handle) const { CloseHandle(handle); }
@@ -63,4 +63,4 @@ class WatchedProcess {
     std::thread watcher_;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -4,7 +4,7 @@
 
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 constexpr DWORD kOwnEnd = 7;
@@ -60,4 +60,4 @@ TEST_F(WatchedProcessTest, ComesToItsOwnEndAfterAStartThatFailed) {
 }
 
 }  // namespace
-}  // namespace driver
+}  // namespace corvane::test

@@ -3,7 +3,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 // The platform gives a listener nothing to be known by.
@@ -40,4 +40,4 @@ void CALLBACK WinEvents::Hear(HWINEVENTHOOK /*hook*/, DWORD /*event*/, HWND wind
     }
 }
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -8,7 +8,7 @@
 
 #include "tests/kit/driver/window.h"
 
-namespace driver {
+namespace corvane::test {
 
 /// Listens to what a window announces to screen readers. A thread has one of these at a time, and hears while
 /// it waits (WaitUntil).
@@ -39,4 +39,4 @@ class WinEvents {
     std::unique_ptr<std::remove_pointer_t<HWINEVENTHOOK>, HookRemover> hook_;
 };
 
-}  // namespace driver
+}  // namespace corvane::test

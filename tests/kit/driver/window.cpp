@@ -7,7 +7,7 @@
 #include "tests/kit/driver/failure.h"
 #include "tests/kit/driver/waiting.h"
 
-namespace driver {
+namespace corvane::test {
 namespace {
 
 LPARAM PointParameter(POINT point) {
@@ -210,4 +210,4 @@ void UseScreenPixels() {
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_SYSTEM_AWARE);
 }
 
-}  // namespace driver
+}  // namespace corvane::test

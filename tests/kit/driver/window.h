@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace driver {
+namespace corvane::test {
 
 /// A window of another process, seen and used through messages as an automation tool would. Copies are the
 /// same window; nothing is owned. Whatever takes too long or is not there throws Failure with the control's
@@ -88,4 +88,4 @@ class Window {
 /// Sees the screen in real pixels, as the driven program does; called once, before any window is looked at.
 void UseScreenPixels();
 
-}  // namespace driver
+}  // namespace corvane::test

@@ -1,17 +1,6 @@
 #include "tests/kit/samples/sample_rules.h"
 
-#include <algorithm>
-#include <stdexcept>
-
 namespace corvane::test {
-
-int IndexOfCode(const std::wstring& code) {
-    const auto found = std::find(kCodes.begin(), kCodes.end(), code);
-    if (found == kCodes.end()) {
-        throw std::invalid_argument("No such operation");
-    }
-    return static_cast<int>(found - kCodes.begin());
-}
 
 bool IsOneOf(const std::wstring& code, const std::wstring& codes) {
     return (L" " + codes + L" ").find(L" " + code + L" ") != std::wstring::npos;

@@ -2,9 +2,6 @@
 
 namespace corvane::test {
 
-using driver::Texts;
-using driver::WriteRegistryValue;
-
 Texts SampleDescriptions() {
     return {L"Encrypt orders",
             L"Move invoices",
@@ -19,7 +16,7 @@ Texts SampleOperations() {
 }
 
 void WriteCatalogue(const Texts& names) {
-    driver::CreateRegistryKey(kCatalogueKey);
+    CreateRegistryKey(kCatalogueKey);
     int number = 1;
     for (const std::wstring& name : names) {
         WriteRegistryValue(std::wstring(kCatalogueKey) + L"\\" + std::to_wstring(number++), L"ProfileName",
@@ -36,7 +33,7 @@ void WriteProfile(const std::wstring& name, const Texts& csProfiles) {
         WriteRegistryValue(key, value, Texts(csProfiles.size(), L"0"));
     }
     WriteRegistryValue(key, L"CrlUpdatePeriod", Texts(csProfiles.size(), L"1"));
-    driver::CreateRegistryKey(key + L"\\rules");
+    CreateRegistryKey(key + L"\\rules");
 }
 
 std::wstring RuleKey(const std::wstring& profile, int number) {
@@ -126,17 +123,16 @@ void WriteSampleConfiguration() {
 
 Texts StoredRuleTexts(const std::wstring& profile, const std::wstring& value) {
     Texts texts;
-    for (int number = 0; driver::RegistryKeyExists(RuleKey(profile, number)); ++number) {
-        texts.push_back(std::get<std::wstring>(driver::ReadRegistryValue(RuleKey(profile, number), value)));
+    for (int number = 0; RegistryKeyExists(RuleKey(profile, number)); ++number) {
+        texts.push_back(std::get<std::wstring>(ReadRegistryValue(RuleKey(profile, number), value)));
     }
     return texts;
 }
 
 std::vector<std::uint32_t> StoredSwitches(const std::wstring& profile) {
     std::vector<std::uint32_t> switches;
-    for (int number = 0; driver::RegistryKeyExists(RuleKey(profile, number)); ++number) {
-        switches.push_back(
-            std::get<std::uint32_t>(driver::ReadRegistryValue(RuleKey(profile, number), L"Is on")));
+    for (int number = 0; RegistryKeyExists(RuleKey(profile, number)); ++number) {
+        switches.push_back(std::get<std::uint32_t>(ReadRegistryValue(RuleKey(profile, number), L"Is on")));
     }
     return switches;
 }

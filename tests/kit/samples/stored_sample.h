@@ -17,9 +17,9 @@ inline constexpr wchar_t kCatalogueKey[] = L"tarn\\Profiles";
 enum SampleRule : int { kEncrypt, kMove, kResign, kPack, kExecute, kDelete, kSampleRuleCount };
 
 /// Their descriptions, in order.
-[[nodiscard]] driver::Texts SampleDescriptions();
+[[nodiscard]] Texts SampleDescriptions();
 /// Their four-letter codes, in order.
-[[nodiscard]] driver::Texts SampleOperations();
+[[nodiscard]] Texts SampleOperations();
 
 /// Writes the configuration that the tests work on: the provider's catalogue "CS one", "CS two"; the
 /// profiles "alpha" (two CS profiles, the six rules), "beta" (one CS profile, two rules) and "gamma" (one CS
@@ -27,17 +27,17 @@ enum SampleRule : int { kEncrypt, kMove, kResign, kPack, kExecute, kDelete, kSam
 void WriteSampleConfiguration();
 
 /// Writes the provider's catalogue alone, one key for each name.
-void WriteCatalogue(const driver::Texts& names);
+void WriteCatalogue(const Texts& names);
 
 /// Writes a profile with these CS profiles and an empty list of rules.
-void WriteProfile(const std::wstring& name, const driver::Texts& csProfiles);
+void WriteProfile(const std::wstring& name, const Texts& csProfiles);
 
 /// Writes one rule: plain values, its masks and its recipients.
 struct StoredRule {
-    driver::RegistryValues values;
-    driver::Texts masks;
-    driver::Texts recipients;
-    std::vector<std::pair<std::wstring, driver::Texts>> signerLists;
+    RegistryValues values;
+    Texts masks;
+    Texts recipients;
+    std::vector<std::pair<std::wstring, Texts>> signerLists;
 };
 void WriteRule(const std::wstring& profile, int number, const StoredRule& rule);
 
@@ -49,7 +49,7 @@ void WriteRule(const std::wstring& profile, int number, const StoredRule& rule);
 [[nodiscard]] std::wstring RuleKey(const std::wstring& profile, int number);
 
 /// The named value of each of a profile's stored rules "Rule 0", "Rule 1" and so on.
-[[nodiscard]] driver::Texts StoredRuleTexts(const std::wstring& profile, const std::wstring& value);
+[[nodiscard]] Texts StoredRuleTexts(const std::wstring& profile, const std::wstring& value);
 [[nodiscard]] std::vector<std::uint32_t> StoredSwitches(const std::wstring& profile);
 
 }  // namespace corvane::test

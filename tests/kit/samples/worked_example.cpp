@@ -19,13 +19,13 @@ DWORD RunToItsEnd(std::wstring commandLine) {
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
                         nullptr, &start, &process)) {
-        throw driver::Failure(L"It could not be started (system code " + std::to_wstring(GetLastError()) +
-                              L"): " + commandLine);
+        throw Failure(L"It could not be started (system code " + std::to_wstring(GetLastError()) + L"): " +
+                      commandLine);
     }
     CloseHandle(process.hThread);
-    const driver::UniqueHandle running(process.hProcess);
+    const UniqueHandle running(process.hProcess);
     DWORD code = 1;
-    if (WaitForSingleObject(running.get(), driver::kLimitMilliseconds) == WAIT_OBJECT_0) {
+    if (WaitForSingleObject(running.get(), kLimitMilliseconds) == WAIT_OBJECT_0) {
         GetExitCodeProcess(running.get(), &code);
     }
     return code;
@@ -37,7 +37,7 @@ void ImportWorkedExample() {
     std::array<wchar_t, 1024> file{};
     if (GetEnvironmentVariableW(L"CORVANE_WORKED_EXAMPLE", file.data(), static_cast<DWORD>(file.size())) ==
         0) {
-        throw driver::Failure(L"CORVANE_WORKED_EXAMPLE names no file.");
+        throw Failure(L"CORVANE_WORKED_EXAMPLE names no file.");
     }
     std::wstring path = file.data();
     if (path.front() == L'/') {
@@ -45,7 +45,7 @@ void ImportWorkedExample() {
         path.insert(0, L"Z:");
     }
     if (RunToItsEnd(L"reg.exe import \"" + path + L"\"") != 0) {
-        throw driver::Failure(L"The worked example could not be imported from " + path + L".");
+        throw Failure(L"The worked example could not be imported from " + path + L".");
     }
 }
 

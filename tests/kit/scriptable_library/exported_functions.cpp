@@ -1,13 +1,14 @@
 #include <windows.h>
 
 #include <array>
+#include <exception>
 #include <filesystem>
 
 #include "standin/exported_functions.h"
 #include "tests/kit/scriptable_library/call_log.h"
 #include "tests/kit/scriptable_library/scriptable_library.h"
 
-namespace scriptable {
+namespace corvane::test {
 namespace {
 
 constexpr std::uint32_t kStatusUnexpected = 0xE070FFFF;
@@ -32,18 +33,19 @@ template <typename Call>
 std::uint32_t Serve(Call call) {
     try {
         return call(Library());
-    } catch (...) {
+    } catch (const std::exception& failure) {
+        CallLog(OwnFolder()).WriteFailure(failure.what());
         return kStatusUnexpected;
     }
 }
 
 }  // namespace
-}  // namespace scriptable
+}  // namespace corvane::test
 
 namespace {
 
-using scriptable::ScriptableLibrary;
-using scriptable::Serve;
+using corvane::test::ScriptableLibrary;
+using corvane::test::Serve;
 
 }  // namespace
 
@@ -90,7 +92,7 @@ std::uint32_t XSIG_GetErrorLineEx(corvane::provider::ProviderContext context,
 /// Being unloaded while the program goes on stands in the log as a call; ending with the program does not.
 BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD reason, void* isProgramEnding) {
     if (reason == DLL_PROCESS_DETACH && isProgramEnding == nullptr) {
-        scriptable::CallLog(scriptable::OwnFolder() / "tarn1_log.txt").Write("Unload -> 0 | unloaded");
+        corvane::test::CallLog(corvane::test::OwnFolder()).Write({.function = "Unload"});
     }
     return TRUE;
 }

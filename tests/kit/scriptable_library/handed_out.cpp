@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace scriptable {
+namespace corvane::test {
 namespace {
 
 // Shows up in whatever reads past the end of a text.
@@ -15,19 +15,19 @@ const char* PointerTo(const ScriptText& text) {
 
 }  // namespace
 
-corvane::provider::XsigBlob HandedOut::Text(const ScriptText& text) {
+provider::XsigBlob HandedOut::Text(const ScriptText& text) {
     if (!text) {
         return {};
     }
     const std::string bytes = *text + kNoTerminator;
     auto memory = std::make_unique<char[]>(bytes.size());
     std::copy(bytes.begin(), bytes.end(), memory.get());
-    const corvane::provider::XsigBlob blob{static_cast<std::uint32_t>(text->size()), memory.get()};
+    const provider::XsigBlob blob{static_cast<std::uint32_t>(text->size()), memory.get()};
     texts_[blob.data] = std::move(memory);
     return blob;
 }
 
-corvane::provider::CertFindResult HandedOut::Result(const std::vector<ScriptCertificate>& certificates) {
+provider::CertFindResult HandedOut::Result(const std::vector<ScriptCertificate>& certificates) {
     if (certificates.empty()) {
         return {};
     }
@@ -36,7 +36,7 @@ corvane::provider::CertFindResult HandedOut::Result(const std::vector<ScriptCert
     found->entries.resize(certificates.size());
     for (std::size_t i = 0; i < certificates.size(); ++i) {
         const ScriptCertificate& certificate = found->certificates[i];
-        corvane::provider::CertEntry& entry = found->entries[i];
+        provider::CertEntry& entry = found->entries[i];
         // Whatever has no name in the contract is the library's own, and anything but zero.
         std::memset(static_cast<void*>(&entry), 0xA5, sizeof entry);
         entry.owner = PointerTo(certificate.owner);
@@ -45,10 +45,10 @@ corvane::provider::CertFindResult HandedOut::Result(const std::vector<ScriptCert
         entry.serialLength = certificate.serial ? static_cast<std::uint32_t>(certificate.serial->size()) : 0;
         entry.serial = reinterpret_cast<const std::uint8_t*>(PointerTo(certificate.serial));
     }
-    const corvane::provider::CertFindResult result{static_cast<std::uint32_t>(certificates.size()),
-                                                   found->entries.data()};
+    const provider::CertFindResult result{static_cast<std::uint32_t>(certificates.size()),
+                                          found->entries.data()};
     results_[result.entries] = std::move(found);
     return result;
 }
 
-}  // namespace scriptable
+}  // namespace corvane::test

@@ -10,21 +10,21 @@
 #include "provider/provider_functions.h"
 #include "tests/kit/scriptable_library/library_script.h"
 
-namespace scriptable {
+namespace corvane::test {
 
 /// What the library has handed out and has not got back.
 class HandedOut {
   public:
     /// Hands out a text of exactly its length; what lies behind it is no terminator. None gives a null
     /// pointer.
-    corvane::provider::XsigBlob Text(const ScriptText& text);
+    provider::XsigBlob Text(const ScriptText& text);
     /// Takes a text back; false when this is none that is out.
     bool TakeText(const void* text) { return texts_.erase(static_cast<const char*>(text)) != 0; }
 
     /// Hands out the entries of a search; none of them gives a null array.
-    corvane::provider::CertFindResult Result(const std::vector<ScriptCertificate>& certificates);
+    provider::CertFindResult Result(const std::vector<ScriptCertificate>& certificates);
     /// Takes a result back; false when this is none that is out. One without entries needs no taking back.
-    bool TakeResult(const corvane::provider::CertFindResult& result) {
+    bool TakeResult(const provider::CertFindResult& result) {
         return result.entries == nullptr || results_.erase(result.entries) != 0;
     }
 
@@ -34,11 +34,11 @@ class HandedOut {
   private:
     struct FoundCertificates {
         std::vector<ScriptCertificate> certificates;
-        std::vector<corvane::provider::CertEntry> entries;
+        std::vector<provider::CertEntry> entries;
     };
 
     std::map<const char*, std::unique_ptr<char[]>> texts_;
-    std::map<const corvane::provider::CertEntry*, std::unique_ptr<FoundCertificates>> results_;
+    std::map<const provider::CertEntry*, std::unique_ptr<FoundCertificates>> results_;
 };
 
-}  // namespace scriptable
+}  // namespace corvane::test

@@ -21,16 +21,16 @@ HeldCall::HeldCall(LibraryScriptWriter& script, const std::string& function, uns
     }
 }
 
-std::wstring StoredText(const driver::Window& window) {
+std::wstring StoredText(const Window& window) {
     std::array<wchar_t, 1024> text{};
     InternalGetWindowText(window.Handle(), text.data(), static_cast<int>(text.size()));
     return text.data();
 }
 
-driver::Window WaitForWaitWindow(const driver::Program& program) {
-    driver::Window found;
-    static_cast<void>(driver::WaitUntil([&] {
-        for (const driver::Window& window : program.TopLevelWindows()) {
+Window WaitForWaitWindow(const Program& program) {
+    Window found;
+    static_cast<void>(WaitUntil([&] {
+        for (const Window& window : program.TopLevelWindows()) {
             if (window.HasControl(IDC_WAIT_TEXT)) {
                 found = window;
             }
@@ -38,7 +38,7 @@ driver::Window WaitForWaitWindow(const driver::Program& program) {
         return found.Handle() != nullptr || !program.IsRunning();
     }));
     if (found.Handle() == nullptr) {
-        throw driver::Failure(L"The wait window was expected, and did not come.");
+        throw Failure(L"The wait window was expected, and did not come.");
     }
     return found;
 }

@@ -30,13 +30,13 @@ class HeldCall {
     void Release() const { SetEvent(event_.get()); }
 
   private:
-    driver::UniqueHandle event_;
+    UniqueHandle event_;
 };
 
 /// The text of a window whose program is too busy to be asked.
-[[nodiscard]] std::wstring StoredText(const driver::Window& window);
+[[nodiscard]] std::wstring StoredText(const Window& window);
 
 /// Waits for the wait window of a program.
-[[nodiscard]] driver::Window WaitForWaitWindow(const driver::Program& program);
+[[nodiscard]] Window WaitForWaitWindow(const Program& program);
 
 }  // namespace corvane::test

@@ -2,10 +2,12 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <fstream>
+#include <stdexcept>
 #include <utility>
+
+#include "tests/kit/scriptable_library/strict_json.h"
 
 namespace corvane::test {
 namespace {
@@ -43,26 +45,35 @@ std::wstring Wide(const std::string& bytes) {
     return text;
 }
 
-void ReadField(const std::string& name, const std::string& value, HostSetup& setup) {
-    if (name == "dialog") {
-        setup.dialog =
-            static_cast<HostSetup::Dialog>(static_cast<int>(std::strtol(value.c_str(), nullptr, 10)));
-    } else if (name == "cs_profile") {
-        setup.csProfile.name = Wide(value);
-    } else if (name == "time_stamp_server") {
-        setup.csProfile.timeStampServer = Wide(value);
-    } else if (name == "recipient") {
-        setup.recipients.push_back(Wide(value));
-    } else if (name == "list") {
-        setup.lists.push_back({Wide(value), {}});
-    } else if (name == "signer" && !setup.lists.empty()) {
-        setup.lists.back().signers.push_back(Wide(value));
+constexpr std::array kDialogs = {"recipients", "signer_lists", "wait_window"};
+
+nlohmann::json Written(const store::TextList& texts) {
+    nlohmann::json list = nlohmann::json::array();
+    for (const std::wstring& text : texts) {
+        list.push_back(Utf8(text));
     }
-    for (const NamedFlag& flag : kFlags) {
-        if (name == flag.name) {
-            setup.csProfile.*flag.field = static_cast<int>(std::strtol(value.c_str(), nullptr, 10));
-        }
+    return list;
+}
+
+std::wstring TextOf(const nlohmann::json& value) {
+    return Wide(value.get<std::string>());
+}
+
+store::TextList TextsOf(const nlohmann::json& value) {
+    store::TextList texts;
+    for (const nlohmann::json& text : value) {
+        texts.push_back(TextOf(text));
     }
+    return texts;
+}
+
+HostSetup::Dialog DialogOf(const nlohmann::json& value) {
+    const auto name = value.get<std::string>();
+    const auto found = std::find(kDialogs.begin(), kDialogs.end(), name);
+    if (found == kDialogs.end()) {
+        throw std::invalid_argument("The host has no such dialog: " + name);
+    }
+    return static_cast<HostSetup::Dialog>(found - kDialogs.begin());
 }
 
 std::wstring FirstLine(int run, const wchar_t* outcome) {
@@ -72,30 +83,44 @@ std::wstring FirstLine(int run, const wchar_t* outcome) {
 }  // namespace
 
 void WriteHostSetup(const HostSetup& setup, const std::filesystem::path& file) {
-    std::ofstream stream(file, std::ios::binary);
-    stream << "dialog=" << static_cast<int>(setup.dialog) << "\ncs_profile=" << Utf8(setup.csProfile.name)
-           << "\ntime_stamp_server=" << Utf8(setup.csProfile.timeStampServer) << '\n';
+    nlohmann::json flags = nlohmann::json::object();
     for (const NamedFlag& flag : kFlags) {
-        stream << flag.name << '=' << setup.csProfile.*flag.field << '\n';
+        flags[flag.name] = setup.csProfile.*flag.field;
     }
-    for (const std::wstring& recipient : setup.recipients) {
-        stream << "recipient=" << Utf8(recipient) << '\n';
-    }
+    nlohmann::json lists = nlohmann::json::array();
     for (const store::SignerGroup& list : setup.lists) {
-        stream << "list=" << Utf8(list.name) << '\n';
-        for (const std::wstring& signer : list.signers) {
-            stream << "signer=" << Utf8(signer) << '\n';
-        }
+        lists.push_back({{"name", Utf8(list.name)}, {"signers", Written(list.signers)}});
     }
+    WriteJson({{"dialog", kDialogs.at(static_cast<std::size_t>(setup.dialog))},
+               {"cs_profile", Utf8(setup.csProfile.name)},
+               {"time_stamp_server", Utf8(setup.csProfile.timeStampServer)},
+               {"flags", std::move(flags)},
+               {"recipients", Written(setup.recipients)},
+               {"lists", std::move(lists)}},
+              file);
 }
 
 HostSetup ReadHostSetup(const std::filesystem::path& file) {
     HostSetup setup;
-    std::ifstream stream(file, std::ios::binary);
-    for (std::string line; std::getline(stream, line);) {
-        if (const std::size_t sign = line.find('='); sign != std::string::npos) {
-            ReadField(line.substr(0, sign), line.substr(sign + 1), setup);
-        }
+    if (!std::filesystem::exists(file)) {
+        return setup;
+    }
+    const nlohmann::json written = ReadJson(file);
+    RequireMembers(written, {"dialog", "cs_profile", "time_stamp_server", "flags", "recipients", "lists"});
+    setup.dialog = DialogOf(written.at("dialog"));
+    setup.csProfile.name = TextOf(written.at("cs_profile"));
+    setup.csProfile.timeStampServer = TextOf(written.at("time_stamp_server"));
+    const nlohmann::json& flags = written.at("flags");
+    for (const NamedFlag& flag : kFlags) {
+        setup.csProfile.*flag.field = flags.at(flag.name).get<std::int32_t>();
+    }
+    if (flags.size() != kFlags.size()) {
+        throw std::invalid_argument("A flag that is not known: " + flags.dump());
+    }
+    setup.recipients = TextsOf(written.at("recipients"));
+    for (const nlohmann::json& list : written.at("lists")) {
+        RequireMembers(list, {"name", "signers"});
+        setup.lists.push_back({TextOf(list.at("name")), TextsOf(list.at("signers"))});
     }
     return setup;
 }

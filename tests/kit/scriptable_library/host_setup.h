@@ -25,15 +25,16 @@ struct HostSetup {
     std::vector<store::SignerGroup> lists;
 };
 
-/// The file beside certificate_host.exe that a setup is written to and read from, in UTF-8, a line for each
-/// field that is set. No text in it holds a line break.
-inline constexpr wchar_t kHostSetupFile[] = L"host_setup.txt";
+/// The file beside certificate_host.exe that a setup is written to and read from, one JSON object. None is a
+/// setup as it stands above; reading throws std::exception for another member or value than those that are
+/// written.
+inline constexpr wchar_t kHostSetupFile[] = L"host_setup.json";
 void WriteHostSetup(const HostSetup& setup, const std::filesystem::path& file);
 [[nodiscard]] HostSetup ReadHostSetup(const std::filesystem::path& file);
 
 /// What the host shows in kHostResultEdit after the dialog has closed: a line "run <n>: ok" or "run <n>:
 /// cancelled" and, after OK, a line for each recipient, or for each list "list <name>" with its signers in
-/// the lines after it, each behind a tab. It is empty while the dialog runs.
+/// the lines after it, each after a tab. It is empty while the dialog runs.
 [[nodiscard]] std::wstring HostResult(int run, const store::TextList& recipients);
 [[nodiscard]] std::wstring HostResult(int run, const std::vector<store::SignerGroup>& lists);
 [[nodiscard]] std::wstring HostCancelled(int run);

@@ -9,7 +9,7 @@
 
 #include "tests/kit/scriptable_library/script_text.h"
 
-namespace scriptable {
+namespace corvane::test {
 
 /// A certificate that a search finds.
 struct ScriptCertificate {
@@ -31,36 +31,37 @@ struct ScriptError {
 /// for every call.
 using CallNumber = std::pair<std::string, unsigned>;
 
-/// What the library is to do. Each line of the script file is one of
-///
-///     status FUNCTION NUMBER STATUS                      the answer of a call, 0 unless told
-///     hold FUNCTION NUMBER EVENT                         the call waits until this event of the system is
-///     set pump FUNCTION NUMBER EVENT                         the same, and handles messages meanwhile
-///     errortext STATUS TEXT                              the description of a status
-///     error CONTEXT TEXT FILE LINE DATA                  one more entry of the error stack of the n-th
-///     context
-///                                                        that was opened; 0: of a failed opening
-///     control TEXT                                       what the control call writes into its buffer
-///     certificate SEARCH OWNER USAGE ISSUER SERIAL       found by this search
-///     nothing SEARCH                                     this search finds no entry at all
-///
-/// Numbers of calls are decimal, statuses, usages and serial numbers hexadecimal. SEARCH is the number of the
-/// call, "=PATTERN" for all with this pattern, or 0 for all others.
+/// The file beside the library that holds its script.
+inline constexpr wchar_t kLibraryScriptFile[] = L"tarn1_script.json";
+
+/// What the library is to do. The script file is one JSON object with a member for each of these, all of
+/// which are there; a member or an entry that is not known is an error.
 struct LibraryScript {
     struct Hold {
         std::string eventName;
         bool handlesMessages = false;
     };
 
+    /// The answer of a call, 0 unless it is here.
     std::map<CallNumber, std::uint32_t> statuses;
+    /// The call waits until this event of the system is set, and may handle messages meanwhile.
     std::map<CallNumber, Hold> holds;
+    /// The description of a status.
     std::map<std::uint32_t, std::string> errorTexts;
+    /// The error stack of the n-th context that was opened; 0: of a failed opening.
     std::map<unsigned, std::vector<ScriptError>> errorStacks;
+    /// What the control call writes into its buffer.
     std::string controlText;
+    /// What each search finds. A search is named by the number of its call, by "=PATTERN" for all with this
+    /// pattern, or "0" for all others.
     std::map<std::string, std::vector<ScriptCertificate>> searches;
 };
 
-/// Reads a script file; one that is missing is an empty script, a line that cannot be read is passed over.
+/// Writes a script file.
+void WriteLibraryScript(const LibraryScript& script, const std::filesystem::path& file);
+
+/// Reads a script file; one that is missing is an empty script. Throws std::exception for one that is no
+/// script to the last member.
 [[nodiscard]] LibraryScript ReadLibraryScript(const std::filesystem::path& file);
 
-}  // namespace scriptable
+}  // namespace corvane::test

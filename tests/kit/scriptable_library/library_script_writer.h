@@ -2,17 +2,16 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
-#include "tests/kit/scriptable_library/script_text.h"
+#include "tests/kit/scriptable_library/library_script.h"
 
 namespace corvane::test {
 
-/// Writes the script of the scriptable library, line by line; scriptable/library_script.h tells what each
-/// does. Texts are bytes in the code page of the test, none is a null pointer.
+/// Puts the script of the scriptable library together, entry by entry; library_script.h tells what each does.
+/// Texts are bytes in the code page of the test, none is a null pointer.
 class LibraryScriptWriter {
   public:
-    using Text = scriptable::ScriptText;
+    using Text = ScriptText;
 
     /// Stands for every call of a function, and for every search that nothing else is said of.
     static constexpr unsigned kEvery = 0;
@@ -39,14 +38,10 @@ class LibraryScriptWriter {
     void Nothing(unsigned number);
     void NothingFor(const std::string& pattern);
 
-    [[nodiscard]] const std::string& Lines() const { return lines_; }
+    [[nodiscard]] const LibraryScript& Script() const { return script_; }
 
   private:
-    void Line(const std::vector<std::string>& words);
-    void AddCertificate(const std::string& search, const Text& owner, std::uint8_t usage, const Text& issuer,
-                        const Text& serial);
-
-    std::string lines_;
+    LibraryScript script_;
 };
 
 }  // namespace corvane::test

@@ -4,11 +4,11 @@
 #include <cstdio>
 #include <cstring>
 
-namespace scriptable {
+namespace corvane::test {
 namespace {
 
 // More than 32 bits, so that a caller that keeps half of a handle is found out.
-constexpr corvane::provider::ProviderContext kContextBase = 0x7000000000000000;
+constexpr provider::ProviderContext kContextBase = 0x7000000000000000;
 // A test that forgets its event shall fail, not hang.
 constexpr DWORD kLongestHoldMilliseconds = 120000;
 
@@ -19,7 +19,7 @@ std::string Hex(std::uint32_t number) {
 }
 
 void WaitForEvent(const LibraryScript::Hold& hold) {
-    const corvane::toolkit::UniqueKernelHandle event(OpenEventA(SYNCHRONIZE, FALSE, hold.eventName.c_str()));
+    const toolkit::UniqueKernelHandle event(OpenEventA(SYNCHRONIZE, FALSE, hold.eventName.c_str()));
     if (!event) {
         return;
     }
@@ -41,20 +41,20 @@ ScriptText TextAt(const char* text) {
     return text == nullptr ? ScriptText() : ScriptText(text);
 }
 
-bool IsRestZero(const corvane::provider::CertQuery& query) {
-    corvane::provider::CertQuery rest = query;
+bool IsRestZero(const provider::CertQuery& query) {
+    provider::CertQuery rest = query;
     rest.searchFlags = 0;
     rest.matchMode = 0;
     rest.ownerPattern = nullptr;
     rest.fieldsWanted = 0;
-    static constexpr corvane::provider::CertQuery kZero{};
+    static constexpr provider::CertQuery kZero{};
     return std::memcmp(&rest, &kZero, sizeof rest) == 0;
 }
 
 }  // namespace
 
 ScriptableLibrary::ScriptableLibrary(const std::filesystem::path& folder)
-    : script_(ReadLibraryScript(folder / "tarn1_script.txt")), log_(folder / "tarn1_log.txt") {}
+    : script_(ReadLibraryScript(folder / kLibraryScriptFile)), log_(folder) {}
 
 // Counts the call, lets it wait where the script says so, and gives the status that it is to answer.
 std::uint32_t ScriptableLibrary::Enter(const std::string& function) {
@@ -72,53 +72,59 @@ std::uint32_t ScriptableLibrary::Enter(const std::string& function) {
     return 0;
 }
 
-std::uint32_t ScriptableLibrary::Leave(const std::string& call, std::uint32_t status) const {
-    log_.Write(call + " -> " + Hex(status) + " | contexts=" + std::to_string(open_.size()) +
-               " results=" + std::to_string(handedOut_.ResultCount()) +
-               " texts=" + std::to_string(handedOut_.TextCount()) + " wrong=" + std::to_string(wrongCount_));
+std::uint32_t ScriptableLibrary::Leave(const std::string& function, const std::string& arguments,
+                                       std::uint32_t status) const {
+    log_.Write({.function = function,
+                .arguments = arguments,
+                .status = status,
+                .out = {.contexts = open_.size(),
+                        .results = handedOut_.ResultCount(),
+                        .texts = handedOut_.TextCount(),
+                        .wrong = wrongCount_}});
     return status;
 }
 
-unsigned ScriptableLibrary::ContextNumber(corvane::provider::ProviderContext context) const {
+unsigned ScriptableLibrary::ContextNumber(provider::ProviderContext context) const {
     return context > kContextBase && context <= kContextBase + contextCount_
                ? static_cast<unsigned>(context - kContextBase)
                : 0;
 }
 
-std::string ScriptableLibrary::NameOpen(corvane::provider::ProviderContext context) {
+std::string ScriptableLibrary::NameOpen(provider::ProviderContext context) {
     if (!open_.contains(context)) {
         ++wrongCount_;
-        return " context=unknown";
+        return "context=unknown";
     }
-    return " context=" + std::to_string(ContextNumber(context));
+    return "context=" + std::to_string(ContextNumber(context));
 }
 
 std::uint32_t ScriptableLibrary::Initialize(const char* csProfileName, std::uint32_t flags,
-                                            corvane::provider::ProviderContext* context) {
+                                            provider::ProviderContext* context) {
     const std::uint32_t status = Enter("Initialize");
     if (status == 0) {
         *context = kContextBase + ++contextCount_;
         open_.insert(*context);
     }
-    return Leave("Initialize name=" + Quoted(TextAt(csProfileName)) + " flags=" + Hex(flags), status);
+    return Leave("Initialize", "name=" + Quoted(TextAt(csProfileName)) + " flags=" + Hex(flags), status);
 }
 
-std::uint32_t ScriptableLibrary::Uninitialize(corvane::provider::ProviderContext context) {
+std::uint32_t ScriptableLibrary::Uninitialize(provider::ProviderContext context) {
     const std::uint32_t status = Enter("Uninitialize");
     const std::string name = NameOpen(context);
     open_.erase(context);
-    return Leave("Uninitialize" + name, status);
+    return Leave("Uninitialize", name, status);
 }
 
-std::uint32_t ScriptableLibrary::Control(corvane::provider::ProviderContext context, std::uint32_t code,
-                                         corvane::provider::XsigBlob* buffer) {
+std::uint32_t ScriptableLibrary::Control(provider::ProviderContext context, std::uint32_t code,
+                                         provider::XsigBlob* buffer) {
     const std::uint32_t status = Enter("Ctrl");
     const bool isZero =
         std::all_of(buffer->data, buffer->data + buffer->length, [](char c) { return c == 0; });
-    const std::string call = "Ctrl" + NameOpen(context) + " code=" + Hex(code) +
-                             " capacity=" + std::to_string(buffer->length) + (isZero ? " zero" : " not zero");
+    const std::string arguments = NameOpen(context) + " code=" + Hex(code) +
+                                  " capacity=" + std::to_string(buffer->length) +
+                                  (isZero ? " zero" : " not zero");
     script_.controlText.copy(buffer->data, buffer->length);
-    return Leave(call, status);
+    return Leave("Ctrl", arguments, status);
 }
 
 const std::vector<ScriptCertificate>& ScriptableLibrary::Found(const ScriptText& pattern) const {
@@ -132,32 +138,32 @@ const std::vector<ScriptCertificate>& ScriptableLibrary::Found(const ScriptText&
     return kNothing;
 }
 
-std::uint32_t ScriptableLibrary::FindCert(corvane::provider::ProviderContext context,
-                                          const corvane::provider::CertQuery* query,
-                                          corvane::provider::CertFindResult* result) {
+std::uint32_t ScriptableLibrary::FindCert(provider::ProviderContext context, const provider::CertQuery* query,
+                                          provider::CertFindResult* result) {
     const std::uint32_t status = Enter("FindCert");
     const ScriptText pattern = TextAt(query->ownerPattern);
     // A failed search hands out what it has found so far.
     *result = handedOut_.Result(Found(pattern));
-    return Leave("FindCert" + NameOpen(context) + " flags=" + Hex(query->searchFlags) +
-                     " mode=" + Hex(query->matchMode) + " pattern=" + Quoted(pattern) + " fields=" +
-                     Hex(query->fieldsWanted) + (IsRestZero(*query) ? " rest=zero" : " rest=other"),
+    return Leave("FindCert",
+                 NameOpen(context) + " flags=" + Hex(query->searchFlags) + " mode=" + Hex(query->matchMode) +
+                     " pattern=" + Quoted(pattern) + " fields=" + Hex(query->fieldsWanted) +
+                     (IsRestZero(*query) ? " rest=zero" : " rest=other"),
                  status);
 }
 
-std::uint32_t ScriptableLibrary::FreeFindResult(corvane::provider::ProviderContext context,
-                                                corvane::provider::CertFindResult* result) {
+std::uint32_t ScriptableLibrary::FreeFindResult(provider::ProviderContext context,
+                                                provider::CertFindResult* result) {
     const std::uint32_t status = Enter("FreeFindResult");
-    const std::string call = "FreeFindResult" + NameOpen(context) + " count=" + std::to_string(result->count);
+    const std::string arguments = NameOpen(context) + " count=" + std::to_string(result->count);
     wrongCount_ += handedOut_.TakeResult(*result) ? 0U : 1U;
-    return Leave(call, status);
+    return Leave("FreeFindResult", arguments, status);
 }
 
-std::uint32_t ScriptableLibrary::FreeMem(corvane::provider::ProviderContext context, const void* memory) {
+std::uint32_t ScriptableLibrary::FreeMem(provider::ProviderContext context, const void* memory) {
     const std::uint32_t status = Enter("FreeMem");
-    const std::string call = context == 0 ? "FreeMem context=0" : "FreeMem" + NameOpen(context);
+    const std::string arguments = context == 0 ? "context=0" : NameOpen(context);
     wrongCount_ += handedOut_.TakeText(memory) ? 0U : 1U;
-    return Leave(call, status);
+    return Leave("FreeMem", arguments, status);
 }
 
 std::uint32_t ScriptableLibrary::GetErrorText(std::uint32_t status, char* buffer, std::uint32_t capacity) {
@@ -167,27 +173,26 @@ std::uint32_t ScriptableLibrary::GetErrorText(std::uint32_t status, char* buffer
         const std::size_t length = text->second.copy(buffer, capacity - 1);
         buffer[length] = '\0';
     }
-    return Leave("GetErrorText status=" + Hex(status) + " capacity=" + std::to_string(capacity),
+    return Leave("GetErrorText", "status=" + Hex(status) + " capacity=" + std::to_string(capacity),
                  isKnown ? 1 : 0);
 }
 
-std::uint32_t ScriptableLibrary::GetErrorLine(corvane::provider::ProviderContext context,
-                                              corvane::provider::XsigBlob* text,
-                                              corvane::provider::XsigBlob* file, std::uint32_t* line,
-                                              corvane::provider::XsigBlob* data) {
-    const std::string call = context == 0 ? " context=0" : NameOpen(context);
+std::uint32_t ScriptableLibrary::GetErrorLine(provider::ProviderContext context, provider::XsigBlob* text,
+                                              provider::XsigBlob* file, std::uint32_t* line,
+                                              provider::XsigBlob* data) {
+    const std::string arguments = context == 0 ? "context=0" : NameOpen(context);
     const unsigned number = ContextNumber(context);
     const std::vector<ScriptError>& stack = script_.errorStacks[number];
     std::size_t& popped = poppedErrors_[number];
     if (popped == stack.size()) {
-        return Leave("GetErrorLineEx" + call, 1);
+        return Leave("GetErrorLineEx", arguments, 1);
     }
     const ScriptError& error = stack[popped++];
     *text = handedOut_.Text(error.text);
     *file = handedOut_.Text(error.file);
     *line = error.line;
     *data = handedOut_.Text(error.data);
-    return Leave("GetErrorLineEx" + call, 0);
+    return Leave("GetErrorLineEx", arguments, 0);
 }
 
-}  // namespace scriptable
+}  // namespace corvane::test

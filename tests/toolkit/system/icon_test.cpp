@@ -1,8 +1,12 @@
 #include "toolkit/system/icon.h"
 
 #include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
 
 #include "tests/toolkit/test_dialog.h"
+#include "tests/toolkit/test_window.h"
 #include "toolkit/controls/button_icons.h"
 #include "toolkit/dialog/window_geometry.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -52,5 +53,10 @@ inline store::TextList RuleDescriptions(const store::ConfigurationState& state,
     }
     return descriptions;
 }
+
+/// A configuration of the usual kind and any size: profiles with one CS profile, rules of every operation
+/// with one mask and two recipients, every twentieth with a signer list.
+[[nodiscard]] store::ConfigurationState SampleConfiguration(std::size_t profileCount,
+                                                            std::size_t rulesPerProfile);
 
 }  // namespace corvane::test

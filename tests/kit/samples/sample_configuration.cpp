@@ -1,15 +1,14 @@
-#include "bench/sample_configuration.h"
+#include "tests/kit/samples/sample_configuration.h"
 
-#include <string>
+#include "tests/kit/samples/operation_witness.h"
 
-#include "store/records.h"
-
+namespace corvane::test {
 namespace {
 
-corvane::store::Rule SampleRule(std::size_t number, const corvane::store::TextList& codes) {
+store::Rule UsualRule(std::size_t number) {
     const std::wstring text = std::to_wstring(number);
-    corvane::store::Rule rule;
-    rule.operation = codes[number % codes.size()];
+    store::Rule rule;
+    rule.operation = kCodes.at(number % kCodes.size());
     rule.csProfile = L"Signature 2012";
     rule.inputFolder = L"C:\\Exchange\\Incoming\\Branch " + text;
     rule.outputFolder = L"C:\\Exchange\\Done\\Branch " + text;
@@ -24,8 +23,8 @@ corvane::store::Rule SampleRule(std::size_t number, const corvane::store::TextLi
     return rule;
 }
 
-corvane::store::Profile SampleProfile(std::size_t number, std::size_t ruleCount) {
-    corvane::store::Profile profile;
+store::Profile UsualProfile(std::size_t number, std::size_t ruleCount) {
+    store::Profile profile;
     profile.name = L"Profile " + std::to_wstring(number);
     profile.csProfiles = {L"Signature 2012"};
     profile.timeStampServers = {L"0"};
@@ -38,21 +37,21 @@ corvane::store::Profile SampleProfile(std::size_t number, std::size_t ruleCount)
     profile.autoUseTimeStamp = {0};
     profile.notLoadCrl = {0};
     profile.crlUpdatePeriods = {1};
-    const corvane::store::TextList codes = corvane::store::SplitEntries(corvane::store::OperationCode);
     for (std::size_t rule = 0; rule < ruleCount; ++rule) {
-        profile.rules.push_back(SampleRule(rule, codes));
+        profile.rules.push_back(UsualRule(rule));
     }
     return profile;
 }
 
 }  // namespace
 
-corvane::store::ConfigurationState SampleConfiguration(std::size_t profileCount,
-                                                       std::size_t rulesPerProfile) {
-    corvane::store::ConfigurationState state;
+store::ConfigurationState SampleConfiguration(std::size_t profileCount, std::size_t rulesPerProfile) {
+    store::ConfigurationState state;
     for (std::size_t number = 0; number < profileCount; ++number) {
-        state.profiles.push_back(SampleProfile(number, rulesPerProfile));
+        state.profiles.push_back(UsualProfile(number, rulesPerProfile));
         state.profileNames.push_back(state.profiles.back().name);
     }
     return state;
 }
+
+}  // namespace corvane::test
