@@ -16,8 +16,8 @@ ListWindow::ListWindow() {
 }
 
 HWND ListWindow::MakeList() const {
-    return CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0,
-                          880, 360, window_, nullptr, nullptr, nullptr);
+    return CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0, 880,
+                         360, window_, nullptr, nullptr, nullptr);
 }
 
 LRESULT CALLBACK ListWindow::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

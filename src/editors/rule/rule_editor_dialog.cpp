@@ -38,7 +38,7 @@ static_assert(kRowChoices.size() == kRowCount - 1 && kRowNumbers.size() == kRowC
 
 struct ButtonOfForm {
     int id;
-    FieldOf<RuleForm, IconButton> button;
+    store::FieldOf<RuleForm, IconButton> button;
 };
 
 constexpr ButtonOfForm kButtons[] = {
