@@ -124,6 +124,10 @@ constexpr std::array kColumns{
 };
 static_assert(kColumns[kNumberColumn].text == &NumberText);
 
+constexpr auto kSharingColumns = static_cast<int>(std::count_if(
+    kColumns.begin(), kColumns.end(), [](const RuleColumn& column) { return column.scrollBarWidths == 0; }));
+static_assert(kSharingColumns > 0);
+
 }  // namespace
 
 std::span<const RuleColumn> RuleColumns() {
@@ -159,18 +163,17 @@ std::wstring ExtraText(const store::Rule& rule) {
 
 std::vector<int> RuleColumnWidths(int listClientWidth, int scrollBarWidth, bool isFirstTime) {
     int shared = isFirstTime ? listClientWidth - scrollBarWidth : listClientWidth;
-    int sharing = 0;
     for (const RuleColumn& column : kColumns) {
         shared -= column.scrollBarWidths * scrollBarWidth;
-        sharing += column.scrollBarWidths == 0 ? 1 : 0;
     }
     // A list narrower than the number column has no room for the others; a negative width would not hide
     // them, but ask the list to fit them to their texts.
-    const int share = std::max(0, shared / sharing);
-    std::vector<int> widths;
-    for (const RuleColumn& column : kColumns) {
-        widths.push_back(column.scrollBarWidths == 0 ? share : column.scrollBarWidths * scrollBarWidth);
-    }
+    const int share = std::max(0, shared / kSharingColumns);
+    std::vector<int> widths(kColumns.size());
+    std::transform(kColumns.begin(), kColumns.end(), widths.begin(),
+                   [share, scrollBarWidth](const RuleColumn& column) {
+                       return column.scrollBarWidths == 0 ? share : column.scrollBarWidths * scrollBarWidth;
+                   });
     return widths;
 }
 
