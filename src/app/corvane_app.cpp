@@ -54,7 +54,7 @@ bool CCorvaneApp::InitInstance() {
     toolkit::ShellManager shell;
     toolkit::WindowsFileCalls files;
     store::WindowsRegistryCalls registry;
-    certificates::WarningBoxPresenter warnings;
+    certificates::WarningBoxPresenter warnings(reporter);
     const certificates::SystemClock clock;
     toolkit::WindowsInputGate input;
     certificates::SessionOpening opening;
@@ -67,19 +67,14 @@ bool CCorvaneApp::InitInstance() {
                                               .opening = opening};
     editors::AcceptedCsProfile acceptedCsProfile;
     editors::ShownCsProfile shownCsProfile;
-    const editors::EditorServices editors = {.messages = messages,
-                                             .files = files,
+    const editors::EditorServices editors = {.files = files,
                                              .shell = shell,
                                              .reporter = reporter,
                                              .certs = certs,
                                              .acceptedCsProfile = acceptedCsProfile,
                                              .shownCsProfile = shownCsProfile};
-    const Services services = {.messages = messages,
-                               .files = files,
-                               .shell = shell,
-                               .registry = registry,
-                               .reporter = reporter,
-                               .editors = editors};
+    const Services services = {
+        .files = files, .shell = shell, .registry = registry, .reporter = reporter, .editors = editors};
     CCorvaneDlg(services).RunModal();
     return true;
 }

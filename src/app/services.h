@@ -5,13 +5,11 @@
 #include "store/registry/registry_calls.h"
 #include "toolkit/files/file_calls.h"
 #include "toolkit/files/path_pickers.h"
-#include "toolkit/system/message_presenter.h"
 
 namespace corvane::app {
 
 /// What the windows of the program use of the system. The application owns it all and outlives them.
 struct Services {
-    toolkit::MessagePresenter& messages;
     toolkit::FileCalls& files;
     toolkit::ShellManager& shell;
     store::RegistryCalls& registry;

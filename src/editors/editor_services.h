@@ -6,13 +6,11 @@
 #include "reporting/error_reporter.h"
 #include "toolkit/files/file_calls.h"
 #include "toolkit/files/path_pickers.h"
-#include "toolkit/system/message_presenter.h"
 
 namespace corvane::editors {
 
 /// What the editors use of the system and of the program. The application owns it all and outlives them.
 struct EditorServices {
-    toolkit::MessagePresenter& messages;
     toolkit::FileCalls& files;
     toolkit::ShellManager& shell;
     reporting::ErrorReporter& reporter;

@@ -6,8 +6,8 @@
 
 namespace corvane::reporting {
 
-ErrBox::ErrBox(HWND owner, std::wstring text, HICON icon)
-    : toolkit::Dialog(IDD_ERROR_BOX, owner), text_(std::move(text)), icon_(icon) {}
+ErrBox::ErrBox(HWND owner, std::wstring text, HICON icon, ErrorReporter& reporter)
+    : ProductDialog(IDD_ERROR_BOX, owner, reporter), text_(std::move(text)), icon_(icon) {}
 
 bool ErrBox::OnInitDialog() {
     SetWindowTextW(Window(), L"Error");

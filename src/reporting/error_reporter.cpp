@@ -49,7 +49,12 @@ ErrorReporter::ErrorReporter(toolkit::MessagePresenter& messages, const SystemMe
     : messages_(messages), systemMessages_(systemMessages), provider_(provider), systemText_(systemText) {}
 
 int ErrorReporter::ShowMessage(toolkit::WindowHandle owner, const std::wstring& text, std::uint32_t style) {
-    return messages_.Show(messages_.IsLive(owner) ? owner : nullptr, text, AppTitle, style);
+    return ShowTitledMessage(owner, text, AppTitle, style);
+}
+
+int ErrorReporter::ShowTitledMessage(toolkit::WindowHandle owner, const std::wstring& text,
+                                     const std::wstring& title, std::uint32_t style) {
+    return messages_.Show(messages_.IsLive(owner) ? owner : nullptr, text, title, style);
 }
 
 int ErrorReporter::ShowMessage(toolkit::WindowHandle owner, const char* text, std::uint32_t style) {

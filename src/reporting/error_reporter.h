@@ -28,7 +28,10 @@ class ErrorReporter {
     /// Shows the system message box under AppTitle and returns the system's answer code. The owner is used
     /// only if it is a live window at the moment of the call.
     int ShowMessage(toolkit::WindowHandle owner, const std::wstring& text, std::uint32_t style);
-    /// The same for an 8-bit text in the system's code page.
+    /// The same under a title of its own.
+    int ShowTitledMessage(toolkit::WindowHandle owner, const std::wstring& text, const std::wstring& title,
+                          std::uint32_t style);
+    /// ShowMessage for an 8-bit text in the system's code page.
     int ShowMessage(toolkit::WindowHandle owner, const char* text, std::uint32_t style);
 
     /// Composes and, where bit 0 of `flags` is set, shows the report of a failed operation; returns `code`.

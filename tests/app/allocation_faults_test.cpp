@@ -474,7 +474,11 @@ TEST(AllocationFaults, ACsProfileThatCannotBeDeletedLeavesAWholeProfile) {
             const UncountedMemory uncounted;
             subject.presenter.AnswerNext(reporting::kAnswerYes);
         }
-        editors::DeleteCsProfile(subject.form, subject.shown, subject.reporter, nullptr);
+        if (!editors::CheckCsProfileDeletion(subject.form) &&
+            reporting::IsAgreedTo(editors::CsProfileDeletionQuestion(subject.form), subject.reporter,
+                                  nullptr)) {
+            editors::DeleteCsProfile(subject.form, subject.shown);
+        }
     });
 }
 
@@ -589,7 +593,10 @@ TEST(AllocationFaults, SignerListsThatCannotBeChangedAreAsTheyWere) {
             const UncountedMemory uncounted;
             subject.presenter.AnswerNext(reporting::kAnswerYes);
         }
-        static_cast<void>(subject.lists.Delete({1}, subject.reporter, nullptr));
+        const auto question = subject.lists.DeletionQuestion({1});
+        if (question && reporting::IsAgreedTo(*question, subject.reporter, nullptr)) {
+            subject.lists.Delete({1});
+        }
     });
 }
 
@@ -609,7 +616,7 @@ TEST(AllocationFaults, ExtensionsThatCannotBeAppliedAreAsTheyWereAndCanBeApplied
     FailEachAllocation<ConfigPageCase>(
         [](ConfigPageCase& subject) {
             subject.form.OnExtensionEdited();
-            subject.form.Apply(subject.listed, subject.reporter, nullptr);
+            static_cast<void>(subject.form.Apply(subject.listed));
         },
         [](ConfigPageCase& subject, bool isThrown) {
             EXPECT_TRUE(isThrown);

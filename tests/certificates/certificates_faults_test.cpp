@@ -83,8 +83,7 @@ class Session {
                 }
                 form.CheckAllFound(true);
                 static_cast<void>(form.AddChecked());
-                return form.Confirm(context, reports.reporter, nullptr) ==
-                       certificates::SelectionOutcome::kAccepted;
+                return reports.IsAccepted(form.Confirm(context, reports.reporter, nullptr), nullptr);
             });
         return chosen ? std::optional(chosen->owners) : std::nullopt;
     }

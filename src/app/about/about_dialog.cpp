@@ -5,8 +5,8 @@
 
 namespace corvane::app {
 
-CAboutDlg::CAboutDlg(HWND owner)
-    : toolkit::Dialog(IDD_ABOUT, owner),
+CAboutDlg::CAboutDlg(HWND owner, reporting::ErrorReporter& reporter)
+    : reporting::ProductDialog(IDD_ABOUT, owner, reporter),
       makerText_(kAboutMakerText),
       productText_(kAboutProductText),
       versionText_(AboutVersionText()) {}

@@ -2,14 +2,14 @@
 
 #include <string>
 
-#include "toolkit/dialog/dialog.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::app {
 
 /// The about box.
-class CAboutDlg final : public toolkit::Dialog {
+class CAboutDlg final : public reporting::ProductDialog {
   public:
-    explicit CAboutDlg(HWND owner);
+    CAboutDlg(HWND owner, reporting::ErrorReporter& reporter);
 
   protected:
     bool OnInitDialog() override;

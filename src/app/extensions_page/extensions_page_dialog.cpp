@@ -1,13 +1,11 @@
 #include "app/extensions_page/extensions_page_dialog.h"
 
 #include <algorithm>
-#include <exception>
 #include <iterator>
 #include <optional>
 #include <string>
 
 #include "editors/extension/extension_dialog.h"
-#include "reporting/message_styles.h"
 #include "reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/controls/choice_controls.h"
@@ -46,11 +44,12 @@ bool IsExtensionEdit(int controlId) {
 }  // namespace
 
 CConfigPage::CConfigPage(HWND owner, const store::AppSettings& settings, reporting::ErrorReporter& reporter)
-    : toolkit::Dialog(IDD_CONFIGURATIONS, owner), reporter_(reporter), form_(settings) {}
+    : reporting::ProductDialog(IDD_CONFIGURATIONS, owner, reporter), form_(settings) {}
 
 bool CConfigPage::OnInitDialog() {
     SetUpTexts();
-    SetUpButtons();
+    SetIconButton(IDC_CONFIG_ADD_BUTTON, kAddExtensionText, IDI_ADD_ITEM);
+    SetIconButton(IDC_CONFIG_DELETE_BUTTON, kDeleteExtensionText, IDI_DELETE_ITEM);
     toolkit::ListBox(Control(IDC_CONFIG_ADDITIONAL_LIST)).Fill(form_.settings.additionalExtensions);
     PutData();
     opened_ = SettingsAsShown();
@@ -66,24 +65,6 @@ void CConfigPage::SetUpTexts() {
     for (const ExtensionEdit& row : kExtensionEdits) {
         SetControlText(row.labelId, row.label);
     }
-}
-
-void CConfigPage::SetUpButtons() {
-    constexpr struct {
-        int id;
-        const wchar_t* text;
-        int icon;
-    } kButtons[] = {
-        {IDC_CONFIG_ADD_BUTTON, kAddExtensionText, IDI_ADD_ITEM},
-        {IDC_CONFIG_DELETE_BUTTON, kDeleteExtensionText, IDI_DELETE_ITEM},
-    };
-    toolTip_.Create(Window());
-    for (const auto& button : kButtons) {
-        SetControlText(button.id, button.text);
-        toolTip_.Add(Control(button.id), button.text);
-        buttonIcons_.Show(Window(), DotsPerInch(), button.id, button.icon);
-    }
-    toolTip_.Activate(true);
 }
 
 bool CConfigPage::OnCommand(int controlId, UINT notificationCode) {
@@ -106,11 +87,11 @@ bool CConfigPage::OnCommand(int controlId, UINT notificationCode) {
                 break;
         }
     }
-    return toolkit::Dialog::OnCommand(controlId, notificationCode);
+    return reporting::ProductDialog::OnCommand(controlId, notificationCode);
 }
 
 void CConfigPage::AddTypedExtension() {
-    editors::CAddExtDlg dialog(Window(), reporter_.Text());
+    editors::CAddExtDlg dialog(Window(), Reporter());
     if (dialog.RunModal() != IDOK) {
         return;
     }
@@ -123,35 +104,29 @@ void CConfigPage::AddTypedExtension() {
 void CConfigPage::DeleteSelectedExtension() {
     const toolkit::ListBox list(Control(IDC_CONFIG_ADDITIONAL_LIST));
     const int selected = list.Selected();
-    const std::optional<std::wstring> extension =
-        selected >= 0 ? std::optional(list.Entry(selected)) : std::nullopt;
-    if (form_.DeleteExtension(extension, reporter_, Window())) {
-        list.Delete(selected);
+    if (selected < 0) {
+        Show(ConfigPageForm::NothingToDelete());
+        return;
     }
-    if (!extension) {
-        FocusControl(IDC_CONFIG_ADDITIONAL_LIST);
+    if (IsAgreed(ConfigPageForm::DeletionQuestion(list.Entry(selected)))) {
+        form_.OnExtensionDeleted();
+        list.Delete(selected);
     }
 }
 
 void CConfigPage::Apply() {
     TakeData();
     PutData();
-    const std::optional<ExtensionField> missing =
-        form_.Apply(toolkit::ListBox(Control(IDC_CONFIG_ADDITIONAL_LIST)).Entries(), reporter_, Window());
-    if (!missing) {
-        return;
-    }
-    for (const ExtensionEdit& row : kExtensionEdits) {
-        if (row.field == *missing) {
-            // To where it can be mended.
-            FocusControl(row.editId);
-        }
+    if (const auto refusal = form_.Apply(toolkit::ListBox(Control(IDC_CONFIG_ADDITIONAL_LIST)).Entries())) {
+        Show(*refusal);
     }
 }
 
 void CConfigPage::OnOk() {
     TakeData();
-    if (form_.Confirm(reporter_, Window())) {
+    // Deliberate: after Yes the basic extensions are taken as they stand, while the changes made to the list
+    // since the last Apply are lost.
+    if (reporting::MayLeave(form_.IsModified(), Reporter(), Window())) {
         EndModal(IDOK);
     }
 }
@@ -168,27 +143,22 @@ const wchar_t* CConfigPage::UnsavedInputReason() {
 
 void CConfigPage::OnScaleChanged() {
     toolkit::ListBox(Control(IDC_CONFIG_ADDITIONAL_LIST)).FitScrollBar();
-    buttonIcons_.Rescale(Window(), DotsPerInch());
+    reporting::ProductDialog::OnScaleChanged();
 }
 
 bool CConfigPage::PreTranslateMessage(MSG& message) {
-    toolTip_.Relay(message);
     if (message.message == WM_KEYDOWN && message.wParam == VK_DELETE &&
         message.hwnd == Control(IDC_CONFIG_ADDITIONAL_LIST)) {
         DeleteSelectedExtension();
         return true;
     }
-    return toolkit::Dialog::PreTranslateMessage(message);
+    return reporting::ProductDialog::PreTranslateMessage(message);
 }
 
 void CConfigPage::ExchangeFields(toolkit::DataExchange& exchange) {
     for (const ExtensionEdit& row : kExtensionEdits) {
         exchange.Text(row.editId, form_.settings.*row.field);
     }
-}
-
-void CConfigPage::ReportException(const std::exception& exception) {
-    reporter_.ShowMessage(Window(), exception.what(), reporting::kErrorStyle);
 }
 
 std::optional<store::AppSettings> EditConfigurations(toolkit::WindowHandle owner,

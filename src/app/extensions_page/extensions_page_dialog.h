@@ -4,17 +4,15 @@
 
 #include "app/extensions_page/extensions_page_form.h"
 #include "app/services.h"
+#include "reporting/product_dialog.h"
 #include "store/records.h"
-#include "toolkit/controls/button_icons.h"
-#include "toolkit/controls/tool_tip.h"
-#include "toolkit/dialog/dialog.h"
 #include "toolkit/system/window_handle.h"
 
 namespace corvane::app {
 
 /// The file name extensions of the settings: the basic ones that the client gives to the files it produces,
 /// and a list of additional ones.
-class CConfigPage final : public toolkit::Dialog {
+class CConfigPage final : public reporting::ProductDialog {
   public:
     /// Shows the settings that are in force.
     CConfigPage(HWND owner, const store::AppSettings& settings, reporting::ErrorReporter& reporter);
@@ -30,21 +28,16 @@ class CConfigPage final : public toolkit::Dialog {
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
-    void ReportException(const std::exception& exception) override;
 
   private:
     void SetUpTexts();
-    void SetUpButtons();
     void AddTypedExtension();
     void DeleteSelectedExtension();
     void Apply();
     [[nodiscard]] store::AppSettings SettingsAsShown();
 
-    reporting::ErrorReporter& reporter_;
     ConfigPageForm form_;
     store::AppSettings opened_;
-    toolkit::ToolTip toolTip_;
-    toolkit::ButtonIcons buttonIcons_;
 };
 
 /// Lets the user edit the file name extensions of the settings. Returns the settings with the new

@@ -2,8 +2,7 @@
 
 #include <utility>
 
-#include "reporting/message_styles.h"
-#include "reporting/unsaved_changes.h"
+#include "res/ids.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::app {
@@ -12,18 +11,22 @@ namespace {
 
 struct WantedExtension {
     ExtensionField field;
+    int controlId;
     const wchar_t* refusal;
 };
 
 // Deliberate: the extensions of archives may be empty.
 constexpr WantedExtension kWantedExtensions[] = {
-    {&store::AppSettings::signedExtension, L"Please, choose extension for files with attached signature."},
-    {&store::AppSettings::detachedSignatureExtension,
+    {&store::AppSettings::signedExtension, IDC_CONFIG_SIGNED_EDIT,
+     L"Please, choose extension for files with attached signature."},
+    {&store::AppSettings::detachedSignatureExtension, IDC_CONFIG_DETACHED_EDIT,
      L"Please, choose extension for files with detached signature."},
-    {&store::AppSettings::encryptedExtension, L"Please, choose extension for encrypted files."},
-    {&store::AppSettings::base64Extension, L"Please, choose extension for b64 files."},
-    {&store::AppSettings::hashExtension, L"Please, choose extension for hash files."},
-    {&store::AppSettings::verificationExtension,
+    {&store::AppSettings::encryptedExtension, IDC_CONFIG_ENCRYPTED_EDIT,
+     L"Please, choose extension for encrypted files."},
+    {&store::AppSettings::base64Extension, IDC_CONFIG_BASE64_EDIT,
+     L"Please, choose extension for b64 files."},
+    {&store::AppSettings::hashExtension, IDC_CONFIG_HASH_EDIT, L"Please, choose extension for hash files."},
+    {&store::AppSettings::verificationExtension, IDC_CONFIG_VERIFICATION_EDIT,
      L"Please, choose extension for files with signature verification report."},
 };
 
@@ -36,30 +39,21 @@ bool ConfigPageForm::AddExtension(bool isListed) {
     return !isListed;
 }
 
-bool ConfigPageForm::DeleteExtension(const std::optional<std::wstring>& selected,
-                                     reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) {
-    if (!selected) {
-        reporter.ShowMessage(dialog, std::wstring(L"Select list item to delete."), reporting::kRefusalStyle);
-        return false;
-    }
-    if (reporter.ShowMessage(dialog, toolkit::FormatText(L"Delete additional extension '%s'?", {*selected}),
-                             reporting::kConfirmationStyle) != reporting::kAnswerYes) {
-        return false;
-    }
-    isModified_ = true;
-    return true;
+reporting::Refusal ConfigPageForm::NothingToDelete() {
+    return reporting::Refuse(L"Select list item to delete.", IDC_CONFIG_ADDITIONAL_LIST);
 }
 
-std::optional<ExtensionField> ConfigPageForm::Apply(const store::TextList& listed,
-                                                    reporting::ErrorReporter& reporter,
-                                                    toolkit::WindowHandle dialog) {
+reporting::Question ConfigPageForm::DeletionQuestion(const std::wstring& extension) {
+    return {toolkit::FormatText(L"Delete additional extension '%s'?", {extension})};
+}
+
+std::optional<reporting::Refusal> ConfigPageForm::Apply(const store::TextList& listed) {
     if (!isModified_) {
         return std::nullopt;
     }
     for (const WantedExtension& wanted : kWantedExtensions) {
         if ((settings.*wanted.field).empty()) {
-            reporter.ShowMessage(dialog, std::wstring(wanted.refusal), reporting::kRefusalStyle);
-            return wanted.field;
+            return reporting::Refuse(wanted.refusal, wanted.controlId);
         }
     }
     // Copied first, for a lack of memory may not leave some of the old ones among the new.
@@ -67,12 +61,6 @@ std::optional<ExtensionField> ConfigPageForm::Apply(const store::TextList& liste
     settings.additionalExtensions = std::move(applied);
     isModified_ = false;
     return std::nullopt;
-}
-
-bool ConfigPageForm::Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) const {
-    // Deliberate: after Yes the basic extensions are taken as they stand, while the changes made to the list
-    // since the last Apply are lost.
-    return reporting::MayLeave(isModified_, reporter, dialog);
 }
 
 }  // namespace corvane::app

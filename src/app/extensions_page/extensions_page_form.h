@@ -3,9 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
-#include "toolkit/system/window_handle.h"
 
 namespace corvane::app {
 
@@ -39,19 +38,16 @@ class ConfigPageForm {
     /// already is dropped without a message.
     [[nodiscard]] bool AddExtension(bool isListed);
 
-    /// The user wants to delete the selected additional extension, if there is one. Returns whether it is to
-    /// be removed; question and refusal are owned by `dialog`.
-    [[nodiscard]] bool DeleteExtension(const std::optional<std::wstring>& selected,
-                                       reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+    /// What is said when the user wants to delete an additional extension and none is selected.
+    [[nodiscard]] static reporting::Refusal NothingToDelete();
+    /// What is asked before the selected additional extension is deleted.
+    [[nodiscard]] static reporting::Question DeletionQuestion(const std::wstring& extension);
+    /// The user deleted an additional extension.
+    void OnExtensionDeleted() { isModified_ = true; }
 
-    /// The user pressed Apply; `listed` are the entries of the list box, in its order. Returns the basic
-    /// extension that is missing, which was told, owned by `dialog`; none where nothing is to be mended.
-    std::optional<ExtensionField> Apply(const store::TextList& listed, reporting::ErrorReporter& reporter,
-                                        toolkit::WindowHandle dialog);
-
-    /// The user pressed OK. Returns whether the dialog may end. Nothing is checked here; but changes that
-    /// were not applied want the user's consent.
-    [[nodiscard]] bool Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) const;
+    /// The user pressed Apply; `listed` are the entries of the list box, in its order. Returns what is
+    /// refused, or none where nothing is to be mended.
+    [[nodiscard]] std::optional<reporting::Refusal> Apply(const store::TextList& listed);
 
   private:
     bool isModified_ = false;

@@ -10,7 +10,7 @@ namespace corvane::app {
 
 CConflictDlg::CConflictDlg(HWND owner, const std::wstring& logPath, std::int32_t logFileSize,
                            const Services& services)
-    : toolkit::Dialog(IDD_LOG_SETTINGS, owner),
+    : reporting::ProductDialog(IDD_LOG_SETTINGS, owner, services.reporter),
       services_(services),
       form_(logPath, logFileSize),
       opened_(form_),
@@ -34,7 +34,7 @@ bool CConflictDlg::OnCommand(int controlId, UINT notificationCode) {
         OnSizeChanged();
         return true;
     }
-    return toolkit::Dialog::OnCommand(controlId, notificationCode);
+    return reporting::ProductDialog::OnCommand(controlId, notificationCode);
 }
 
 void CConflictDlg::ChooseFolder() {
@@ -44,31 +44,28 @@ void CConflictDlg::ChooseFolder() {
         return;
     }
     TakeData();
-    form_.ChooseFolder(*folder, services_.files, services_.reporter, Window());
+    if (const auto report = form_.ChooseFolder(*folder, services_.files)) {
+        Show(*report);
+    }
     PutData();
 }
 
 void CConflictDlg::OnSizeChanged() {
     TakeData();
-    const HWND edit = Control(IDC_LOG_SIZE_EDIT);
-    const std::optional<std::wstring> correction = form_.OnSizeTextChanged(toolkit::WindowText(edit));
-    if (!correction) {
-        return;
+    const std::optional<std::wstring> correction =
+        form_.OnSizeTextChanged(toolkit::WindowText(Control(IDC_LOG_SIZE_EDIT)));
+    if (correction) {
+        CorrectTypedText(IDC_LOG_SIZE_EDIT, *correction);
     }
-    PutData();
-    // The caret goes behind the corrected number, where typing goes on.
-    const std::size_t end = correction->size();
-    SendMessageW(edit, EM_SETSEL, end, static_cast<LPARAM>(end));
 }
 
 void CConflictDlg::OnOk() {
     TakeData();
-    const std::optional<LogSettingsField> refused =
-        form_.Confirm(services_.files, services_.reporter, services_.messages, Window());
-    if (refused) {
-        FocusControl(*refused == LogSettingsField::kPath ? IDC_LOG_FOLDER_EDIT : IDC_LOG_SIZE_EDIT);
+    if (const auto refusal = form_.Check(services_.files)) {
+        Show(*refusal);
         return;
     }
+    form_.Commit();
     PutData();
     EndModal(IDOK);
 }

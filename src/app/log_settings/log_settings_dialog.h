@@ -5,12 +5,12 @@
 
 #include "app/log_settings/log_settings_form.h"
 #include "app/services.h"
-#include "toolkit/dialog/dialog.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::app {
 
 /// The log settings: the folder of the client's log and the largest size of its files, in KB.
-class CConflictDlg final : public toolkit::Dialog {
+class CConflictDlg final : public reporting::ProductDialog {
   public:
     /// Shows the settings that are in force.
     CConflictDlg(HWND owner, const std::wstring& logPath, std::int32_t logFileSize, const Services& services);

@@ -3,7 +3,7 @@
 #include <limits>
 #include <utility>
 
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "store/records.h"
 #include "store/system_codes.h"
 #include "toolkit/text/format_text.h"
@@ -12,23 +12,16 @@ namespace corvane::app {
 
 namespace {
 
-void ReportBadPath(std::uint32_t code, const std::wstring& path, reporting::ErrorReporter& reporter,
-                   toolkit::WindowHandle dialog) {
-    std::wstring detail = L"Bad Log path.";
-    reporter.ReportError(dialog, 0, reporting::kShowReport, code, "Opening file %s", &detail,
-                         reporter.Text().Narrow(path).c_str());
+reporting::Refusal BadPath(const std::wstring& path, std::uint32_t code, int controlId) {
+    return {.wording = reporting::RefusedPath{.path = path, .code = code, .detail = L"Bad Log path."},
+            .controlId = controlId};
 }
 
-/// Tells whether a folder may be used as far as the file system is concerned; if not, that was reported.
-bool IsFolderThere(const std::wstring& path, toolkit::FileCalls& files, reporting::ErrorReporter& reporter,
-                   toolkit::WindowHandle dialog) {
+/// The system's code for a folder that may not be used as far as the file system is concerned, else 0.
+std::uint32_t CheckFolder(const std::wstring& path, toolkit::FileCalls& files) {
     const std::uint32_t code = files.CheckExists(path);
     // Deliberate: "file exists" as the reason why a path does not exist lets it pass.
-    if (code == 0 || code == store::kCodeFileExists) {
-        return true;
-    }
-    ReportBadPath(code, path, reporter, dialog);
-    return false;
+    return code == store::kCodeFileExists ? 0 : code;
 }
 
 }  // namespace
@@ -49,30 +42,27 @@ std::optional<std::wstring> LogSettingsForm::OnSizeTextChanged(const std::wstrin
     return logFileSize == kLargest && text != largest ? std::optional(largest) : std::nullopt;
 }
 
-void LogSettingsForm::ChooseFolder(const std::wstring& folder, toolkit::FileCalls& files,
-                                   reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) {
-    // Whether it is there only decides about the report; the choice is the user's.
-    static_cast<void>(IsFolderThere(folder, files, reporter, dialog));
+std::optional<reporting::Refusal> LogSettingsForm::ChooseFolder(const std::wstring& folder,
+                                                                toolkit::FileCalls& files) {
     editedPath = folder;
+    const std::uint32_t code = CheckFolder(folder, files);
+    return code == 0 ? std::nullopt : std::optional(BadPath(folder, code, 0));
 }
 
-std::optional<LogSettingsField> LogSettingsForm::Confirm(toolkit::FileCalls& files,
-                                                         reporting::ErrorReporter& reporter,
-                                                         toolkit::MessagePresenter& messages,
-                                                         toolkit::WindowHandle dialog) {
-    if (!IsFolderThere(editedPath, files, reporter, dialog)) {
-        return LogSettingsField::kPath;
+std::optional<reporting::Refusal> LogSettingsForm::Check(toolkit::FileCalls& files) const {
+    const std::uint32_t code = CheckFolder(editedPath, files);
+    if (code != 0) {
+        return BadPath(editedPath, code, IDC_LOG_FOLDER_EDIT);
     }
     if (logFileSize < store::kSmallestLogFileSize) {
-        messages.Show(dialog, L"Log files size must be bigger than 400 KB.",
-                      L"QENT automized client Velmaris", reporting::kRefusalStyle);
-        return LogSettingsField::kSize;
+        return reporting::Refusal{
+            .wording = reporting::RefusalText{.text = L"Log files size must be bigger than 400 KB.",
+                                              .title = L"QENT automized client Velmaris"},
+            .controlId = IDC_LOG_SIZE_EDIT};
     }
     if (!store::IsDriveOrNetworkPath(editedPath)) {
-        ReportBadPath(store::kCodePathNotFound, editedPath, reporter, dialog);
-        return LogSettingsField::kPath;
+        return BadPath(editedPath, store::kCodePathNotFound, IDC_LOG_FOLDER_EDIT);
     }
-    logPath_ = editedPath;
     return std::nullopt;
 }
 

@@ -4,10 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "toolkit/files/file_calls.h"
-#include "toolkit/system/message_presenter.h"
-#include "toolkit/system/window_handle.h"
 
 namespace corvane::app {
 
@@ -16,9 +14,6 @@ inline constexpr wchar_t kLogSettingsTitle[] = L"Log path";
 inline constexpr wchar_t kLogFolderButtonText[] = L"Log path";
 inline constexpr wchar_t kLogSettingsExitText[] = L"Exit";
 inline constexpr wchar_t kLogSizeLabelText[] = L"Log files size (KB.):";
-
-/// The fields that OK may refuse.
-enum class LogSettingsField { kPath, kSize };
 
 /// What the log settings dialog edits and decides: the folder of the client's log and the largest size of
 /// its files. The dialog copies the two edited members from and to its controls and asks the form what to
@@ -33,18 +28,18 @@ class LogSettingsForm {
     /// cannot stand even while it is being typed; a number that does not fit becomes the largest that does.
     [[nodiscard]] std::optional<std::wstring> OnSizeTextChanged(const std::wstring& text);
 
-    /// The user chose a folder. One that does not exist is reported, and taken all the same.
-    void ChooseFolder(const std::wstring& folder, toolkit::FileCalls& files,
-                      reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+    /// The user chose a folder, which becomes the edited one. What is to be reported of one that does not
+    /// exist, which is taken all the same; else none.
+    [[nodiscard]] std::optional<reporting::Refusal> ChooseFolder(const std::wstring& folder,
+                                                                 toolkit::FileCalls& files);
 
-    /// The user pressed OK. Returns the field to mend, or none where the dialog may end; a refusal has been
-    /// shown, owned by `dialog`, and left everything as it was.
-    [[nodiscard]] std::optional<LogSettingsField> Confirm(toolkit::FileCalls& files,
-                                                          reporting::ErrorReporter& reporter,
-                                                          toolkit::MessagePresenter& messages,
-                                                          toolkit::WindowHandle dialog);
+    /// What OK refuses; none where the edited settings may be taken.
+    [[nodiscard]] std::optional<reporting::Refusal> Check(toolkit::FileCalls& files) const;
 
-    /// The log path: the one handed in until OK has been confirmed, then the edited one.
+    /// Takes the edited path as the log path.
+    void Commit() { logPath_ = editedPath; }
+
+    /// The log path: the one handed in until the edited one is taken.
     [[nodiscard]] const std::wstring& LogPath() const { return logPath_; }
 
     /// The fields hold the same.

@@ -1,6 +1,5 @@
 #include "app/main_window/main_window_dialog.h"
 
-#include <exception>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -34,7 +33,7 @@ bool HasWrappedCaption(UINT_PTR controlId) {
 }  // namespace
 
 CCorvaneDlg::CCorvaneDlg(const Services& services)
-    : toolkit::Dialog(IDD_MAIN_WINDOW, nullptr),
+    : reporting::ProductDialog(IDD_MAIN_WINDOW, nullptr, services.reporter),
       services_(services),
       registry_(services.registry, services.reporter),
       ruleList_(state_) {}
@@ -42,7 +41,9 @@ CCorvaneDlg::CCorvaneDlg(const Services& services)
 bool CCorvaneDlg::OnInitDialog() {
     RememberLayout();
     SetUpMenu();
-    SetUpToolTips();
+    for (const IdText& tip : kToolTips) {
+        SetToolTip(tip.id, tip.text);
+    }
     SetWindowTextW(Window(), reporting::AppTitle);
     const HMENU systemMenu = GetSystemMenu(Window(), FALSE);
     if (systemMenu != nullptr) {
@@ -50,7 +51,10 @@ bool CCorvaneDlg::OnInitDialog() {
         AppendMenuW(systemMenu, MF_STRING, static_cast<UINT_PTR>(kAboutItem.id), kAboutItem.text);
     }
     SetUpCaptions();
-    SetUpIcons();
+    SetWindowIcon(IDI_MAIN_WINDOW);
+    for (const ButtonIcon& button : kButtonIcons) {
+        SetButtonIcon(button.buttonId, button.iconId);
+    }
 
     state_.isDirty = false;
     SetUpLists();
@@ -87,14 +91,6 @@ void CCorvaneDlg::SetUpMenu() const {
     }
 }
 
-void CCorvaneDlg::SetUpToolTips() {
-    toolTip_.Create(Window());
-    for (const IdText& tip : kToolTips) {
-        toolTip_.Add(Control(tip.id), tip.text);
-    }
-    toolTip_.Activate(true);
-}
-
 void CCorvaneDlg::SetUpCaptions() {
     for (const IdText& caption : kInitialCaptions) {
         // The template has most of them already, and each one that is set is laid out anew.
@@ -103,13 +99,6 @@ void CCorvaneDlg::SetUpCaptions() {
         }
     }
     TakeData();
-}
-
-void CCorvaneDlg::SetUpIcons() {
-    toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
-    for (const ButtonIcon& button : kButtonIcons) {
-        buttonIcons_.Show(Window(), DotsPerInch(), button.buttonId, button.iconId);
-    }
 }
 
 void CCorvaneDlg::SetUpLists() {
@@ -134,7 +123,7 @@ void CCorvaneDlg::RememberLayout() {
                            .growX = share(control.growX),
                            .growY = share(control.growY)});
     }
-    layout_.Remember(Window(), anchors);
+    LetControlsFollow(anchors);
 }
 
 void CCorvaneDlg::RestorePlacement() const {
@@ -301,19 +290,7 @@ void CCorvaneDlg::EditExtensions() {
 }
 
 void CCorvaneDlg::ShowAbout() {
-    CAboutDlg(Window()).RunModal();
-}
-
-void CCorvaneDlg::OnSize(WPARAM kind, int width, int height) {
-    if (kind != SIZE_RESTORED) {
-        return;
-    }
-    if (Control(kSaveAndExitButton) == nullptr) {
-        return;
-    }
-    layout_.Arrange(width, height);
-    LayOutColumns();
-    InvalidateRect(Window(), nullptr, TRUE);
+    CAboutDlg(Window(), services_.reporter).RunModal();
 }
 
 void CCorvaneDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
@@ -350,13 +327,13 @@ bool CCorvaneDlg::OnPaint() {
     const Size iconSize = {.width = toolkit::SystemMetric(SM_CXICON, DotsPerInch()),
                            .height = toolkit::SystemMetric(SM_CYICON, DotsPerInch())};
     const Point position = MinimisedIconPosition({.width = client.right, .height = client.bottom}, iconSize);
-    DrawIcon(context, position.x, position.y, largeIcon_.get());
+    DrawIcon(context, position.x, position.y, LargeIcon());
     EndPaint(Window(), &paint);
     return true;
 }
 
 HICON CCorvaneDlg::OnQueryDragIcon() {
-    return largeIcon_.get();
+    return LargeIcon();
 }
 
 const wchar_t* CCorvaneDlg::UnsavedInputReason() {
@@ -365,25 +342,14 @@ const wchar_t* CCorvaneDlg::UnsavedInputReason() {
 }
 
 void CCorvaneDlg::OnScaleChanged() {
-    layout_.Rescale(TemplateClientSize());
-    SetUpIcons();
     ruleList_.MakeCheckBoxesAgain();
-    LayOutColumns();
-}
-
-bool CCorvaneDlg::PreTranslateMessage(MSG& message) {
-    toolTip_.Relay(message);
-    return toolkit::Dialog::PreTranslateMessage(message);
+    reporting::ProductDialog::OnScaleChanged();
 }
 
 void CCorvaneDlg::ExchangeFields(toolkit::DataExchange& exchange) {
     exchange.Text(IDC_PROFILE_CAPTION_EDIT, profileCaption_);
     exchange.Text(IDC_RULE_LIST_CAPTION_EDIT, ruleListCaption_);
     exchange.Text(IDC_SEARCH_EDIT, searchText_);
-}
-
-void CCorvaneDlg::ReportException(const std::exception& exception) {
-    services_.reporter.ShowMessage(Window(), exception.what(), reporting::kErrorStyle);
 }
 
 void CCorvaneDlg::LayOutColumns() {

@@ -7,20 +7,16 @@
 #include "app/main_window/main_window_layout.h"
 #include "app/rule_list/rule_list_view.h"
 #include "app/services.h"
+#include "reporting/product_dialog.h"
 #include "store/records.h"
 #include "store/registry/registry_access.h"
-#include "toolkit/controls/button_icons.h"
 #include "toolkit/controls/list_view.h"
-#include "toolkit/controls/tool_tip.h"
-#include "toolkit/dialog/anchored_layout.h"
-#include "toolkit/dialog/dialog.h"
-#include "toolkit/system/icon.h"
 
 namespace corvane::app {
 
 /// The program's only top-level window. It owns the configuration from its loading at the start to its own
 /// end, shows it in two lists, and passes every command on to the code that decides.
-class CCorvaneDlg final : public toolkit::Dialog {
+class CCorvaneDlg final : public reporting::ProductDialog {
   public:
     explicit CCorvaneDlg(const Services& services);
 
@@ -30,23 +26,19 @@ class CCorvaneDlg final : public toolkit::Dialog {
     bool OnNotify(NMHDR& header, LRESULT& result) override;
     void OnOk() override;
     void OnCancel() override;
-    void OnSize(WPARAM kind, int width, int height) override;
+    void OnArranged() override { LayOutColumns(); }
     void OnMinimumMaximumInfo(MINMAXINFO& info) override;
     bool OnSystemCommand(WPARAM command) override;
     bool OnPaint() override;
     HICON OnQueryDragIcon() override;
     const wchar_t* UnsavedInputReason() override;
     void OnScaleChanged() override;
-    bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
-    void ReportException(const std::exception& exception) override;
 
   private:
     // Initialisation.
     void SetUpMenu() const;
-    void SetUpToolTips();
     void SetUpCaptions();
-    void SetUpIcons();
     void SetUpLists();
     void RememberLayout();
     [[nodiscard]] bool Load();
@@ -95,11 +87,6 @@ class CCorvaneDlg final : public toolkit::Dialog {
     store::RegistryAccess registry_;
     RuleListView ruleList_;
     toolkit::ListView profileList_;
-    toolkit::ToolTip toolTip_;
-    toolkit::AnchoredLayout layout_;
-    toolkit::UniqueIcon largeIcon_;
-    toolkit::UniqueIcon smallIcon_;
-    toolkit::ButtonIcons buttonIcons_;
 
     // The fields of the controls.
     std::wstring profileCaption_;

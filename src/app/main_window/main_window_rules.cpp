@@ -136,7 +136,7 @@ void CCorvaneDlg::DescribeCell(const NMITEMACTIVATE& click) {
         }
         const store::Rule& rule = current->rules[*position];
         if (column.detail == CellDetail::kDescription) {
-            reporting::WarningBox box(Window(), false);
+            reporting::WarningBox box(Window(), false, services_.reporter);
             box.isInfoMode = true;
             box.text = DescribeRule(rule);
             box.title = column.title;
@@ -145,7 +145,7 @@ void CCorvaneDlg::DescribeCell(const NMITEMACTIVATE& click) {
         }
         text = DescribeMasks(rule);
     }
-    services_.messages.Show(Window(), text, column.title, reporting::kInformationStyle);
+    Show(reporting::Information{.text = std::move(text), .title = column.title});
 }
 
 void CCorvaneDlg::CopyCheckBoxes() {

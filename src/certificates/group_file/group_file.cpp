@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "store/whole_file.h"
 #include "toolkit/text/format_text.h"
 
@@ -68,14 +68,12 @@ GroupFileOffer OfferToSaveGroup(const RecipientSelectionForm& form) {
             GroupFileFilter()};
 }
 
-bool MaySaveGroup(const RecipientSelectionForm& form, reporting::ErrorReporter& reporter,
-                  toolkit::WindowHandle dialog) {
+std::optional<reporting::Refusal> CheckGroupToSave(const RecipientSelectionForm& form) {
     if (!form.CheckedFoundOwners().empty()) {
-        return true;
+        return std::nullopt;
     }
-    reporter.ShowMessage(dialog, form.IsForSigners() ? L"No signers selected." : L"No users selected.",
-                         reporting::kRefusalStyle);
-    return false;
+    return reporting::Refuse(form.IsForSigners() ? L"No signers selected." : L"No users selected.",
+                             IDC_SELECTION_FOUND_LIST);
 }
 
 bool LoadGroupFile(RecipientSelectionForm& form, const std::wstring& path, toolkit::FileCalls& files,

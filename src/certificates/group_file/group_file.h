@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "certificates/selection/selection_form.h"
 #include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
 #include "toolkit/files/file_calls.h"
 #include "toolkit/system/window_handle.h"
@@ -37,9 +39,8 @@ struct GroupFileOffer {
 /// The offer for saving one.
 [[nodiscard]] GroupFileOffer OfferToSaveGroup(const RecipientSelectionForm& form);
 
-/// Whether there is something to save; otherwise says that nobody is checked, in a message owned by `dialog`.
-[[nodiscard]] bool MaySaveGroup(const RecipientSelectionForm& form, reporting::ErrorReporter& reporter,
-                                toolkit::WindowHandle dialog);
+/// Why there is nothing to save: nobody is checked. Else none.
+[[nodiscard]] std::optional<reporting::Refusal> CheckGroupToSave(const RecipientSelectionForm& form);
 
 /// Remembers the path that the user chose and adds the file's owners to the upper list. False after a
 /// failure, which has been reported and left the lists as they were.

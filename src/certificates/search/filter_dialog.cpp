@@ -6,7 +6,7 @@
 namespace corvane::certificates {
 
 CFilterDlg::CFilterDlg(HWND owner, reporting::ErrorReporter& reporter)
-    : toolkit::Dialog(IDD_FILTER, owner), reporter_(reporter) {}
+    : reporting::ProductDialog(IDD_FILTER, owner, reporter) {}
 
 bool CFilterDlg::OnInitDialog() {
     SetWindowTextW(Window(), kFilterTitle);
@@ -23,7 +23,7 @@ bool CFilterDlg::OnCommand(int controlId, UINT notificationCode) {
         EnableOk();
         return true;
     }
-    return toolkit::Dialog::OnCommand(controlId, notificationCode);
+    return reporting::ProductDialog::OnCommand(controlId, notificationCode);
 }
 
 void CFilterDlg::EnableOk() {
@@ -37,13 +37,13 @@ void CFilterDlg::OnOk() {
     if (!FilterForm::IsOkEnabled(form_.sample)) {
         return;
     }
-    if (form_.Confirm(reporter_, Window())) {
-        EndModal(IDOK);
+    if (const auto refusal = form_.Check()) {
+        Show(*refusal);
+        toolkit::ComboBox(Control(IDC_FILTER_FIELD_COMBO)).DropDown();
         return;
     }
-    const toolkit::ComboBox fields(Control(IDC_FILTER_FIELD_COMBO));
-    fields.Focus();
-    fields.DropDown();
+    form_.Commit();
+    EndModal(IDOK);
 }
 
 void CFilterDlg::ExchangeFields(toolkit::DataExchange& exchange) {

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "certificates/search/filter_form.h"
-#include "reporting/error_reporter.h"
-#include "toolkit/dialog/dialog.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::certificates {
 
 /// The search filter: which attribute of an owner is looked for, and the sample for it.
-class CFilterDlg final : public toolkit::Dialog {
+class CFilterDlg final : public reporting::ProductDialog {
   public:
     CFilterDlg(HWND owner, reporting::ErrorReporter& reporter);
 
@@ -23,7 +22,6 @@ class CFilterDlg final : public toolkit::Dialog {
   private:
     void EnableOk();
 
-    reporting::ErrorReporter& reporter_;
     FilterForm form_;
 };
 

@@ -1,7 +1,7 @@
 #include "certificates/search/filter_form.h"
 
 #include "certificates/search/owner_texts.h"
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 
 namespace corvane::certificates {
 
@@ -15,13 +15,14 @@ bool FilterForm::IsOkEnabled(std::wstring_view sampleText) {
     return sampleText == L"*" || sampleText.find_first_not_of(L" \t*") != std::wstring_view::npos;
 }
 
-bool FilterForm::Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) {
-    if (fieldIndex < 0) {
-        reporter.ShowMessage(dialog, L"Select field for filter", reporting::kRefusalStyle);
-        return false;
-    }
+std::optional<reporting::Refusal> FilterForm::Check() const {
+    return fieldIndex < 0
+               ? std::optional(reporting::Refuse(L"Select field for filter", IDC_FILTER_FIELD_COMBO))
+               : std::nullopt;
+}
+
+void FilterForm::Commit() {
     sample = TrimBlanks(sample);
-    return true;
 }
 
 std::wstring FilterForm::Pattern(const toolkit::SystemText& systemText) const {

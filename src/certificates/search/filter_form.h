@@ -1,11 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
-#include "toolkit/system/window_handle.h"
+#include "toolkit/text/system_text.h"
 
 namespace corvane::certificates {
 
@@ -27,10 +28,11 @@ class FilterForm {
     /// Whether OK is enabled with this text in the sample field.
     [[nodiscard]] static bool IsOkEnabled(std::wstring_view sampleText);
 
-    /// The user pressed OK. Returns whether the dialog may end, and the sample is then trimmed. Otherwise no
-    /// field is chosen, which has been said in a message owned by `dialog`; the list of the fields is then to
-    /// be dropped down.
-    [[nodiscard]] bool Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+    /// What OK refuses: that no field is chosen, whose list is then to be dropped down; none where the choice
+    /// may be taken.
+    [[nodiscard]] std::optional<reporting::Refusal> Check() const;
+    /// Takes the choice: the sample is trimmed.
+    void Commit();
 
     /// The owner pattern that the confirmed choice asks for.
     [[nodiscard]] std::wstring Pattern(const toolkit::SystemText& systemText) const;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "certificates/selection/selection_form.h"
+#include "reporting/refusal.h"
 #include "toolkit/controls/supplied_list_view.h"
 
 namespace corvane::certificates {
@@ -22,7 +23,7 @@ class OwnerRows : public toolkit::RowSource {
     /// Sorts the rows.
     virtual void ClickHeader() = 0;
     [[nodiscard]] virtual SortMark Mark() const = 0;
-    [[nodiscard]] virtual OwnerBox Details(std::size_t row) const = 0;
+    [[nodiscard]] virtual reporting::Information Details(std::size_t row) const = 0;
 
     [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t /*column*/) const override {
         return std::wstring(Row(row).owner);
@@ -39,7 +40,7 @@ class FoundOwners final : public OwnerRows {
     void Tick(std::size_t row, bool isTicked) override { form_.CheckFound(row, isTicked); }
     void ClickHeader() override { form_.ClickFoundHeader(); }
     [[nodiscard]] SortMark Mark() const override { return form_.FoundSortMark(); }
-    [[nodiscard]] OwnerBox Details(std::size_t row) const override { return form_.FoundDetails(row); }
+    [[nodiscard]] reporting::Information Details(std::size_t row) const override { return form_.FoundDetails(row); }
 
   private:
     RecipientSelectionForm& form_;
@@ -54,7 +55,7 @@ class ChosenOwners final : public OwnerRows {
     void Tick(std::size_t row, bool isTicked) override { form_.CheckChosen(row, isTicked); }
     void ClickHeader() override { form_.ClickChosenHeader(); }
     [[nodiscard]] SortMark Mark() const override { return form_.ChosenSortMark(); }
-    [[nodiscard]] OwnerBox Details(std::size_t row) const override { return form_.ChosenDetails(row); }
+    [[nodiscard]] reporting::Information Details(std::size_t row) const override { return form_.ChosenDetails(row); }
 
   private:
     RecipientSelectionForm& form_;

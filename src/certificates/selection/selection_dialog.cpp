@@ -1,7 +1,6 @@
 #include "certificates/selection/selection_dialog.h"
 
 #include <array>
-#include <exception>
 #include <optional>
 #include <string>
 #include <utility>
@@ -10,14 +9,12 @@
 #include "certificates/search/filter_dialog.h"
 #include "certificates/search/owner_texts.h"
 #include "certificates/session/wait_dialog.h"
-#include "reporting/message_styles.h"
 #include "reporting/unsaved_changes.h"
 #include "reporting/warning_box.h"
 #include "res/ids.h"
 #include "toolkit/controls/choice_controls.h"
 #include "toolkit/dialog/data_exchange.h"
 #include "toolkit/files/path_pickers.h"
-#include "toolkit/system/message_presenter.h"
 #include "toolkit/system/wait_cursor.h"
 
 namespace corvane::certificates {
@@ -37,8 +34,6 @@ constexpr std::array kCaptions = std::to_array<Caption>({
     {IDC_SELECTION_CLEAR_BUTTON, L"Clear"},
     {IDC_SELECTION_DELETE_ALL_BUTTON, L"Delete all"},
     {IDC_SELECTION_SAVE_BUTTON, L"Save"},
-    {IDC_SELECTION_ADD_BUTTON, L"Add"},
-    {IDC_SELECTION_REMOVE_BUTTON, L"Remove"},
     {IDC_SELECTION_LIST_NAME_LABEL, L"List name:"},
     {IDCANCEL, L"Exit"},
 });
@@ -55,10 +50,9 @@ toolkit::FileDialogOffer FileDialogOfferFor(const GroupFileOffer& offer) {
 
 CPreEncryptDlg::CPreEncryptDlg(HWND owner, RecipientSelectionForm& form, const Cryptocontext& context,
                                reporting::ErrorReporter& reporter, toolkit::FileCalls& files)
-    : toolkit::Dialog(IDD_RECIPIENT_SELECTION, owner),
+    : reporting::ProductDialog(IDD_RECIPIENT_SELECTION, owner, reporter),
       form_(form),
       context_(context),
-      reporter_(reporter),
       files_(files),
       foundOwners_(form),
       chosenOwners_(form) {}
@@ -73,35 +67,31 @@ bool CPreEncryptDlg::OnInitDialog() {
 
 void CPreEncryptDlg::SetUpControls() {
     using enum toolkit::GrowthShare;
-    layout_.Remember(
-        Window(), {
-                      {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
-                      {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
-                      {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
-                      {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
-                      {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
-                      {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
-                      {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
-                      {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
-                      {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
-                      {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
-                  });
+    LetControlsFollow({
+        {.controlId = IDC_SELECTION_FILTER_EDIT, .growX = kAll},
+        {.controlId = IDC_SELECTION_FOUND_LIST, .growX = kAll, .growY = kHalf},
+        {.controlId = IDC_SELECTION_FROM_STORE_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_FROM_GROUP_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_FROM_NCS_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_SELECT_ALL_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_CLEAR_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_DELETE_ALL_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_SAVE_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SELECTION_ADD_BUTTON, .moveY = kHalf},
+        {.controlId = IDC_SELECTION_REMOVE_BUTTON, .moveY = kHalf},
+        {.controlId = IDC_SELECTION_LIST_NAME_LABEL, .moveY = kHalf},
+        {.controlId = IDC_SELECTION_LIST_NAME_EDIT, .moveY = kHalf, .growX = kAll},
+        {.controlId = IDC_SELECTION_CHOSEN_LIST, .moveY = kHalf, .growX = kAll, .growY = kRest},
+        {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+        {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+    });
     SetWindowTextW(Window(), form_.Title().c_str());
     for (const Caption& caption : kCaptions) {
         SetControlText(caption.controlId, caption.text);
     }
-    ShowIcons();
-    toolTip_.Create(Window());
-    for (const int button : {IDC_SELECTION_ADD_BUTTON, IDC_SELECTION_REMOVE_BUTTON}) {
-        toolTip_.Add(Control(button), toolkit::WindowText(Control(button)).c_str());
-    }
-    toolTip_.Activate(true);
+    SetWindowIcon(IDI_MAIN_WINDOW);
+    SetIconButton(IDC_SELECTION_ADD_BUTTON, L"Add", IDI_ADD_TO_CHOSEN);
+    SetIconButton(IDC_SELECTION_REMOVE_BUTTON, L"Remove", IDI_REMOVE_FROM_CHOSEN);
     if (form_.IsForSigners()) {
         ShowWindow(Control(IDC_SELECTION_LIST_NAME_LABEL), SW_SHOW);
         ShowWindow(Control(IDC_SELECTION_LIST_NAME_EDIT), SW_SHOW);
@@ -114,12 +104,6 @@ void CPreEncryptDlg::SetUpControls() {
     sortFields.Select(0);
     EnableControl(IDC_SELECTION_FROM_NCS_BUTTON, form_.IsNetworkStoreAvailable());
     PutData();
-}
-
-void CPreEncryptDlg::ShowIcons() {
-    toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
-    buttonIcons_.Show(Window(), DotsPerInch(), IDC_SELECTION_ADD_BUTTON, IDI_ADD_TO_CHOSEN);
-    buttonIcons_.Show(Window(), DotsPerInch(), IDC_SELECTION_REMOVE_BUTTON, IDI_REMOVE_FROM_CHOSEN);
 }
 
 bool CPreEncryptDlg::OnCommand(int controlId, UINT notificationCode) {
@@ -135,7 +119,7 @@ bool CPreEncryptDlg::OnCommand(int controlId, UINT notificationCode) {
         return true;
     }
     return (notificationCode == BN_CLICKED && Press(controlId)) ||
-           toolkit::Dialog::OnCommand(controlId, notificationCode);
+           reporting::ProductDialog::OnCommand(controlId, notificationCode);
 }
 
 bool CPreEncryptDlg::Press(int buttonId) {
@@ -158,7 +142,7 @@ bool CPreEncryptDlg::Press(int buttonId) {
                 [this, buttonId] { form_.CheckAllFound(buttonId == IDC_SELECTION_SELECT_ALL_BUTTON); });
             return true;
         case IDC_SELECTION_DELETE_ALL_BUTTON:
-            ChangeFound([this] { form_.DeleteAllFound(reporter_, Window()); });
+            DeleteAllFound();
             return true;
         case IDC_SELECTION_ADD_BUTTON:
             AddChecked();
@@ -185,7 +169,7 @@ bool CPreEncryptDlg::OnListNotification(const OwnerRows& owners, const NMHDR& he
         return false;
     }
     if (const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem; row >= 0) {
-        ShowDetails(owners.Details(static_cast<std::size_t>(row)));
+        Show(owners.Details(static_cast<std::size_t>(row)));
     }
     return true;
 }
@@ -201,38 +185,45 @@ void CPreEncryptDlg::ChangeChosen(const std::function<void()>& change) {
 void CPreEncryptDlg::SearchLocalStore() {
     ChangeFound([this] {
         const toolkit::WaitCursor waiting;
-        form_.SearchLocalStore(context_, reporter_, Window());
+        form_.SearchLocalStore(context_, Reporter(), Window());
     });
 }
 
 void CPreEncryptDlg::SearchNetworkStore() {
-    CFilterDlg filter(Window(), reporter_);
+    CFilterDlg filter(Window(), Reporter());
     if (filter.RunModal() != IDOK) {
         return;
     }
     ChangeFound([this, &filter] {
         const toolkit::WaitCursor waiting;
-        form_.SearchNetworkStore(filter.Form().Pattern(reporter_.Text()), context_, reporter_, Window());
+        form_.SearchNetworkStore(filter.Form().Pattern(Reporter().Text()), context_, Reporter(), Window());
     });
 }
 
 void CPreEncryptDlg::OpenGroup() {
     const std::optional<std::wstring> path = reporting::PathOrReport(
-        toolkit::AskWhatToOpen(Window(), FileDialogOfferFor(OfferToOpenGroup(form_))), reporter_, Window());
+        toolkit::AskWhatToOpen(Window(), FileDialogOfferFor(OfferToOpenGroup(form_))), Reporter(), Window());
     if (path) {
-        ChangeFound([this, &path] { LoadGroupFile(form_, *path, files_, reporter_, Window()); });
+        ChangeFound([this, &path] { LoadGroupFile(form_, *path, files_, Reporter(), Window()); });
     }
 }
 
 void CPreEncryptDlg::SaveGroup() {
-    if (!MaySaveGroup(form_, reporter_, Window())) {
-        FocusControl(IDC_SELECTION_FOUND_LIST);
+    if (const auto refusal = CheckGroupToSave(form_)) {
+        Show(*refusal);
         return;
     }
     const std::optional<std::wstring> path = reporting::PathOrReport(
-        toolkit::AskWhereToSave(Window(), FileDialogOfferFor(OfferToSaveGroup(form_))), reporter_, Window());
+        toolkit::AskWhereToSave(Window(), FileDialogOfferFor(OfferToSaveGroup(form_))), Reporter(), Window());
     if (path) {
-        SaveGroupFile(form_, *path, files_, reporter_, Window());
+        SaveGroupFile(form_, *path, files_, Reporter(), Window());
+    }
+}
+
+void CPreEncryptDlg::DeleteAllFound() {
+    const std::optional<reporting::Question> question = form_.DeletionQuestion();
+    if (question && IsAgreed(*question)) {
+        ChangeFound([this] { form_.DeleteAllFound(); });
     }
 }
 
@@ -240,78 +231,39 @@ void CPreEncryptDlg::AddChecked() {
     std::wstring warning;
     ChangeChosen([this, &warning] { warning = form_.AddChecked(); });
     if (!warning.empty()) {
-        reporting::WarningBox box(Window(), false);
+        reporting::WarningBox box(Window(), false, Reporter());
         box.text = std::move(warning);
         box.RunModal();
     }
 }
 
-void CPreEncryptDlg::ShowDetails(const OwnerBox& box) {
-    toolkit::WindowsMessagePresenter().Show(Window(), box.text, box.title, reporting::kInformationStyle);
-}
-
 void CPreEncryptDlg::OnOk() {
     TakeData();
     const toolkit::WaitCursor waiting;
-    switch (form_.Confirm(context_, reporter_, Window())) {
-        case SelectionOutcome::kAccepted:
-            EndModal(IDOK);
-            break;
-        case SelectionOutcome::kBadListName:
-            FocusControl(IDC_SELECTION_LIST_NAME_EDIT);
-            break;
-        case SelectionOutcome::kNobodyChosen:
-            // Whoever is checked here can be added.
-            FocusControl(IDC_SELECTION_FOUND_LIST);
-            break;
-        case SelectionOutcome::kBadOwner:
-            FocusControl(IDC_SELECTION_CHOSEN_LIST);
-            break;
-        case SelectionOutcome::kFailed:
-            break;
+    if (const auto refusal = form_.Confirm(context_, Reporter(), Window())) {
+        Show(*refusal);
+        return;
     }
+    EndModal(IDOK);
 }
 
 const wchar_t* CPreEncryptDlg::UnsavedInputReason() {
     return reporting::ReasonAgainstEnd(form_.IsChanged(FieldsAsShown(form_.listName)));
 }
 
-void CPreEncryptDlg::OnSize(WPARAM kind, int width, int height) {
-    if (kind == SIZE_MINIMIZED) {
-        return;
-    }
-    layout_.Arrange(width, height);
-    FitColumns();
-    InvalidateRect(Window(), nullptr, TRUE);
-}
-
-void CPreEncryptDlg::FitColumns() const {
+void CPreEncryptDlg::OnArranged() {
     foundList_.FitColumn();
     chosenList_.FitColumn();
 }
 
-void CPreEncryptDlg::OnMinimumMaximumInfo(MINMAXINFO& info) {
-    layout_.LimitSize(info);
-}
-
 void CPreEncryptDlg::OnScaleChanged() {
-    layout_.Rescale(TemplateClientSize());
     foundList_.Rescale();
     chosenList_.Rescale();
-    ShowIcons();
-}
-
-bool CPreEncryptDlg::PreTranslateMessage(MSG& message) {
-    toolTip_.Relay(message);
-    return toolkit::Dialog::PreTranslateMessage(message);
+    reporting::ProductDialog::OnScaleChanged();
 }
 
 void CPreEncryptDlg::ExchangeFields(toolkit::DataExchange& exchange) {
     exchange.Text(IDC_SELECTION_LIST_NAME_EDIT, form_.listName);
-}
-
-void CPreEncryptDlg::ReportException(const std::exception& exception) {
-    reporter_.ShowMessage(Window(), exception.what(), reporting::kErrorStyle);
 }
 
 SelectionRun ShowSelectionDialog(toolkit::WindowHandle owner, reporting::ErrorReporter& reporter,
@@ -324,7 +276,7 @@ SelectionRun ShowSelectionDialog(toolkit::WindowHandle owner, reporting::ErrorRe
 std::optional<ChosenRecipients> EditRecipients(toolkit::WindowHandle owner, const store::Profile& profile,
                                                std::size_t csProfileIndex, const store::TextList& recipients,
                                                const CertServices& services, toolkit::FileCalls& files) {
-    AwaitWindow waitWindow;
+    AwaitWindow waitWindow(services.reporter);
     return ChooseRecipients({.owner = owner,
                              .profile = profile,
                              .csProfileIndex = csProfileIndex,

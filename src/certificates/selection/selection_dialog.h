@@ -9,20 +9,15 @@
 #include "certificates/selection/selection_form.h"
 #include "certificates/session/cert_services.h"
 #include "certificates/session/cryptocontext.h"
-#include "reporting/error_reporter.h"
+#include "reporting/product_dialog.h"
 #include "store/records.h"
-#include "toolkit/controls/button_icons.h"
-#include "toolkit/controls/tool_tip.h"
-#include "toolkit/dialog/anchored_layout.h"
-#include "toolkit/dialog/dialog.h"
 #include "toolkit/files/file_calls.h"
-#include "toolkit/system/icon.h"
 #include "toolkit/system/window_handle.h"
 
 namespace corvane::certificates {
 
 /// The choice of recipients or signers: above the certificate owners that were found, below those chosen.
-class CPreEncryptDlg final : public toolkit::Dialog {
+class CPreEncryptDlg final : public reporting::ProductDialog {
   public:
     /// Works on `form` and searches in `context`; both, and the services, must outlive the dialog. After a
     /// run that ended with OK the form holds the result.
@@ -35,17 +30,12 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     bool OnNotify(NMHDR& header, LRESULT& result) override;
     void OnOk() override;
     const wchar_t* UnsavedInputReason() override;
-    void OnSize(WPARAM kind, int width, int height) override;
-    void OnMinimumMaximumInfo(MINMAXINFO& info) override;
+    void OnArranged() override;
     void OnScaleChanged() override;
-    bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
-    void ReportException(const std::exception& exception) override;
 
   private:
     void SetUpControls();
-    void FitColumns() const;
-    void ShowIcons();
     bool Press(int buttonId);
     bool OnListNotification(const OwnerRows& owners, const NMHDR& header);
 
@@ -57,22 +47,16 @@ class CPreEncryptDlg final : public toolkit::Dialog {
     void SearchNetworkStore();
     void OpenGroup();
     void SaveGroup();
+    void DeleteAllFound();
     void AddChecked();
-    void ShowDetails(const OwnerBox& box);
 
     RecipientSelectionForm& form_;
     const Cryptocontext& context_;
-    reporting::ErrorReporter& reporter_;
     toolkit::FileCalls& files_;
     FoundOwners foundOwners_;
     ChosenOwners chosenOwners_;
     OwnerListView foundList_{foundOwners_};
     OwnerListView chosenList_{chosenOwners_};
-    toolkit::AnchoredLayout layout_;
-    toolkit::ToolTip toolTip_;
-    toolkit::ButtonIcons buttonIcons_;
-    toolkit::UniqueIcon largeIcon_;
-    toolkit::UniqueIcon smallIcon_;
 };
 
 /// The run that shows CPreEncryptDlg, owned by `owner`, on the form that it is given. `reporter` and `files`

@@ -10,6 +10,7 @@
 #include "certificates/search/certificate_search.h"
 #include "certificates/search/owner_texts.h"
 #include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::certificates {
@@ -136,17 +137,16 @@ bool RecipientSelectionForm::SearchNetworkStore(const std::wstring& pattern, con
     return true;
 }
 
-bool RecipientSelectionForm::DeleteAllFound(reporting::ErrorReporter& reporter,
-                                            toolkit::WindowHandle dialog) {
-    if (foundRows_.empty() ||
-        reporter.ShowMessage(dialog, L"Delete all list items?", reporting::kWarningQuestionStyle) !=
-            reporting::kAnswerYes) {
-        return false;
-    }
+std::optional<reporting::Question> RecipientSelectionForm::DeletionQuestion() const {
+    return foundRows_.empty() ? std::nullopt
+                              : std::optional(reporting::Question{.text = L"Delete all list items?",
+                                                                  .style = reporting::kWarningQuestionStyle});
+}
+
+void RecipientSelectionForm::DeleteAllFound() {
     found_.clear();
     lastGroupPath.clear();
     FillFound();
-    return true;
 }
 
 void RecipientSelectionForm::SetFilter(std::wstring_view text) {
@@ -165,8 +165,8 @@ void RecipientSelectionForm::ClickFoundHeader() {
     SortFound(foundSort_.Next());
 }
 
-OwnerBox RecipientSelectionForm::FoundDetails(std::size_t position) const {
-    return {L"Subject", OwnerLines(FoundRow(position).owner)};
+reporting::Information RecipientSelectionForm::FoundDetails(std::size_t position) const {
+    return {.text = OwnerLines(FoundRow(position).owner), .title = L"Subject"};
 }
 
 store::TextList RecipientSelectionForm::CheckedFoundOwners() const {
@@ -256,15 +256,18 @@ void RecipientSelectionForm::ClickChosenHeader() {
     SortChosen(chosenSort_.Next());
 }
 
-OwnerBox RecipientSelectionForm::ChosenDetails(std::size_t position) const {
-    return {IsForSigners() ? L"Signer" : L"Recipient", OwnerLines(ChosenRow(position).owner)};
+reporting::Information RecipientSelectionForm::ChosenDetails(std::size_t position) const {
+    return {.text = OwnerLines(ChosenRow(position).owner),
+            .title = IsForSigners() ? L"Signer" : L"Recipient"};
 }
 
-SelectionOutcome RecipientSelectionForm::Confirm(const Cryptocontext& context,
-                                                 reporting::ErrorReporter& reporter,
-                                                 toolkit::WindowHandle dialog) {
-    if (IsForSigners() && !IsListNameAccepted(reporter, dialog)) {
-        return SelectionOutcome::kBadListName;
+std::optional<reporting::Refusal> RecipientSelectionForm::Confirm(const Cryptocontext& context,
+                                                                  reporting::ErrorReporter& reporter,
+                                                                  toolkit::WindowHandle dialog) {
+    if (IsForSigners()) {
+        if (auto refusal = CheckListName()) {
+            return refusal;
+        }
     }
     store::TextList kept;
     for (const std::size_t row : chosenRows_) {
@@ -272,36 +275,33 @@ SelectionOutcome RecipientSelectionForm::Confirm(const Cryptocontext& context,
         store::TextList issuers;
         store::TextList serials;
         if (!FindByOwner(dialog, settings_, context, owner, reporter, issuers, serials)) {
-            return SelectionOutcome::kFailed;
+            return reporting::Refusal{.wording = reporting::SilentRefusal()};
         }
         if (!issuers.empty()) {
             kept.push_back(owner);
             continue;
         }
-        const std::wstring question = toolkit::FormatText(
-            L"No certificates found for user %s.\r\nContinue to check other users?", {owner});
-        if (reporter.ShowMessage(dialog, question, reporting::kWarningQuestionStyle) !=
-            reporting::kAnswerYes) {
-            return SelectionOutcome::kBadOwner;
+        const reporting::Question question = {
+            .text = toolkit::FormatText(
+                L"No certificates found for user %s.\r\nContinue to check other users?", {owner}),
+            .style = reporting::kWarningQuestionStyle};
+        if (!reporting::IsAgreedTo(question, reporter, dialog)) {
+            return reporting::Refusal{.wording = reporting::SilentRefusal(),
+                                      .controlId = IDC_SELECTION_CHOSEN_LIST};
         }
     }
     // Recipients may be cleared so; a signer list without signers would verify nothing.
     if (IsForSigners() && kept.empty()) {
-        reporter.ShowMessage(dialog, L"No users selected.", reporting::kRefusalStyle);
-        return SelectionOutcome::kNobodyChosen;
+        // Whoever is checked among those found can be added.
+        return reporting::Refuse(L"No users selected.", IDC_SELECTION_FOUND_LIST);
     }
     result_ = std::move(kept);
-    return SelectionOutcome::kAccepted;
+    return std::nullopt;
 }
 
-bool RecipientSelectionForm::IsListNameAccepted(reporting::ErrorReporter& reporter,
-                                                toolkit::WindowHandle dialog) const {
-    const auto refuse = [&reporter, dialog](const wchar_t* text) {
-        reporter.ShowMessage(dialog, std::wstring(text), reporting::kRefusalStyle);
-        return false;
-    };
+std::optional<reporting::Refusal> RecipientSelectionForm::CheckListName() const {
     if (listName.empty()) {
-        return refuse(L"No list name");
+        return reporting::Refuse(L"No list name", IDC_SELECTION_LIST_NAME_EDIT);
     }
     // Each list is stored under its name as a registry key, and keys do not know upper from lower case: of
     // two lists that differ only in that, one would be lost.
@@ -313,13 +313,13 @@ bool RecipientSelectionForm::IsListNameAccepted(reporting::ErrorReporter& report
                                                                 systemText_.UpperCase(list.name) == key;
                                                      });
     if (isTaken) {
-        return refuse(L"List with this name already exists");
+        return reporting::Refuse(L"List with this name already exists", IDC_SELECTION_LIST_NAME_EDIT);
     }
     // It would be stored as a key within a key, where nobody looks for it.
     if (listName.find(L'\\') != std::wstring::npos) {
-        return refuse(L"List name cannot contain the symbol '\\'");
+        return reporting::Refuse(L"List name cannot contain the symbol '\\'", IDC_SELECTION_LIST_NAME_EDIT);
     }
-    return true;
+    return std::nullopt;
 }
 
 // When memory is short the rows stay whole: whoever presses OK next keeps what is shown.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "certificates/search/owner_texts.h"
 #include "certificates/session/cryptocontext.h"
 #include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
 #include "toolkit/system/window_handle.h"
 
@@ -31,25 +33,8 @@ struct OwnerRow {
     bool operator==(const OwnerRow&) const = default;
 };
 
-/// What came of OK.
-enum class SelectionOutcome {
-    kAccepted,      ///< The dialog may end.
-    kBadListName,   ///< The name of the list is to be mended.
-    kNobodyChosen,  ///< Somebody has to be chosen.
-    kBadOwner,      ///< One of those chosen has no certificate.
-    kFailed,        ///< A search failed.
-};
-
 /// The mark of a list's sort direction in its column header.
 enum class SortMark { kNone, kUp, kDown };
-
-/// The text of a double clicked row, for the system's information box.
-struct OwnerBox {
-    std::wstring title;
-    std::wstring text;
-
-    bool operator==(const OwnerBox&) const = default;
-};
 
 /// What the selection of recipients or signers shows and decides: the upper list with the owners that were
 /// found, the lower one with those chosen. The dialog shows the rows, tells the form what the user did and
@@ -88,14 +73,17 @@ class RecipientSelectionForm {
     /// "From NCS", with the pattern of the filter dialog. Says so when nothing was found.
     bool SearchNetworkStore(const std::wstring& pattern, const Cryptocontext& context,
                             reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
-    /// "Delete all": asks first. Returns whether the upper list was emptied.
-    bool DeleteAllFound(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+    /// What "Delete all" asks first; none where the upper list shows nobody.
+    [[nodiscard]] std::optional<reporting::Question> DeletionQuestion() const;
+    /// "Delete all": empties the upper list.
+    void DeleteAllFound();
     /// The filter keeps owners that contain its text, whatever the letter case.
     void SetFilter(std::wstring_view text);
     /// The user chose the attribute to sort by, an index of OfferedSubjectFields.
     void SetSortField(std::size_t fieldIndex);
     void ClickFoundHeader();
-    [[nodiscard]] OwnerBox FoundDetails(std::size_t position) const;
+    /// What a double click on the row shows.
+    [[nodiscard]] reporting::Information FoundDetails(std::size_t position) const;
     [[nodiscard]] store::TextList CheckedFoundOwners() const;
 
     // What the user does with the lower list.
@@ -106,13 +94,15 @@ class RecipientSelectionForm {
     /// The arrow up: removes the checked lower owners; the others stay in the order shown.
     void RemoveChecked();
     void ClickChosenHeader();
-    [[nodiscard]] OwnerBox ChosenDetails(std::size_t position) const;
+    /// What a double click on the row shows.
+    [[nodiscard]] reporting::Information ChosenDetails(std::size_t position) const;
 
     /// The user pressed OK. Looks for a certificate of every owner of the lower list, in the order shown.
-    /// Where it is accepted, Result holds the owners kept. What was refused, reported or asked has been
-    /// shown, owned by `dialog`.
-    [[nodiscard]] SelectionOutcome Confirm(const Cryptocontext& context, reporting::ErrorReporter& reporter,
-                                           toolkit::WindowHandle dialog);
+    /// Returns what is refused; none where it is accepted, and Result then holds the owners kept. What the
+    /// search reports or asks has been shown, owned by `dialog`, and is refused without another word.
+    [[nodiscard]] std::optional<reporting::Refusal> Confirm(const Cryptocontext& context,
+                                                            reporting::ErrorReporter& reporter,
+                                                            toolkit::WindowHandle dialog);
     [[nodiscard]] const store::TextList& Result() const { return result_; }
 
     /// Tells whether OK would keep other owners, another order of them or, by the name field as it stands,
@@ -151,8 +141,7 @@ class RecipientSelectionForm {
     void SortFound(SortDirection direction);
     void SortChosen(SortDirection direction);
     [[nodiscard]] std::wstring ExcludeSignersOfOtherLists();
-    [[nodiscard]] bool IsListNameAccepted(reporting::ErrorReporter& reporter,
-                                          toolkit::WindowHandle dialog) const;
+    [[nodiscard]] std::optional<reporting::Refusal> CheckListName() const;
 
     const CertSearchSettings& settings_;
     const toolkit::SystemText& systemText_;

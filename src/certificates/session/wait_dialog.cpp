@@ -19,8 +19,8 @@ store::WindowRectangle NormalPosition(HWND window) {
 
 }  // namespace
 
-AwaitDlg::AwaitDlg(HWND owner, std::wstring text)
-    : toolkit::Dialog(IDD_WAIT, owner), owner_(owner), text_(std::move(text)) {}
+AwaitDlg::AwaitDlg(HWND owner, std::wstring text, reporting::ErrorReporter& reporter)
+    : reporting::ProductDialog(IDD_WAIT, owner, reporter), owner_(owner), text_(std::move(text)) {}
 
 bool AwaitDlg::ShowPainted() {
     if (!CreateModeless()) {
@@ -60,7 +60,7 @@ AwaitWindow::~AwaitWindow() {
 
 void AwaitWindow::Show(toolkit::WindowHandle parent, const std::wstring& text) {
     formerCursor_ = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-    dialog_ = std::make_unique<AwaitDlg>(parent, text);
+    dialog_ = std::make_unique<AwaitDlg>(parent, text, reporter_);
     dialog_->ShowPainted();
 }
 

@@ -4,14 +4,14 @@
 #include <string>
 
 #include "certificates/session/wait_window.h"
-#include "toolkit/dialog/dialog.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::certificates {
 
 /// Asks for patience. It has no button and no close box: it goes when the call is through.
-class AwaitDlg final : public toolkit::Dialog {
+class AwaitDlg final : public reporting::ProductDialog {
   public:
-    AwaitDlg(HWND owner, std::wstring text);
+    AwaitDlg(HWND owner, std::wstring text, reporting::ErrorReporter& reporter);
 
     /// Creates the window and paints it whole, in the middle of its owner, without taking the focus away
     /// from there. False when the window could not be made.
@@ -32,7 +32,8 @@ class AwaitDlg final : public toolkit::Dialog {
 /// latest.
 class AwaitWindow final : public WaitWindow {
   public:
-    AwaitWindow() = default;
+    /// `reporter` must outlive the window.
+    explicit AwaitWindow(reporting::ErrorReporter& reporter) : reporter_(reporter) {}
     AwaitWindow(const AwaitWindow&) = delete;
     AwaitWindow& operator=(const AwaitWindow&) = delete;
     AwaitWindow(AwaitWindow&&) = delete;
@@ -43,6 +44,7 @@ class AwaitWindow final : public WaitWindow {
     void Destroy() override;
 
   private:
+    reporting::ErrorReporter& reporter_;
     std::unique_ptr<AwaitDlg> dialog_;
     HCURSOR formerCursor_ = nullptr;
 };

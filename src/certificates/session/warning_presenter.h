@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "reporting/error_reporter.h"
 #include "toolkit/system/window_handle.h"
 
 namespace corvane::certificates {
@@ -30,8 +31,14 @@ class WarningPresenter {
 /// Shows warnings in the program's warning box.
 class WarningBoxPresenter final : public WarningPresenter {
   public:
+    /// `reporter` must outlive the presenter.
+    explicit WarningBoxPresenter(reporting::ErrorReporter& reporter) : reporter_(reporter) {}
+
     void Show(toolkit::WindowHandle owner, const std::wstring& text, const std::wstring& title,
               WarningMode mode) override;
+
+  private:
+    reporting::ErrorReporter& reporter_;
 };
 
 }  // namespace corvane::certificates

@@ -8,13 +8,11 @@
 #include "certificates/selection/selection_dialog.h"
 #include "certificates/session/wait_dialog.h"
 #include "certificates/signer_lists/signer_lists_form.h"
+#include "reporting/product_dialog.h"
 #include "reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/controls/supplied_list_view.h"
-#include "toolkit/dialog/anchored_layout.h"
-#include "toolkit/dialog/dialog.h"
 #include "toolkit/dialog/window_geometry.h"
-#include "toolkit/system/icon.h"
 
 namespace corvane::certificates {
 
@@ -23,12 +21,12 @@ namespace {
 constexpr int kNameColumn = 0;
 constexpr int kSignersColumn = 1;
 
-class SignerList final : public toolkit::Dialog, private toolkit::RowSource {
+class SignerList final : public reporting::ProductDialog, private toolkit::RowSource {
   public:
     SignerList(HWND owner, const store::Profile& profile, std::size_t csProfileIndex,
                const std::vector<store::SignerGroup>& lists, const CertServices& services,
                toolkit::FileCalls& files)
-        : toolkit::Dialog(IDD_SIGNER_LISTS, owner),
+        : reporting::ProductDialog(IDD_SIGNER_LISTS, owner, services.reporter),
           profile_(profile),
           csProfileIndex_(csProfileIndex),
           services_(services),
@@ -42,16 +40,13 @@ class SignerList final : public toolkit::Dialog, private toolkit::RowSource {
     bool OnCommand(int controlId, UINT notificationCode) override;
     bool OnNotify(NMHDR& header, LRESULT& result) override;
     const wchar_t* UnsavedInputReason() override;
-    void OnSize(WPARAM kind, int width, int height) override;
-    void OnMinimumMaximumInfo(MINMAXINFO& info) override;
-    void OnScaleChanged() override;
+    void OnArranged() override;
 
   private:
     [[nodiscard]] std::size_t RowCount() const override { return form_.Lists().size(); }
     [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const override;
 
     void SetUpLayout();
-    void ShowIcons();
     void SetUpList();
     void LayOutColumns() const;
     void ShowLists();
@@ -67,18 +62,15 @@ class SignerList final : public toolkit::Dialog, private toolkit::RowSource {
     std::size_t csProfileIndex_;
     const CertServices& services_;
     toolkit::FileCalls& files_;
-    AwaitWindow waitWindow_;
+    AwaitWindow waitWindow_{services_.reporter};
     SignerListsForm form_;
     std::vector<store::SignerGroup> opened_{form_.Lists()};
     toolkit::SuppliedListView list_{*this};
-    toolkit::UniqueIcon largeIcon_;
-    toolkit::UniqueIcon smallIcon_;
-    toolkit::AnchoredLayout layout_;
 };
 
 bool SignerList::OnInitDialog() {
     SetUpLayout();
-    ShowIcons();
+    SetWindowIcon(IDI_MAIN_WINDOW);
     SetWindowTextW(Window(), kSignerListsTitle);
     SetUpList();
     list_.MarkFocus(0);
@@ -89,18 +81,14 @@ bool SignerList::OnInitDialog() {
 
 void SignerList::SetUpLayout() {
     using enum toolkit::GrowthShare;
-    layout_.Remember(Window(), {
-                                   {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
-                                   {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
-                                   {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
-                                   {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
-                                   {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
-                                   {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
-                               });
-}
-
-void SignerList::ShowIcons() {
-    toolkit::ShowWindowIcons(Window(), DotsPerInch(), IDI_MAIN_WINDOW, largeIcon_, smallIcon_);
+    LetControlsFollow({
+        {.controlId = IDC_SIGNER_LISTS_LIST, .growX = kAll, .growY = kAll},
+        {.controlId = IDC_SIGNER_LISTS_ADD_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SIGNER_LISTS_EDIT_BUTTON, .moveX = kAll},
+        {.controlId = IDC_SIGNER_LISTS_DELETE_BUTTON, .moveX = kAll},
+        {.controlId = IDOK, .moveX = kAll, .moveY = kAll},
+        {.controlId = IDCANCEL, .moveX = kAll, .moveY = kAll},
+    });
 }
 
 void SignerList::SetUpList() {
@@ -110,6 +98,10 @@ void SignerList::SetUpList() {
     list_.InsertColumn(kSignersColumn, L"Signers");
     LayOutColumns();
     ShowLists();
+}
+
+void SignerList::OnArranged() {
+    LayOutColumns();
 }
 
 void SignerList::LayOutColumns() const {
@@ -161,7 +153,7 @@ bool SignerList::OnCommand(int controlId, UINT notificationCode) {
             DeleteSelected();
             return true;
         default:
-            return toolkit::Dialog::OnCommand(controlId, notificationCode);
+            return reporting::ProductDialog::OnCommand(controlId, notificationCode);
     }
 }
 
@@ -220,7 +212,9 @@ void SignerList::EditSelected() {
 
 void SignerList::DeleteSelected() {
     const std::vector<std::size_t> rows = list_.SelectedRows();
-    if (form_.Delete(rows, services_.reporter, Window())) {
+    const std::optional<reporting::Question> question = form_.DeletionQuestion(rows);
+    if (question && IsAgreed(*question)) {
+        form_.Delete(rows);
         {
             // Each row goes with its list, so that the others keep what is selected of them.
             const toolkit::ListView::RedrawLock locked(list_);
@@ -241,25 +235,6 @@ void SignerList::Describe(int row) const {
 
 const wchar_t* SignerList::UnsavedInputReason() {
     return reporting::ReasonAgainstEnd(form_.Lists() != opened_);
-}
-
-void SignerList::OnSize(WPARAM kind, int width, int height) {
-    if (kind == SIZE_MINIMIZED) {
-        return;
-    }
-    layout_.Arrange(width, height);
-    LayOutColumns();
-    InvalidateRect(Window(), nullptr, TRUE);
-}
-
-void SignerList::OnMinimumMaximumInfo(MINMAXINFO& info) {
-    layout_.LimitSize(info);
-}
-
-void SignerList::OnScaleChanged() {
-    layout_.Rescale(TemplateClientSize());
-    LayOutColumns();
-    ShowIcons();
 }
 
 }  // namespace

@@ -45,32 +45,38 @@ void SignerListsForm::Replace(std::size_t position, const RecipientSelectionForm
     }
 }
 
-bool SignerListsForm::Delete(const std::vector<std::size_t>& positions, reporting::ErrorReporter& reporter,
-                             toolkit::WindowHandle dialog) {
-    std::vector<char> isDeleted(lists_.size());
+std::vector<bool> SignerListsForm::Marked(const std::vector<std::size_t>& positions) const {
+    std::vector<bool> isMarked(lists_.size());
     for (const std::size_t position : positions) {
         if (position < lists_.size()) {
-            isDeleted[position] = 1;
+            isMarked[position] = true;
         }
     }
-    const std::int64_t count = std::count(isDeleted.begin(), isDeleted.end(), 1);
+    return isMarked;
+}
+
+std::optional<reporting::Question> SignerListsForm::DeletionQuestion(
+    const std::vector<std::size_t>& positions) const {
+    const std::vector<bool> isDeleted = Marked(positions);
+    const std::int64_t count = std::count(isDeleted.begin(), isDeleted.end(), true);
     if (count == 0) {
-        return false;
+        return std::nullopt;
     }
-    const std::wstring question = toolkit::FormatText(L"Delete %d list(s)?", {count});
-    if (reporter.ShowMessage(dialog, question, reporting::kWarningQuestionStyle) != reporting::kAnswerYes) {
-        return false;
-    }
+    return reporting::Question{.text = toolkit::FormatText(L"Delete %d list(s)?", {count}),
+                               .style = reporting::kWarningQuestionStyle};
+}
+
+void SignerListsForm::Delete(const std::vector<std::size_t>& positions) {
+    const std::vector<bool> isDeleted = Marked(positions);
     // There is room for all of them at once: no list is moved before it is certain that all can be.
     std::vector<store::SignerGroup> kept;
     kept.reserve(lists_.size());
     for (std::size_t i = 0; i < lists_.size(); ++i) {
-        if (isDeleted[i] == 0) {
+        if (!isDeleted[i]) {
             kept.push_back(std::move(lists_[i]));
         }
     }
     lists_ = std::move(kept);
-    return true;
 }
 
 std::wstring SignerListsForm::Describe(std::size_t position) const {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "certificates/selection/selection_form.h"
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
-#include "toolkit/system/window_handle.h"
 
 namespace corvane::certificates {
 
@@ -35,14 +35,18 @@ class SignerListsForm {
     void Add(const RecipientSelectionForm& confirmed);
     void Replace(std::size_t position, const RecipientSelectionForm& confirmed);
 
-    /// Asks whether to delete the lists at these positions and does so. Returns whether lists were deleted.
-    bool Delete(const std::vector<std::size_t>& positions, reporting::ErrorReporter& reporter,
-                toolkit::WindowHandle dialog);
+    /// What is asked before the lists at these positions are deleted; none where there are none.
+    [[nodiscard]] std::optional<reporting::Question> DeletionQuestion(
+        const std::vector<std::size_t>& positions) const;
+    /// Deletes the lists at these positions.
+    void Delete(const std::vector<std::size_t>& positions);
 
     /// The list in full, for the box that a right click shows, lines broken by CR LF.
     [[nodiscard]] std::wstring Describe(std::size_t position) const;
 
   private:
+    [[nodiscard]] std::vector<bool> Marked(const std::vector<std::size_t>& positions) const;
+
     std::vector<store::SignerGroup> lists_;
 };
 

@@ -5,8 +5,8 @@
 
 namespace corvane::editors {
 
-CAddExtDlg::CAddExtDlg(HWND owner, const toolkit::SystemText& systemText)
-    : toolkit::Dialog(IDD_EXTENSION, owner), systemText_(systemText) {}
+CAddExtDlg::CAddExtDlg(HWND owner, reporting::ErrorReporter& reporter)
+    : reporting::ProductDialog(IDD_EXTENSION, owner, reporter) {}
 
 bool CAddExtDlg::OnInitDialog() {
     SetWindowTextW(Window(), kExtensionTitle);
@@ -17,9 +17,11 @@ bool CAddExtDlg::OnInitDialog() {
 
 void CAddExtDlg::OnOk() {
     TakeData();
-    if (form_.Confirm(systemText_)) {
-        EndModal(IDOK);
+    if (const auto refusal = form_.Confirm(Reporter().Text())) {
+        Show(*refusal);
+        return;
     }
+    EndModal(IDOK);
 }
 
 const wchar_t* CAddExtDlg::UnsavedInputReason() {

@@ -3,15 +3,14 @@
 #include <string>
 
 #include "editors/extension/extension_form.h"
-#include "toolkit/dialog/dialog.h"
-#include "toolkit/text/system_text.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::editors {
 
 /// Asks for one file name extension.
-class CAddExtDlg final : public toolkit::Dialog {
+class CAddExtDlg final : public reporting::ProductDialog {
   public:
-    CAddExtDlg(HWND owner, const toolkit::SystemText& systemText);
+    CAddExtDlg(HWND owner, reporting::ErrorReporter& reporter);
 
     /// The extension, to be taken after a run that ended with OK.
     [[nodiscard]] const std::wstring& Extension() const { return form_.text; }
@@ -24,7 +23,6 @@ class CAddExtDlg final : public toolkit::Dialog {
 
   private:
     ExtensionForm form_;
-    const toolkit::SystemText& systemText_;
 };
 
 }  // namespace corvane::editors

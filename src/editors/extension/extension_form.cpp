@@ -24,13 +24,13 @@ std::wstring_view Trimmed(std::wstring_view text) {
 
 }  // namespace
 
-bool ExtensionForm::Confirm(const toolkit::SystemText& systemText) {
+std::optional<reporting::Refusal> ExtensionForm::Confirm(const toolkit::SystemText& systemText) {
     const std::wstring_view extension = Trimmed(text);
     if (extension.empty()) {
-        return false;
+        return reporting::Refusal{.wording = reporting::SilentRefusal()};
     }
     text = systemText.LowerCase(extension);
-    return true;
+    return std::nullopt;
 }
 
 }  // namespace corvane::editors

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "reporting/refusal.h"
 #include "toolkit/text/system_text.h"
 
 namespace corvane::editors {
@@ -14,10 +16,9 @@ inline constexpr wchar_t kExtensionExitText[] = L"Exit";
 struct ExtensionForm {
     std::wstring text;  ///< Of the edit; after OK the result.
 
-    /// The user pressed OK. Takes white space off both ends and turns the rest into lower case. Returns
-    /// whether the dialog may end; where nothing is left it stays open, without a message and with the text
-    /// as it was.
-    [[nodiscard]] bool Confirm(const toolkit::SystemText& systemText);
+    /// The user pressed OK. Takes white space off both ends and turns the rest into lower case. Where nothing
+    /// is left, it is refused without a word, and the text stays as it was; else none.
+    [[nodiscard]] std::optional<reporting::Refusal> Confirm(const toolkit::SystemText& systemText);
 };
 
 }  // namespace corvane::editors

@@ -9,7 +9,7 @@
 namespace corvane::editors {
 
 AddMask::AddMask(HWND owner, MaskForm form, reporting::ErrorReporter& reporter)
-    : toolkit::Dialog(IDD_MASK, owner), form_(std::move(form)), reporter_(reporter) {}
+    : reporting::ProductDialog(IDD_MASK, owner, reporter), form_(std::move(form)) {}
 
 bool AddMask::OnInitDialog() {
     SetWindowTextW(Window(), kMaskTitle);
@@ -22,11 +22,11 @@ bool AddMask::OnInitDialog() {
 
 void AddMask::OnOk() {
     TakeData();
-    if (form_.Confirm(reporter_, Window())) {
-        EndModal(IDOK);
-    } else {
-        FocusControl(IDC_MASK_COMBO);
+    if (const auto refusal = form_.Check()) {
+        Show(*refusal);
+        return;
     }
+    EndModal(IDOK);
 }
 
 const wchar_t* AddMask::UnsavedInputReason() {

@@ -3,12 +3,12 @@
 #include <string>
 
 #include "editors/mask/mask_form.h"
-#include "toolkit/dialog/dialog.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::editors {
 
 /// Asks for one mask of a rule: typed, or picked from suggestions.
-class AddMask final : public toolkit::Dialog {
+class AddMask final : public reporting::ProductDialog {
   public:
     /// Starts with `form`'s text in the field.
     AddMask(HWND owner, MaskForm form, reporting::ErrorReporter& reporter);
@@ -25,7 +25,6 @@ class AddMask final : public toolkit::Dialog {
   private:
     MaskForm form_;
     std::wstring openedText_;
-    reporting::ErrorReporter& reporter_;
 };
 
 }  // namespace corvane::editors

@@ -4,16 +4,13 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 
 namespace corvane::editors {
 
-bool MaskForm::Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) const {
-    if (!text.empty()) {
-        return true;
-    }
-    reporter.ShowMessage(dialog, std::wstring(L"No Mask selected."), reporting::kRefusalStyle);
-    return false;
+std::optional<reporting::Refusal> MaskForm::Check() const {
+    return text.empty() ? std::optional(reporting::Refuse(L"No Mask selected.", IDC_MASK_COMBO))
+                        : std::nullopt;
 }
 
 namespace {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
-#include "toolkit/system/window_handle.h"
 
 namespace corvane::editors {
 
@@ -18,9 +18,9 @@ struct MaskForm {
     store::TextList suggestions;
     std::wstring text;  ///< Of the combo box: first the mask to edit, after OK the result.
 
-    /// The user pressed OK. Returns whether the dialog may end; a refusal has been shown, owned by `dialog`.
-    /// A mask is whatever was typed, blanks at its ends included: only the client reads it.
-    [[nodiscard]] bool Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) const;
+    /// What OK refuses; none where the dialog may end. A mask is whatever was typed, blanks at its ends
+    /// included: only the client reads it.
+    [[nodiscard]] std::optional<reporting::Refusal> Check() const;
 };
 
 /// The masks that the rule editor offers, none of them twice: those of the profile's rules, rule by rule,

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "editors/mask/mask_form.h"
-#include "reporting/message_styles.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::editors {
@@ -16,6 +15,15 @@ namespace {
 void RequireMask(const store::TextList& masks, std::size_t row) {
     if (row >= masks.size()) {
         throw std::invalid_argument("The rule has no mask for this row.");
+    }
+}
+
+void RequireAscendingRows(const store::TextList& masks, const std::vector<std::size_t>& rows) {
+    if (std::adjacent_find(rows.begin(), rows.end(), std::greater_equal<>()) != rows.end()) {
+        throw std::invalid_argument("The rows to delete are not in ascending order.");
+    }
+    if (!rows.empty()) {
+        RequireMask(masks, rows.back());
     }
 }
 
@@ -34,32 +42,27 @@ void ReplaceMask(store::TextList& masks, std::size_t row, std::wstring mask) {
     masks[row] = std::move(mask);
 }
 
-bool DeleteMasks(store::TextList& masks, const std::vector<std::size_t>& selectedRows,
-                 reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) {
+std::optional<reporting::Question> MaskDeletionQuestion(const store::TextList& masks,
+                                                        const std::vector<std::size_t>& selectedRows) {
     if (selectedRows.empty()) {
-        return false;
+        return std::nullopt;
     }
-    if (std::adjacent_find(selectedRows.begin(), selectedRows.end(), std::greater_equal<>()) !=
-        selectedRows.end()) {
-        throw std::invalid_argument("The rows to delete are not in ascending order.");
-    }
-    RequireMask(masks, selectedRows.back());
-    const std::wstring question =
-        toolkit::FormatText(L"Delete %d mask(s)?", {static_cast<std::int64_t>(selectedRows.size())});
-    if (reporter.ShowMessage(dialog, question, reporting::kConfirmationStyle) != reporting::kAnswerYes) {
-        return false;
-    }
+    RequireAscendingRows(masks, selectedRows);
+    return reporting::Question{
+        toolkit::FormatText(L"Delete %d mask(s)?", {static_cast<std::int64_t>(selectedRows.size())})};
+}
+
+void DeleteMasks(store::TextList& masks, const std::vector<std::size_t>& selectedRows) {
+    RequireAscendingRows(masks, selectedRows);
     // From the highest row down, so that the lower ones stay valid.
     std::for_each(selectedRows.rbegin(), selectedRows.rend(), [&masks](std::size_t row) {
         masks.erase(masks.begin() + static_cast<std::ptrdiff_t>(row));
     });
-    return true;
 }
 
-void ShowMask(const store::TextList& masks, std::size_t row, toolkit::MessagePresenter& messages,
-              toolkit::WindowHandle dialog) {
+reporting::Information MaskDetails(const store::TextList& masks, std::size_t row) {
     RequireMask(masks, row);
-    messages.Show(dialog, masks[row], kMaskTitle, reporting::kInformationStyle);
+    return {.text = masks[row], .title = kMaskTitle};
 }
 
 int OpeningMaskColumnWidth(int clientWidth, int scrollBarWidth) {

@@ -5,10 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
-#include "toolkit/system/message_presenter.h"
-#include "toolkit/system/window_handle.h"
 
 namespace corvane::editors {
 
@@ -28,14 +26,16 @@ void AppendMask(store::TextList& masks, std::wstring mask);
 /// Puts an edited mask in the place of the row's.
 void ReplaceMask(store::TextList& masks, std::size_t row, std::wstring mask);
 
-/// Removes the selected masks once the user has agreed; without a selection nobody is asked. Returns whether
-/// anything was removed.
-bool DeleteMasks(store::TextList& masks, const std::vector<std::size_t>& selectedRows,
-                 reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog);
+/// What is asked before the selected masks are removed; none without a selection, when there is nothing to
+/// remove.
+[[nodiscard]] std::optional<reporting::Question> MaskDeletionQuestion(
+    const store::TextList& masks, const std::vector<std::size_t>& selectedRows);
 
-/// Shows the full text of the row's mask.
-void ShowMask(const store::TextList& masks, std::size_t row, toolkit::MessagePresenter& messages,
-              toolkit::WindowHandle dialog);
+/// Removes the selected masks.
+void DeleteMasks(store::TextList& masks, const std::vector<std::size_t>& selectedRows);
+
+/// The information box with the full text of the row's mask.
+[[nodiscard]] reporting::Information MaskDetails(const store::TextList& masks, std::size_t row);
 
 /// The width of the column, in pixels, when the editor opens: room is left for a vertical scroll bar.
 [[nodiscard]] int OpeningMaskColumnWidth(int clientWidth, int scrollBarWidth);

@@ -9,9 +9,8 @@
 namespace corvane::editors {
 
 CAddCSProfDlg::CAddCSProfDlg(HWND owner, store::TextList catalogue, reporting::ErrorReporter& reporter)
-    : toolkit::Dialog(IDD_CS_PROFILE_CHOICE, owner),
-      form_{.catalogue = std::move(catalogue)},
-      reporter_(reporter) {}
+    : reporting::ProductDialog(IDD_CS_PROFILE_CHOICE, owner, reporter),
+      form_{.catalogue = std::move(catalogue)} {}
 
 bool CAddCSProfDlg::OnInitDialog() {
     SetWindowTextW(Window(), kCsProfileChoiceTitle);
@@ -25,11 +24,11 @@ bool CAddCSProfDlg::OnInitDialog() {
 
 void CAddCSProfDlg::OnOk() {
     TakeData();
-    if (form_.Confirm(reporter_, Window())) {
-        EndModal(IDOK);
-    } else {
-        FocusControl(IDC_CS_PROFILE_CHOICE_COMBO);
+    if (const auto refusal = form_.Check()) {
+        Show(*refusal);
+        return;
     }
+    EndModal(IDOK);
 }
 
 const wchar_t* CAddCSProfDlg::UnsavedInputReason() {

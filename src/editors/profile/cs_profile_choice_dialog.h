@@ -3,12 +3,12 @@
 #include <string>
 
 #include "editors/profile/cs_profile_choice_form.h"
-#include "toolkit/dialog/dialog.h"
+#include "reporting/product_dialog.h"
 
 namespace corvane::editors {
 
 /// Asks for one of the provider's CS profiles.
-class CAddCSProfDlg final : public toolkit::Dialog {
+class CAddCSProfDlg final : public reporting::ProductDialog {
   public:
     CAddCSProfDlg(HWND owner, store::TextList catalogue, reporting::ErrorReporter& reporter);
 
@@ -24,7 +24,6 @@ class CAddCSProfDlg final : public toolkit::Dialog {
   private:
     CsProfileChoiceForm form_;
     int openedIndex_ = 0;
-    reporting::ErrorReporter& reporter_;
 };
 
 }  // namespace corvane::editors

@@ -1,6 +1,6 @@
 #include "editors/profile/cs_profile_choice_form.h"
 
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 
 namespace corvane::editors {
 
@@ -12,12 +12,10 @@ bool IsEntry(const store::TextList& list, int index) {
 
 }  // namespace
 
-bool CsProfileChoiceForm::Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) const {
-    if (IsEntry(catalogue, index)) {
-        return true;
-    }
-    reporter.ShowMessage(dialog, std::wstring(kNoCsProfilesText), reporting::kRefusalStyle);
-    return false;
+std::optional<reporting::Refusal> CsProfileChoiceForm::Check() const {
+    return IsEntry(catalogue, index)
+               ? std::nullopt
+               : std::optional(reporting::Refuse(kNoCsProfilesText, IDC_CS_PROFILE_CHOICE_COMBO));
 }
 
 std::wstring CsProfileChoiceForm::Name() const {

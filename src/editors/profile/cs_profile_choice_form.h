@@ -1,10 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
-#include "reporting/error_reporter.h"
+#include "reporting/refusal.h"
 #include "store/records.h"
-#include "toolkit/system/window_handle.h"
 
 namespace corvane::editors {
 
@@ -21,9 +21,8 @@ struct CsProfileChoiceForm {
     store::TextList catalogue;  ///< The CS profiles to choose from.
     int index = 0;              ///< Of the list.
 
-    /// The user pressed OK. Returns whether the dialog may end, with Name as its result; a refusal has been
-    /// shown, owned by `dialog`.
-    [[nodiscard]] bool Confirm(reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog) const;
+    /// What OK refuses; none where the dialog may end, with Name as its result.
+    [[nodiscard]] std::optional<reporting::Refusal> Check() const;
     /// The chosen name; empty where nothing can be chosen.
     [[nodiscard]] std::wstring Name() const;
 };

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "editors/profile/cs_profile_list.h"
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::editors {
@@ -32,27 +32,14 @@ std::wstring RulesWithCertificatesOf(const ProfileForm& form, const std::wstring
     return numbers;
 }
 
-std::wstring DeletionQuestion(const ProfileForm& form, const std::wstring& csProfile) {
-    const std::wstring rules = RulesWithCertificatesOf(form, csProfile);
-    std::wstring question;
-    if (!rules.empty()) {
-        // The name that the user knows the profile by, not the one being typed.
-        question = toolkit::FormatText(
-            L"Rule(s) '%s' of profile '%s' are using sertificates of CS profile '%s'.\r\n"
-            L"Validation of these rules will be nessesary for proper work.\r\n",
-            {rules, form.openedName, csProfile});
-    }
-    return question + toolkit::FormatText(L"Delete CS profile '%s' from list?", {csProfile});
-}
-
 }  // namespace
 
-bool MayLeaveCsProfile(ProfileForm& form, const ShownCsProfile& shown) {
+std::optional<reporting::Refusal> LeaveCsProfile(ProfileForm& form, const ShownCsProfile& shown) {
     if (!IsTimeStampServerMissing(form)) {
-        return true;
+        return std::nullopt;
     }
     form.selectedCsProfile = shown.index;
-    return false;
+    return reporting::Refuse(kNoTimeStampServerText);
 }
 
 void ChangeShownCsProfile(ProfileForm& form, ShownCsProfile& shown) {
@@ -81,24 +68,35 @@ void AddCsProfile(ProfileForm& form, const std::wstring& name, ShownCsProfile& s
     shown = changedShown;
 }
 
-void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown, reporting::ErrorReporter& reporter,
-                     toolkit::WindowHandle dialog) {
-    store::TextList& names = form.result.csProfiles;
-    if (names.size() == 1) {
-        reporter.ShowMessage(dialog, std::wstring(L"Last CS profile in list cannot be deleted."),
-                             reporting::kRefusalStyle);
-        return;
+std::optional<reporting::Refusal> CheckCsProfileDeletion(const ProfileForm& form) {
+    const bool hasSelection = IsEntry(form, form.selectedCsProfile);
+    // Where none is selected, one can be selected in the list.
+    const int controlId = hasSelection ? 0 : IDC_PROFILE_CS_PROFILE_LIST;
+    if (form.result.csProfiles.size() == 1) {
+        return reporting::Refuse(L"Last CS profile in list cannot be deleted.", controlId);
     }
-    if (!IsEntry(form, form.selectedCsProfile)) {
-        reporter.ShowMessage(dialog, std::wstring(L"Select list item to delete."), reporting::kRefusalStyle);
-        return;
+    return hasSelection ? std::nullopt
+                        : std::optional(reporting::Refuse(L"Select list item to delete.", controlId));
+}
+
+reporting::Question CsProfileDeletionQuestion(const ProfileForm& form) {
+    const std::wstring& csProfile =
+        form.result.csProfiles.at(static_cast<std::size_t>(form.selectedCsProfile));
+    const std::wstring rules = RulesWithCertificatesOf(form, csProfile);
+    std::wstring question;
+    if (!rules.empty()) {
+        // The name that the user knows the profile by, not the one being typed.
+        question = toolkit::FormatText(
+            L"Rule(s) '%s' of profile '%s' are using sertificates of CS profile '%s'.\r\n"
+            L"Validation of these rules will be nessesary for proper work.\r\n",
+            {rules, form.openedName, csProfile});
     }
+    return {question + toolkit::FormatText(L"Delete CS profile '%s' from list?", {csProfile})};
+}
+
+void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown) {
     const auto selected = static_cast<std::size_t>(form.selectedCsProfile);
-    const std::wstring name = names[selected];
-    if (reporter.ShowMessage(dialog, DeletionQuestion(form, name), reporting::kConfirmationStyle) !=
-        reporting::kAnswerYes) {
-        return;
-    }
+    const std::wstring name = form.result.csProfiles.at(selected);
     // All or nothing here too: the settings of the deleted one must not stay shown for another.
     ProfileForm changed = form;
     ShownCsProfile changedShown;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "editors/profile/profile_form.h"
-#include "reporting/error_reporter.h"
-#include "toolkit/system/window_handle.h"
+#include "reporting/refusal.h"
 #include "toolkit/text/system_text.h"
 
 // What the CS profile list of the profile editor does.
@@ -12,8 +12,9 @@
 namespace corvane::editors {
 
 /// Asked before another CS profile is shown. A time-stamp server that is missing keeps the user at the shown
-/// one: the selection then goes back to it, and the refusal kNoTimeStampServerText is to be shown.
-[[nodiscard]] bool MayLeaveCsProfile(ProfileForm& form, const ShownCsProfile& shown);
+/// one: the selection then goes back to it, and the refusal is returned; else none.
+[[nodiscard]] std::optional<reporting::Refusal> LeaveCsProfile(ProfileForm& form,
+                                                               const ShownCsProfile& shown);
 
 /// The user selected a CS profile and may leave the shown one, whose settings are kept.
 void ChangeShownCsProfile(ProfileForm& form, ShownCsProfile& shown);
@@ -24,9 +25,14 @@ void ChangeShownCsProfile(ProfileForm& form, ShownCsProfile& shown);
 void AddCsProfile(ProfileForm& form, const std::wstring& name, ShownCsProfile& shown,
                   const toolkit::SystemText& systemText);
 
-/// Deletes the selected CS profile with the user's consent, its shown settings with it, and shows the first
-/// one. The last one stays. Question and refusals are owned by `dialog`.
-void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown, reporting::ErrorReporter& reporter,
-                     toolkit::WindowHandle dialog);
+/// Why the selected CS profile cannot be deleted: the last one stays, and one has to be selected. Else none.
+[[nodiscard]] std::optional<reporting::Refusal> CheckCsProfileDeletion(const ProfileForm& form);
+
+/// What is asked before the selected CS profile, which may be deleted, goes.
+[[nodiscard]] reporting::Question CsProfileDeletionQuestion(const ProfileForm& form);
+
+/// Deletes the selected CS profile, which may be deleted, its shown settings with it, and shows the first
+/// one.
+void DeleteCsProfile(ProfileForm& form, ShownCsProfile& shown);
 
 }  // namespace corvane::editors

@@ -4,14 +4,12 @@
 
 #include <commctrl.h>
 
-#include <exception>
 #include <optional>
 #include <string>
 
 #include "editors/profile/cs_profile_choice_dialog.h"
 #include "editors/profile/cs_profile_commands.h"
 #include "editors/profile/profile_form.h"
-#include "reporting/message_styles.h"
 #include "reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/controls/choice_controls.h"
@@ -47,23 +45,13 @@ constexpr FixedText kFixedTexts[] = {
     {IDCANCEL, kProfileExitText},
 };
 
-int ControlOf(ProfileField field) {
-    switch (field) {
-        case ProfileField::kHandlerTimeout:
-            return IDC_PROFILE_TIMEOUT_EDIT;
-        case ProfileField::kTimeStampServer:
-            return IDC_PROFILE_TSP_EDIT;
-        case ProfileField::kName:
-            break;
-    }
-    return IDC_PROFILE_NAME_EDIT;
-}
-
 }  // namespace
 
 CAddProfile::CAddProfile(HWND owner, const store::ConfigurationState& state, const store::Profile& profile,
                          const EditorServices& services)
-    : toolkit::Dialog(IDD_PROFILE_EDITOR, owner), state_(state), services_(services) {
+    : reporting::ProductDialog(IDD_PROFILE_EDITOR, owner, services.reporter),
+      state_(state),
+      services_(services) {
     form_.result = profile;
 }
 
@@ -73,29 +61,12 @@ bool CAddProfile::OnInitDialog() {
     for (const FixedText& fixed : kFixedTexts) {
         SetControlText(fixed.controlId, fixed.text);
     }
-    SetUpButtons();
+    SetIconButton(IDC_PROFILE_ADD_CS_PROFILE_BUTTON, kAddCsProfileText, IDI_ADD_ITEM);
+    SetIconButton(IDC_PROFILE_DELETE_CS_PROFILE_BUTTON, kDeleteCsProfileText, IDI_DELETE_ITEM);
     SendDlgItemMessageW(Window(), IDC_PROFILE_FREQUENCY_SPIN, UDM_SETRANGE32, 0, kLongestCrlUpdatePeriod);
     ShowForm();
     opened_ = SettingsToKeep(FieldsAsShown(form_));
     return true;
-}
-
-void CAddProfile::SetUpButtons() {
-    constexpr struct {
-        int id;
-        const wchar_t* text;
-        int icon;
-    } kButtons[] = {
-        {IDC_PROFILE_ADD_CS_PROFILE_BUTTON, kAddCsProfileText, IDI_ADD_ITEM},
-        {IDC_PROFILE_DELETE_CS_PROFILE_BUTTON, kDeleteCsProfileText, IDI_DELETE_ITEM},
-    };
-    toolTip_.Create(Window());
-    for (const auto& button : kButtons) {
-        SetControlText(button.id, button.text);
-        toolTip_.Add(Control(button.id), button.text);
-        buttonIcons_.Show(Window(), DotsPerInch(), button.id, button.icon);
-    }
-    toolTip_.Activate(true);
 }
 
 void CAddProfile::ShowForm() {
@@ -123,7 +94,7 @@ bool CAddProfile::OnCommand(int controlId, UINT notificationCode) {
     if (notificationCode == BN_CLICKED && OnButton(controlId)) {
         return true;
     }
-    return toolkit::Dialog::OnCommand(controlId, notificationCode);
+    return reporting::ProductDialog::OnCommand(controlId, notificationCode);
 }
 
 bool CAddProfile::OnButton(int controlId) {
@@ -155,45 +126,35 @@ void CAddProfile::OnEdited(int controlId) {
         return;
     }
     if (controlId == IDC_PROFILE_FREQUENCY_EDIT) {
-        ShowTypedText(controlId, OnCrlUpdatePeriodChanged(form_, toolkit::WindowText(edit)));
+        CorrectTypedText(controlId, OnCrlUpdatePeriodChanged(form_, toolkit::WindowText(edit)));
     } else if (controlId == IDC_PROFILE_TIMEOUT_EDIT) {
         const std::optional<std::wstring> correction =
             OnHandlerTimeoutChanged(form_, toolkit::WindowText(edit));
         if (correction) {
-            ShowTypedText(controlId, *correction);
+            CorrectTypedText(controlId, *correction);
         }
     }
 }
 
-void CAddProfile::ShowTypedText(int controlId, const std::wstring& text) const {
-    const HWND edit = Control(controlId);
-    if (toolkit::WindowText(edit) == text) {
-        return;
-    }
-    SetWindowTextW(edit, text.c_str());
-    // The caret goes behind the corrected number, where typing goes on.
-    SendMessageW(edit, EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
-}
-
-bool CAddProfile::MayLeaveShownCsProfile() {
+bool CAddProfile::LeaveShownCsProfile() {
     TakeData();
-    if (MayLeaveCsProfile(form_, services_.shownCsProfile)) {
-        return true;
+    if (const auto refusal = LeaveCsProfile(form_, services_.shownCsProfile)) {
+        PutData();
+        Show(*refusal);
+        return false;
     }
-    PutData();
-    services_.reporter.ShowMessage(Window(), std::wstring(kNoTimeStampServerText), reporting::kRefusalStyle);
-    return false;
+    return true;
 }
 
 void CAddProfile::ChangeCsProfile() {
-    if (MayLeaveShownCsProfile()) {
+    if (LeaveShownCsProfile()) {
         ChangeShownCsProfile(form_, services_.shownCsProfile);
         ShowForm();
     }
 }
 
 void CAddProfile::AddChosenCsProfile() {
-    if (!MayLeaveShownCsProfile()) {
+    if (!LeaveShownCsProfile()) {
         return;
     }
     CAddCSProfDlg dialog(Window(), state_.csProfileCatalogue, services_.reporter);
@@ -205,21 +166,21 @@ void CAddProfile::AddChosenCsProfile() {
 
 void CAddProfile::DeleteSelectedCsProfile() {
     TakeData();
-    DeleteCsProfile(form_, services_.shownCsProfile, services_.reporter, Window());
-    ShowForm();
-    if (form_.selectedCsProfile < 0) {
-        // There was none to delete; here one can be selected.
-        FocusControl(IDC_PROFILE_CS_PROFILE_LIST);
+    if (const auto refusal = CheckCsProfileDeletion(form_)) {
+        ShowForm();
+        Show(*refusal);
+        return;
     }
+    if (IsAgreed(CsProfileDeletionQuestion(form_))) {
+        DeleteCsProfile(form_, services_.shownCsProfile);
+    }
+    ShowForm();
 }
 
 void CAddProfile::OnOk() {
     TakeData();
-    const std::optional<ProfileRefusal> refusal = CheckProfile(form_, state_.profileNames);
-    if (refusal) {
-        services_.reporter.ShowMessage(Window(), refusal->text, reporting::kRefusalStyle);
-        // To where it can be mended, its text selected.
-        FocusControl(ControlOf(refusal->field));
+    if (const auto refusal = CheckProfile(form_, state_.profileNames)) {
+        Show(*refusal);
         return;
     }
     CommitProfile(form_);
@@ -232,17 +193,16 @@ const wchar_t* CAddProfile::UnsavedInputReason() {
 
 void CAddProfile::OnScaleChanged() {
     toolkit::ListBox(Control(IDC_PROFILE_CS_PROFILE_LIST)).FitScrollBar();
-    buttonIcons_.Rescale(Window(), DotsPerInch());
+    reporting::ProductDialog::OnScaleChanged();
 }
 
 bool CAddProfile::PreTranslateMessage(MSG& message) {
-    toolTip_.Relay(message);
     if (message.message == WM_KEYDOWN && message.wParam == VK_DELETE &&
         message.hwnd == Control(IDC_PROFILE_CS_PROFILE_LIST)) {
         DeleteSelectedCsProfile();
         return true;
     }
-    return toolkit::Dialog::PreTranslateMessage(message);
+    return reporting::ProductDialog::PreTranslateMessage(message);
 }
 
 void CAddProfile::ExchangeFields(toolkit::DataExchange& exchange) {
@@ -264,10 +224,6 @@ void CAddProfile::ExchangeFields(toolkit::DataExchange& exchange) {
     exchange.Check(IDC_PROFILE_RESIGN_REPORT_CHECK, form_.result.verifyResignFile);
     exchange.Number(IDC_PROFILE_TIMEOUT_EDIT, form_.result.handlerTimeout);
     exchange.Check(IDC_PROFILE_RENAME_CHECK, form_.result.renameConfFiles);
-}
-
-void CAddProfile::ReportException(const std::exception& exception) {
-    services_.reporter.ShowMessage(Window(), exception.what(), reporting::kErrorStyle);
 }
 
 std::optional<EditedProfile> EditProfile(toolkit::WindowHandle owner, const store::ConfigurationState& state,

@@ -4,17 +4,15 @@
 
 #include "editors/editor_services.h"
 #include "editors/profile/profile_form.h"
+#include "reporting/product_dialog.h"
 #include "store/records.h"
-#include "toolkit/controls/button_icons.h"
-#include "toolkit/controls/tool_tip.h"
-#include "toolkit/dialog/dialog.h"
 #include "toolkit/system/window_handle.h"
 
 namespace corvane::editors {
 
 /// One profile: its name, its options, and the CS profiles that it uses with the settings of each. What it
 /// shows and decides stands in ProfileForm.
-class CAddProfile final : public toolkit::Dialog {
+class CAddProfile final : public reporting::ProductDialog {
   public:
     /// Edits a copy of `profile`; one without a name is a new one. The catalogue and the names of the other
     /// profiles are in `state`, which outlives the dialog. A new profile without a CS profile to begin with
@@ -34,15 +32,12 @@ class CAddProfile final : public toolkit::Dialog {
     void OnScaleChanged() override;
     bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
-    void ReportException(const std::exception& exception) override;
 
   private:
-    void SetUpButtons();
     void ShowForm();
-    void ShowTypedText(int controlId, const std::wstring& text) const;
     bool OnButton(int controlId);
     void OnEdited(int controlId);
-    [[nodiscard]] bool MayLeaveShownCsProfile();
+    [[nodiscard]] bool LeaveShownCsProfile();
     void ChangeCsProfile();
     void AddChosenCsProfile();
     void DeleteSelectedCsProfile();
@@ -51,8 +46,6 @@ class CAddProfile final : public toolkit::Dialog {
     const EditorServices& services_;
     ProfileForm form_;
     store::Profile opened_;  ///< What could be kept at the beginning.
-    toolkit::ToolTip toolTip_;
-    toolkit::ButtonIcons buttonIcons_;
 };
 
 /// What the profile editor gives back.

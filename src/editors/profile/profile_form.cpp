@@ -6,6 +6,7 @@
 
 #include "editors/profile/cs_profile_list.h"
 #include "editors/rule/rule_form.h"
+#include "res/ids.h"
 #include "toolkit/text/format_text.h"
 
 namespace corvane::editors {
@@ -113,32 +114,32 @@ bool IsTaken(const ProfileForm& form, const store::TextList& profileNames) {
 
 }  // namespace
 
-std::optional<ProfileRefusal> CheckProfile(const ProfileForm& form, const store::TextList& profileNames) {
-    using enum ProfileField;
+std::optional<reporting::Refusal> CheckProfile(const ProfileForm& form, const store::TextList& profileNames) {
+    using reporting::Refuse;
     const std::wstring& name = form.result.name;
     if (name.empty()) {
-        return ProfileRefusal{L"Please, type a name for profile.", kName};
+        return Refuse(L"Please, type a name for profile.", IDC_PROFILE_NAME_EDIT);
     }
     if (name.size() > static_cast<std::size_t>(kLongestName)) {
-        return ProfileRefusal{
-            toolkit::FormatText(L"Profile name cannot be longer than %d symbols.", {kLongestName}), kName};
+        return Refuse(toolkit::FormatText(L"Profile name cannot be longer than %d symbols.", {kLongestName}),
+                      IDC_PROFILE_NAME_EDIT);
     }
     // Deliberate: other white space is a name like any other.
     if (name.find_first_not_of(L' ') == std::wstring::npos) {
-        return ProfileRefusal{L"Profile name cannot consist from spaces only.", kName};
+        return Refuse(L"Profile name cannot consist from spaces only.", IDC_PROFILE_NAME_EDIT);
     }
     if (form.result.handlerTimeout == 0) {
-        return ProfileRefusal{L"Please, choose handler timeout.", kHandlerTimeout};
+        return Refuse(L"Please, choose handler timeout.", IDC_PROFILE_TIMEOUT_EDIT);
     }
     if (IsTaken(form, profileNames)) {
-        return ProfileRefusal{toolkit::FormatText(L"Profile '%s' allready exists.", {name}), kName};
+        return Refuse(toolkit::FormatText(L"Profile '%s' allready exists.", {name}), IDC_PROFILE_NAME_EDIT);
     }
     if (IsTimeStampServerMissing(form)) {
-        return ProfileRefusal{kNoTimeStampServerText, kTimeStampServer};
+        return Refuse(kNoTimeStampServerText, IDC_PROFILE_TSP_EDIT);
     }
     // It would be stored as a key within a key, and be lost at the next start.
     if (name.find(L'\\') != std::wstring::npos) {
-        return ProfileRefusal{L"Profile name cannot contain the symbol '\\'.", kName};
+        return Refuse(L"Profile name cannot contain the symbol '\\'.", IDC_PROFILE_NAME_EDIT);
     }
     return std::nullopt;
 }

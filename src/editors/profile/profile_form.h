@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "reporting/refusal.h"
 #include "store/records.h"
 
 namespace corvane::editors {
@@ -68,21 +69,10 @@ void KeepShownSettings(ProfileForm& form, int index);
 [[nodiscard]] ProfileForm OpenProfileForm(store::Profile profile, const store::TextList& catalogue,
                                           ShownCsProfile& shown);
 
-/// The fields that OK may refuse.
-enum class ProfileField { kName, kHandlerTimeout, kTimeStampServer };
-
-/// Why OK refuses a profile, and the field to mend.
-struct ProfileRefusal {
-    std::wstring text;  ///< For a message box of kRefusalStyle.
-    ProfileField field = ProfileField::kName;
-
-    bool operator==(const ProfileRefusal&) const = default;
-};
-
-/// What OK checks, in its order; none where the profile may be taken. `profileNames` are those of the whole
-/// configuration, the edited profile's own among them.
-[[nodiscard]] std::optional<ProfileRefusal> CheckProfile(const ProfileForm& form,
-                                                         const store::TextList& profileNames);
+/// What OK refuses, in the order of its checks; none where the profile may be taken. `profileNames` are those
+/// of the whole configuration, the edited profile's own among them.
+[[nodiscard]] std::optional<reporting::Refusal> CheckProfile(const ProfileForm& form,
+                                                             const store::TextList& profileNames);
 
 /// Takes the shown settings into the result, for the CS profile that is selected in the list. Those of the
 /// others were kept when the user left them.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 #include <iterator>
 #include <utility>
 
@@ -12,8 +11,6 @@
 #include "editors/rule/rule_cs_profile_change.h"
 #include "editors/rule/rule_form.h"
 #include "editors/rule/rule_validation.h"
-#include "reporting/error_box.h"
-#include "reporting/message_styles.h"
 #include "reporting/unsaved_changes.h"
 #include "res/ids.h"
 #include "toolkit/controls/choice_controls.h"
@@ -75,26 +72,6 @@ int IconResource(RuleIcon icon) {
     return IDI_CERTIFICATES;
 }
 
-int ControlToMend(RuleField field) {
-    switch (field) {
-        case RuleField::kInputFolder:
-            return IDC_RULE_INPUT_EDIT;
-        case RuleField::kOutputFolder:
-            return IDC_RULE_OUTPUT_EDIT;
-        case RuleField::kErrorFolder:
-            return IDC_RULE_ERROR_EDIT;
-        case RuleField::kMasks:
-            return IDC_RULE_ADD_MASK_BUTTON;
-        case RuleField::kCertificates:
-            return IDC_RULE_CERT_BUTTON;
-        case RuleField::kCertPath:
-            return IDC_RULE_CERT_EDIT;
-        case RuleField::kOperation:
-            break;
-    }
-    return IDC_RULE_OPERATION_COMBO;
-}
-
 void ShowControl(HWND control, bool isShown) {
     ShowWindow(control, isShown ? SW_SHOWNA : SW_HIDE);
 }
@@ -117,7 +94,7 @@ void ShowChoice(HWND control, const ChoiceField& choice) {
 
 CAddRule::CAddRule(HWND owner, const store::Profile& profile, store::TextList maskSuggestions,
                    const store::Rule& rule, const EditorServices& services)
-    : toolkit::Dialog(IDD_RULE_EDITOR, owner),
+    : reporting::ProductDialog(IDD_RULE_EDITOR, owner, services.reporter),
       services_(services),
       maskSuggestions_(std::move(maskSuggestions)),
       form_(OpenRule(profile, rule, services.acceptedCsProfile)) {}
@@ -129,19 +106,15 @@ bool CAddRule::OnInitDialog() {
     SetUpButtons();
     maskList_.Attach(Control(IDC_RULE_MASK_LIST), toolkit::SystemMetric(SM_CXVSCROLL, DotsPerInch()));
     ShowForm();
-    toolTip_.Activate(true);
     maskList_.Show(form_.result.masks);
     opened_ = CommitRule(FieldsAsShown(form_));
     return true;
 }
 
 void CAddRule::SetUpButtons() {
-    toolTip_.Create(Window());
     for (const ButtonOfForm& entry : kButtons) {
         const IconButton& button = form_.*entry.button;
-        toolTip_.Add(Control(entry.id), button.toolTip.c_str());
-        SetControlText(entry.id, button.toolTip.c_str());
-        buttonIcons_.Show(Window(), DotsPerInch(), entry.id, IconResource(button.icon));
+        SetIconButton(entry.id, button.toolTip, IconResource(button.icon));
     }
 }
 
@@ -182,9 +155,7 @@ void CAddRule::ShowFields() {
 void CAddRule::ShowCertButton() {
     const IconButton& button = form_.certButton;
     SetControlText(IDC_RULE_CERT_LABEL, CertLabel(form_.laidOutOperation).c_str());
-    SetControlText(IDC_RULE_CERT_BUTTON, button.toolTip.c_str());
-    toolTip_.SetText(Control(IDC_RULE_CERT_BUTTON), button.toolTip.c_str());
-    buttonIcons_.Show(Window(), DotsPerInch(), IDC_RULE_CERT_BUTTON, IconResource(button.icon));
+    SetIconButton(IDC_RULE_CERT_BUTTON, button.toolTip, IconResource(button.icon));
     EnableControl(IDC_RULE_CERT_BUTTON, button.isEnabled);
     ShowTextField(Control(IDC_RULE_CERT_EDIT), form_.cert);
 }
@@ -201,7 +172,7 @@ bool CAddRule::OnCommand(int controlId, UINT notificationCode) {
     if (notificationCode == BN_CLICKED && OnButton(controlId)) {
         return true;
     }
-    return toolkit::Dialog::OnCommand(controlId, notificationCode);
+    return reporting::ProductDialog::OnCommand(controlId, notificationCode);
 }
 
 bool CAddRule::OnSelectionChanged(int controlId) {
@@ -227,10 +198,7 @@ void CAddRule::OnNumberChanged(int controlId) {
     NumberField& field = form_.numbers[static_cast<std::size_t>(std::distance(kRowNumbers.begin(), found))];
     const std::optional<std::wstring> correction = OnNumberTextChanged(field, toolkit::WindowText(edit));
     if (correction) {
-        SetWindowTextW(edit, correction->c_str());
-        // The caret goes behind the corrected number, where typing goes on.
-        const std::size_t end = correction->size();
-        SendMessageW(edit, EM_SETSEL, end, static_cast<LPARAM>(end));
+        CorrectTypedText(controlId, *correction);
     }
 }
 
@@ -317,11 +285,8 @@ void CAddRule::PickCertPath(const toolkit::PathChoice& choice) {
 void CAddRule::OnOk() {
     TakeData();
     PutData();
-    const std::optional<RuleRefusal> refusal = CheckRule(form_, services_.files);
-    if (refusal) {
-        ShowRefusal(*refusal, services_.reporter, Window(),
-                    [this](const std::wstring& text, RuleIcon icon) { ShowErrorBox(text, icon); });
-        FocusControl(ControlToMend(refusal->field));
+    if (const auto refusal = CheckRule(form_, services_.files)) {
+        Show(*refusal);
         return;
     }
     result_ = CommitRule(form_);
@@ -332,21 +297,9 @@ const wchar_t* CAddRule::UnsavedInputReason() {
     return reporting::ReasonAgainstEnd(CommitRule(FieldsAsShown(form_)) != opened_);
 }
 
-void CAddRule::ShowErrorBox(const std::wstring& text, RuleIcon icon) {
-    const int size =
-        MulDiv(toolkit::kButtonIconSize, static_cast<int>(DotsPerInch()), USER_DEFAULT_SCREEN_DPI);
-    const toolkit::UniqueIcon picture = toolkit::LoadIconResource(IconResource(icon), size);
-    reporting::ErrBox(Window(), text, picture.get()).RunModal();
-}
-
 void CAddRule::OnScaleChanged() {
-    buttonIcons_.Rescale(Window(), DotsPerInch());
+    reporting::ProductDialog::OnScaleChanged();
     maskList_.FitColumn();
-}
-
-bool CAddRule::PreTranslateMessage(MSG& message) {
-    toolTip_.Relay(message);
-    return toolkit::Dialog::PreTranslateMessage(message);
 }
 
 void CAddRule::ExchangeFields(toolkit::DataExchange& exchange) {
@@ -364,10 +317,6 @@ void CAddRule::ExchangeFields(toolkit::DataExchange& exchange) {
     for (std::size_t row = 0; row < kRowTexts.size(); ++row) {
         exchange.Text(kRowTexts[row], form_.texts[row].text);
     }
-}
-
-void CAddRule::ReportException(const std::exception& exception) {
-    services_.reporter.ShowMessage(Window(), exception.what(), reporting::kErrorStyle);
 }
 
 std::optional<store::Rule> EditRule(toolkit::WindowHandle owner, const store::Profile& profile,

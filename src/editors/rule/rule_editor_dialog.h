@@ -6,10 +6,8 @@
 #include "editors/editor_services.h"
 #include "editors/mask/mask_list_view.h"
 #include "editors/rule/rule_form.h"
+#include "reporting/product_dialog.h"
 #include "store/records.h"
-#include "toolkit/controls/button_icons.h"
-#include "toolkit/controls/tool_tip.h"
-#include "toolkit/dialog/dialog.h"
 #include "toolkit/files/paths.h"
 #include "toolkit/system/window_handle.h"
 
@@ -17,7 +15,7 @@ namespace corvane::editors {
 
 /// The rule editor: one template whose fields follow the operation. It shows a RuleForm, reads it back and
 /// asks the functions on the form what to do.
-class CAddRule final : public toolkit::Dialog {
+class CAddRule final : public reporting::ProductDialog {
   public:
     /// Opens on a copy of `rule`, which belongs to `profile`; one without an operation is a new rule.
     CAddRule(HWND owner, const store::Profile& profile, store::TextList maskSuggestions,
@@ -33,9 +31,7 @@ class CAddRule final : public toolkit::Dialog {
     void OnOk() override;
     const wchar_t* UnsavedInputReason() override;
     void OnScaleChanged() override;
-    bool PreTranslateMessage(MSG& message) override;
     void ExchangeFields(toolkit::DataExchange& exchange) override;
-    void ReportException(const std::exception& exception) override;
 
   private:
     void SetUpButtons();
@@ -52,7 +48,6 @@ class CAddRule final : public toolkit::Dialog {
     void PickFolder(std::wstring& field);
     void RunCertCommand();
     void PickCertPath(const toolkit::PathChoice& choice);
-    void ShowErrorBox(const std::wstring& text, RuleIcon icon);
 
     [[nodiscard]] std::optional<std::wstring> AskForMask(const std::wstring& initialText);
     void AddMaskToRule();
@@ -65,8 +60,6 @@ class CAddRule final : public toolkit::Dialog {
     store::Rule opened_;  ///< What OK would have given at the beginning.
     store::Rule result_;
     MaskListView maskList_;
-    toolkit::ToolTip toolTip_;
-    toolkit::ButtonIcons buttonIcons_;
 };
 
 /// Lets the user create or change one rule of `profile`; a rule without an operation is a new one.

@@ -11,7 +11,7 @@ namespace corvane::editors {
 
 bool CAddRule::OnNotify(NMHDR& header, LRESULT& result) {
     if (header.hwndFrom != maskList_.Control().Window()) {
-        return toolkit::Dialog::OnNotify(header, result);
+        return reporting::ProductDialog::OnNotify(header, result);
     }
     switch (header.code) {
         case NM_DBLCLK:
@@ -22,7 +22,7 @@ bool CAddRule::OnNotify(NMHDR& header, LRESULT& result) {
         case NM_RCLICK: {
             const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
             if (row >= 0) {
-                ShowMask(form_.result.masks, static_cast<std::size_t>(row), services_.messages, Window());
+                Show(MaskDetails(form_.result.masks, static_cast<std::size_t>(row)));
             }
             return true;
         }
@@ -63,7 +63,9 @@ void CAddRule::EditSelectedMask() {
 
 void CAddRule::DeleteSelectedMasks() {
     const std::vector<std::size_t> selected = maskList_.Control().SelectedRows();
-    if (DeleteMasks(form_.result.masks, selected, services_.reporter, Window())) {
+    const std::optional<reporting::Question> question = MaskDeletionQuestion(form_.result.masks, selected);
+    if (question && IsAgreed(*question)) {
+        DeleteMasks(form_.result.masks, selected);
         maskList_.ShowChanged(form_.result.masks, {});
         // The arrow keys go on from where the first of them stood.
         maskList_.Control().MarkFocus(

@@ -1,37 +1,28 @@
 #include "editors/rule/rule_validation.h"
 
-#include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "store/system_codes.h"
 
 namespace corvane::editors {
 
 namespace {
 
-using Refusal = std::optional<RuleRefusal>;
+using Refusal = std::optional<reporting::Refusal>;
 
-RuleRefusal Message(const wchar_t* text, RuleField field) {
-    return {.kind = RefusalKind::kMessage, .text = text, .icon = {}, .folder = {}, .code = 0, .field = field};
-}
-
-RuleRefusal ErrorBox(const wchar_t* text, RuleIcon icon, RuleField field) {
-    return {
-        .kind = RefusalKind::kErrorBox, .text = text, .icon = icon, .folder = {}, .code = 0, .field = field};
+reporting::Refusal ErrorBox(const wchar_t* text, int iconId, int controlId) {
+    return {.wording = reporting::RefusalPicture{.text = text, .iconId = iconId}, .controlId = controlId};
 }
 
 /// A folder of the form, where it is entered, and what is said of a bad one.
 struct FolderToCheck {
     const std::wstring& path;
     const wchar_t* detail;
-    RuleField field;
+    int controlId;
 };
 
-RuleRefusal FileReport(const FolderToCheck& folder, std::uint32_t code) {
-    return {.kind = RefusalKind::kFileReport,
-            .text = folder.detail,
-            .icon = {},
-            .folder = folder.path,
-            .code = code,
-            .field = folder.field};
+reporting::Refusal FileReport(const FolderToCheck& folder, std::uint32_t code) {
+    return {.wording = reporting::RefusedPath{.path = folder.path, .code = code, .detail = folder.detail},
+            .controlId = folder.controlId};
 }
 
 Refusal CheckFolder(const FolderToCheck& folder, toolkit::FileCalls& files) {
@@ -46,39 +37,31 @@ Refusal CheckFolder(const FolderToCheck& folder, toolkit::FileCalls& files) {
     if (code == store::kCodeFileExists) {
         // Deliberate: "file exists" as the reason why a path does not exist is kept from users, who could
         // make nothing of it; the editor just stays open.
-        return RuleRefusal{.kind = RefusalKind::kSilent,
-                           .text = {},
-                           .icon = {},
-                           .folder = folder.path,
-                           .code = code,
-                           .field = folder.field};
+        return reporting::Refusal{.wording = reporting::SilentRefusal(), .controlId = folder.controlId};
     }
     return FileReport(folder, code);
 }
 
 Refusal CheckFoldersAreSet(const RuleForm& form, const OperationRow& layout) {
     if (IsNotSet(form.inputFolder.text)) {
-        return ErrorBox(L"No Input folder selected.", RuleIcon::kInputFolder, RuleField::kInputFolder);
+        return ErrorBox(L"No Input folder selected.", IDI_INPUT_FOLDER, IDC_RULE_INPUT_EDIT);
     }
     if (layout.usesOutputFolder && IsNotSet(form.outputFolder.text)) {
-        return ErrorBox(L"No Output folder selected.", RuleIcon::kOutputFolder, RuleField::kOutputFolder);
+        return ErrorBox(L"No Output folder selected.", IDI_OUTPUT_FOLDER, IDC_RULE_OUTPUT_EDIT);
     }
     if (IsNotSet(form.errorFolder.text)) {
-        return ErrorBox(L"No Error folder selected.", RuleIcon::kErrorFolder, RuleField::kErrorFolder);
+        return ErrorBox(L"No Error folder selected.", IDI_ERROR_FOLDER, IDC_RULE_ERROR_EDIT);
     }
     return std::nullopt;
 }
 
 Refusal CheckFolders(const RuleForm& form, const OperationRow& layout, toolkit::FileCalls& files) {
-    Refusal refusal =
-        CheckFolder({form.inputFolder.text, L"Bad Input folder.", RuleField::kInputFolder}, files);
+    Refusal refusal = CheckFolder({form.inputFolder.text, L"Bad Input folder.", IDC_RULE_INPUT_EDIT}, files);
     if (!refusal && layout.usesOutputFolder) {
-        refusal =
-            CheckFolder({form.outputFolder.text, L"Bad Output folder.", RuleField::kOutputFolder}, files);
+        refusal = CheckFolder({form.outputFolder.text, L"Bad Output folder.", IDC_RULE_OUTPUT_EDIT}, files);
     }
-    return refusal
-               ? refusal
-               : CheckFolder({form.errorFolder.text, L"Bad Error folder.", RuleField::kErrorFolder}, files);
+    return refusal ? refusal
+                   : CheckFolder({form.errorFolder.text, L"Bad Error folder.", IDC_RULE_ERROR_EDIT}, files);
 }
 
 Refusal CheckCert(const RuleForm& form, CertUse use, toolkit::FileCalls& files) {
@@ -86,18 +69,18 @@ Refusal CheckCert(const RuleForm& form, CertUse use, toolkit::FileCalls& files) 
     switch (use) {
         case CertUse::kRecipients:
             if (form.recipients.empty()) {
-                return ErrorBox(L"No certificate is selected for operation.", RuleIcon::kCertificates,
-                                RuleField::kCertificates);
+                return ErrorBox(L"No certificate is selected for operation.", IDI_CERTIFICATES,
+                                IDC_RULE_CERT_BUTTON);
             }
             break;
         case CertUse::kSecondOutputFolder:
             if (!IsNotSet(path)) {
-                return CheckFolder({path, L"Bad Second Output folder.", RuleField::kCertPath}, files);
+                return CheckFolder({path, L"Bad Second Output folder.", IDC_RULE_CERT_EDIT}, files);
             }
             break;
         case CertUse::kExecutable:
             if (IsNotSet(path)) {
-                return ErrorBox(L"Executable file is not set.", RuleIcon::kExecutable, RuleField::kCertPath);
+                return ErrorBox(L"Executable file is not set.", IDI_EXECUTABLE, IDC_RULE_CERT_EDIT);
             }
             break;
         case CertUse::kNone:
@@ -109,10 +92,10 @@ Refusal CheckCert(const RuleForm& form, CertUse use, toolkit::FileCalls& files) 
 
 }  // namespace
 
-std::optional<RuleRefusal> CheckRule(const RuleForm& form, toolkit::FileCalls& files) {
+std::optional<reporting::Refusal> CheckRule(const RuleForm& form, toolkit::FileCalls& files) {
     const std::optional<Operation> operation = SelectedOperation(form);
     if (!operation) {
-        return Message(L"No operation selected.", RuleField::kOperation);
+        return reporting::Refuse(L"No operation selected.", IDC_RULE_OPERATION_COMBO);
     }
     const OperationRow& layout = RowOf(*operation);
     Refusal refusal = CheckFoldersAreSet(form, layout);
@@ -120,29 +103,9 @@ std::optional<RuleRefusal> CheckRule(const RuleForm& form, toolkit::FileCalls& f
         refusal = CheckFolders(form, layout, files);
     }
     if (!refusal && form.result.masks.empty()) {
-        refusal = Message(L"No Mask selected.", RuleField::kMasks);
+        refusal = reporting::Refuse(L"No Mask selected.", IDC_RULE_ADD_MASK_BUTTON);
     }
     return refusal ? refusal : CheckCert(form, layout.cert, files);
-}
-
-void ShowRefusal(const RuleRefusal& refusal, reporting::ErrorReporter& reporter, toolkit::WindowHandle dialog,
-                 const ShowErrorBox& showErrorBox) {
-    switch (refusal.kind) {
-        case RefusalKind::kMessage:
-            reporter.ShowMessage(dialog, refusal.text, reporting::kRefusalStyle);
-            break;
-        case RefusalKind::kErrorBox:
-            showErrorBox(refusal.text, refusal.icon);
-            break;
-        case RefusalKind::kFileReport: {
-            std::wstring detail = refusal.text;
-            reporter.ReportError(dialog, 0, reporting::kShowReport, refusal.code, "Opening file %s", &detail,
-                                 reporter.Text().Narrow(refusal.folder).c_str());
-            break;
-        }
-        case RefusalKind::kSilent:
-            break;
-    }
 }
 
 }  // namespace corvane::editors

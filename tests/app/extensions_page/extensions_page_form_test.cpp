@@ -3,7 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "reporting/message_styles.h"
+#include "reporting/unsaved_changes.h"
+#include "res/ids.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
 
 namespace corvane::test {
@@ -22,12 +26,22 @@ class ConfigPage : public ::testing::Test {
         settings.logPath = L"C:\\log";
         return settings;
     }
-    std::optional<app::ExtensionField> Apply(const corvane::store::TextList& listed = {L"listed"}) {
-        return form_.Apply(listed, fixture_.reporter, dialog_);
+    // What the dialog does when the user presses a button. Apply gives the control to mend, 0 for none.
+    int Apply(const corvane::store::TextList& listed = {L"listed"}) {
+        const std::optional<reporting::Refusal> refusal = form_.Apply(listed);
+        fixture_.IsAccepted(refusal, dialog_);
+        return refusal.value_or(reporting::Refusal()).controlId;
     }
-    bool Confirm() { return form_.Confirm(fixture_.reporter, dialog_); }
+    bool Confirm() { return reporting::MayLeave(form_.IsModified(), fixture_.reporter, dialog_); }
     bool Delete(const std::optional<std::wstring>& selected) {
-        return form_.DeleteExtension(selected, fixture_.reporter, dialog_);
+        if (!selected) {
+            return fixture_.IsAccepted(app::ConfigPageForm::NothingToDelete(), dialog_);
+        }
+        if (!fixture_.IsAgreed(app::ConfigPageForm::DeletionQuestion(*selected), dialog_)) {
+            return false;
+        }
+        form_.OnExtensionDeleted();
+        return true;
     }
     [[nodiscard]] ShownBox Box(const wchar_t* text, std::uint32_t style) const {
         return {dialog_, text, reporting::AppTitle, style};
@@ -73,6 +87,7 @@ TEST_F(ConfigPage, AnExtensionThatIsListedIsDroppedWithoutAMessageAndIsNoChange)
 TEST_F(ConfigPage, DeletingWithoutASelectionIsRefused) {
     EXPECT_FALSE(Delete(std::nullopt));
     EXPECT_THAT(Boxes(), ElementsAre(Box(L"Select list item to delete.", reporting::kRefusalStyle)));
+    EXPECT_EQ(app::ConfigPageForm::NothingToDelete().controlId, IDC_CONFIG_ADDITIONAL_LIST);
     EXPECT_FALSE(form_.IsModified());
 }
 
@@ -92,7 +107,7 @@ TEST_F(ConfigPage, DeletingAsksAndOnlyYesDeletes) {
 
 TEST_F(ConfigPage, ApplyTakesTheListAndCountsTheChangesAsKept) {
     form_.OnExtensionEdited();
-    EXPECT_EQ(Apply({L"a", L"b"}), std::nullopt);
+    EXPECT_EQ(Apply({L"a", L"b"}), 0);
     EXPECT_THAT(form_.settings.additionalExtensions, ElementsAre(L"a", L"b"));
     EXPECT_FALSE(form_.IsModified());
     EXPECT_TRUE(Confirm());
@@ -101,36 +116,39 @@ TEST_F(ConfigPage, ApplyTakesTheListAndCountsTheChangesAsKept) {
 
 TEST_F(ConfigPage, ApplyWithoutAChangeDoesNothingNotEvenItsChecks) {
     form_.settings.hashExtension.clear();
-    EXPECT_EQ(Apply(), std::nullopt);
+    EXPECT_EQ(Apply(), 0);
     EXPECT_THAT(form_.settings.additionalExtensions, ElementsAre(L"pdf", L"xml"));
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(ConfigPage, ApplyRefusesTheFirstOfSixExtensionsThatIsEmpty) {
-    const std::pair<app::ExtensionField, const wchar_t*> checks[] = {
-        {&store::AppSettings::signedExtension,
+    const std::tuple<app::ExtensionField, int, const wchar_t*> checks[] = {
+        {&store::AppSettings::signedExtension, IDC_CONFIG_SIGNED_EDIT,
          L"Please, choose extension for files with attached signature."},
-        {&store::AppSettings::detachedSignatureExtension,
+        {&store::AppSettings::detachedSignatureExtension, IDC_CONFIG_DETACHED_EDIT,
          L"Please, choose extension for files with detached signature."},
-        {&store::AppSettings::encryptedExtension, L"Please, choose extension for encrypted files."},
-        {&store::AppSettings::base64Extension, L"Please, choose extension for b64 files."},
-        {&store::AppSettings::hashExtension, L"Please, choose extension for hash files."},
-        {&store::AppSettings::verificationExtension,
+        {&store::AppSettings::encryptedExtension, IDC_CONFIG_ENCRYPTED_EDIT,
+         L"Please, choose extension for encrypted files."},
+        {&store::AppSettings::base64Extension, IDC_CONFIG_BASE64_EDIT,
+         L"Please, choose extension for b64 files."},
+        {&store::AppSettings::hashExtension, IDC_CONFIG_HASH_EDIT,
+         L"Please, choose extension for hash files."},
+        {&store::AppSettings::verificationExtension, IDC_CONFIG_VERIFICATION_EDIT,
          L"Please, choose extension for files with signature verification report."},
     };
     for (const auto& check : checks) {
-        form_.settings.*check.first = L"";
+        form_.settings.*std::get<0>(check) = L"";
     }
     form_.OnExtensionEdited();
-    for (const auto& [field, message] : checks) {
+    for (const auto& [field, controlId, message] : checks) {
         fixture_.presenter.Clear();
-        EXPECT_EQ(Apply(), std::optional(field));
+        EXPECT_EQ(Apply(), controlId);
         EXPECT_THAT(Boxes(), ElementsAre(Box(message, reporting::kRefusalStyle)));
         EXPECT_TRUE(form_.IsModified());
         EXPECT_THAT(form_.settings.additionalExtensions, ElementsAre(L"pdf", L"xml"));
         form_.settings.*field = L"x";
     }
-    EXPECT_EQ(Apply(), std::nullopt);
+    EXPECT_EQ(Apply(), 0);
     EXPECT_FALSE(form_.IsModified());
 }
 
@@ -138,7 +156,7 @@ TEST_F(ConfigPage, ApplyTakesEmptyExtensionsOfArchives) {
     form_.settings.zipExtension.clear();
     form_.settings.gzipExtension.clear();
     form_.OnExtensionEdited();
-    EXPECT_EQ(Apply(), std::nullopt);
+    EXPECT_EQ(Apply(), 0);
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_FALSE(form_.IsModified());
 }

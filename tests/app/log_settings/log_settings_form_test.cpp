@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "tests/kit/fakes/memory_files.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
 
@@ -20,8 +21,17 @@ class LogSettings : public ::testing::Test {
     void AnswerExistence(std::uint32_t code) { files_.FailCall(0, code); }
 
     bool Confirm() {
-        fieldToMend_ = form_.Confirm(files_, fixture_.reporter, fixture_.presenter, dialog_);
-        return !fieldToMend_.has_value();
+        const std::optional<reporting::Refusal> refusal = form_.Check(files_);
+        toMend_ = refusal.value_or(reporting::Refusal()).controlId;
+        if (!fixture_.IsAccepted(refusal, dialog_)) {
+            return false;
+        }
+        form_.Commit();
+        return true;
+    }
+
+    void ChooseFolder(const std::wstring& folder) {
+        fixture_.IsAccepted(form_.ChooseFolder(folder, files_), dialog_);
     }
 
     [[nodiscard]] std::vector<ShownBox> Boxes() const { return fixture_.presenter.Boxes(); }
@@ -40,7 +50,7 @@ class LogSettings : public ::testing::Test {
     ReporterFixture fixture_;
     MemoryFiles files_;
     app::LogSettingsForm form_{L"C:\\old", 4000};
-    std::optional<app::LogSettingsField> fieldToMend_;  ///< What the last OK left to be mended.
+    int toMend_ = 0;  ///< The control that the last OK left to be mended.
 };
 
 TEST_F(LogSettings, StartWithTheSettingsInForce) {
@@ -91,7 +101,7 @@ TEST_F(LogSettings, WhatIsPutBackStandsWhenItsOwnChangeIsToldOf) {
 
 TEST_F(LogSettings, AChosenFolderBecomesTheEditedPathButNotYetTheLogPath) {
     files_.contents[L"D:\\log"] = "";
-    form_.ChooseFolder(L"D:\\log", files_, fixture_.reporter, dialog_);
+    ChooseFolder(L"D:\\log");
     EXPECT_EQ(form_.editedPath, L"D:\\log");
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -99,14 +109,14 @@ TEST_F(LogSettings, AChosenFolderBecomesTheEditedPathButNotYetTheLogPath) {
 
 TEST_F(LogSettings, AChosenFolderThatDoesNotExistIsReportedAndTakenAllTheSame) {
     AnswerExistence(3);
-    form_.ChooseFolder(L"D:\\log", files_, fixture_.reporter, dialog_);
+    ChooseFolder(L"D:\\log");
     EXPECT_EQ(form_.editedPath, L"D:\\log");
     EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(L"D:\\log", 3)));
 }
 
 TEST_F(LogSettings, AChosenFolderWithCode80IsNotReported) {
     AnswerExistence(80);
-    form_.ChooseFolder(L"D:\\log", files_, fixture_.reporter, dialog_);
+    ChooseFolder(L"D:\\log");
     EXPECT_EQ(form_.editedPath, L"D:\\log");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
@@ -134,7 +144,7 @@ TEST_F(LogSettings, OkRefusesAPathThatDoesNotExist) {
     EXPECT_FALSE(Confirm());
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_EQ(form_.editedPath, L"D:\\log");
-    EXPECT_EQ(fieldToMend_, app::LogSettingsField::kPath);
+    EXPECT_EQ(toMend_, IDC_LOG_FOLDER_EDIT);
     EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(L"D:\\log", 5)));
 }
 
@@ -153,7 +163,7 @@ TEST_F(LogSettings, OkRefusesARelativePathEvenIfItExists) {
         form_.editedPath = path;
         fixture_.presenter.Clear();
         EXPECT_FALSE(Confirm()) << path;
-        EXPECT_EQ(fieldToMend_, app::LogSettingsField::kPath);
+        EXPECT_EQ(toMend_, IDC_LOG_FOLDER_EDIT);
         EXPECT_EQ(form_.LogPath(), L"C:\\old");
         EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(path, 3)));
     }
@@ -173,7 +183,7 @@ TEST_F(LogSettings, OkRefusesASizeBelow400InTheDialogsOwnBox) {
     EXPECT_FALSE(Confirm());
     EXPECT_EQ(form_.LogPath(), L"C:\\old");
     EXPECT_EQ(form_.logFileSize, 399);
-    EXPECT_EQ(fieldToMend_, app::LogSettingsField::kSize);
+    EXPECT_EQ(toMend_, IDC_LOG_SIZE_EDIT);
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{.owner = dialog_,
                                               .text = L"Log files size must be bigger than 400 KB.",
                                               .title = L"QENT automized client Velmaris",
@@ -198,7 +208,7 @@ TEST_F(LogSettings, OkAsksForThePathBeforeTheSize) {
 
 TEST_F(LogSettings, AFolderOutsideAsciiIsNamedInTheReport) {
     AnswerExistence(3);
-    form_.ChooseFolder(L"D:\\журнал", files_, fixture_.reporter, dialog_);
+    ChooseFolder(L"D:\\журнал");
     EXPECT_THAT(Boxes(), ElementsAre(BadPathBox(L"D:\\журнал", 3)));
 }
 

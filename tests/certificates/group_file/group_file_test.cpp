@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "tests/kit/fakes/memory_files.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
 
@@ -192,15 +193,17 @@ TEST_F(GroupFile, AReadOnlyFileIsReportedAsNotCreated) {
 
 TEST_F(GroupFile, WithNobodyCheckedNothingIsSaved) {
     form_.AddFound({L"CN=B"});
-    EXPECT_FALSE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_));
+    EXPECT_FALSE(reports_.IsAccepted(certificates::CheckGroupToSave(form_), dialog_));
     settings_.signerMode = 1;
-    EXPECT_FALSE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_));
+    EXPECT_FALSE(reports_.IsAccepted(certificates::CheckGroupToSave(form_), dialog_));
     EXPECT_THAT(Boxes(), ElementsAre(ShownBox{dialog_, L"No users selected.", reporting::AppTitle, 0x30},
                                      ShownBox{dialog_, L"No signers selected.", reporting::AppTitle, 0x30}));
+    EXPECT_EQ(certificates::CheckGroupToSave(form_).value_or(reporting::Refusal()).controlId,
+              IDC_SELECTION_FOUND_LIST);
     form_.CheckFound(0, true);
-    EXPECT_TRUE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_));
+    EXPECT_TRUE(reports_.IsAccepted(certificates::CheckGroupToSave(form_), dialog_));
     form_.SetFilter(L"x");
-    EXPECT_FALSE(certificates::MaySaveGroup(form_, reports_.reporter, dialog_))
+    EXPECT_FALSE(reports_.IsAccepted(certificates::CheckGroupToSave(form_), dialog_))
         << "who is hidden is not checked";
 }
 

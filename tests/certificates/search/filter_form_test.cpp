@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
 
 namespace corvane::test {
@@ -46,7 +47,8 @@ TEST(FilterFormTest, WithoutAFieldOkIsRefusedAndNothingChanges) {
     reports.presenter.MakeLive(dialog);
     certificates::FilterForm form;
     form.sample = L" Iva* ";
-    EXPECT_FALSE(form.Confirm(reports.reporter, dialog));
+    EXPECT_FALSE(reports.IsAccepted(form.Check(), dialog));
+    EXPECT_EQ(form.Check().value_or(reporting::Refusal()).controlId, IDC_FILTER_FIELD_COMBO);
     EXPECT_EQ(form.sample, L" Iva* ");
     EXPECT_THAT(reports.presenter.Boxes(),
                 ElementsAre(ShownBox{dialog, L"Select field for filter", reporting::AppTitle, 0x30}));
@@ -57,7 +59,8 @@ TEST(FilterFormTest, OkTrimsTheBlanksOfTheSample) {
     certificates::FilterForm form;
     form.fieldIndex = 9;
     form.sample = L"  Iva n* ";
-    EXPECT_TRUE(form.Confirm(reports.reporter, nullptr));
+    EXPECT_TRUE(reports.IsAccepted(form.Check(), nullptr));
+    form.Commit();
     EXPECT_EQ(form.sample, L"Iva n*");
     EXPECT_THAT(reports.presenter.Boxes(), IsEmpty());
 }

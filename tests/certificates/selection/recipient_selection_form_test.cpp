@@ -5,7 +5,8 @@
 #include <set>
 
 #include "reporting/message_styles.h"
-#include "tests/certificates/provider_fixture.h"
+#include "res/ids.h"
+#include "tests/core/certs/certs_fixture.h"
 
 namespace corvane::test {
 namespace {
@@ -59,8 +60,16 @@ class SelectionForm : public CertsFixture {
         return owners;
     }
     bool Confirm(certificates::RecipientSelectionForm& form) {
-        outcome_ = form.Confirm(context_, Reporter(), owner_);
-        return outcome_ == certificates::SelectionOutcome::kAccepted;
+        const std::optional<reporting::Refusal> refusal = form.Confirm(context_, Reporter(), owner_);
+        toMend_ = refusal.value_or(reporting::Refusal()).controlId;
+        return Reports().IsAccepted(refusal, owner_);
+    }
+    bool DeleteAllFound(certificates::RecipientSelectionForm& form) {
+        if (!Reports().IsAgreed(form.DeletionQuestion(), owner_)) {
+            return false;
+        }
+        form.DeleteAllFound();
+        return true;
     }
     [[nodiscard]] ShownBox Question(const std::wstring& owner) const {
         return {owner_, L"No certificates found for user " + owner + L".\r\nContinue to check other users?",
@@ -73,7 +82,7 @@ class SelectionForm : public CertsFixture {
     std::set<std::string> withCertificate_;
     certificates::CertSearchSettings settings_;
     certificates::Cryptocontext context_ = OpenContext();
-    certificates::SelectionOutcome outcome_ = certificates::SelectionOutcome::kFailed;  ///< Of the last OK.
+    int toMend_ = -1;  ///< The control that the last OK sent the user to, 0 for none.
 };
 
 TEST_F(SelectionForm, ItsTitleSaysWhatItIsFor) {
@@ -98,7 +107,7 @@ TEST_F(SelectionForm, PositionsThatAreNotThereChangeNothing) {
     form.SetSortField(9);
     EXPECT_EQ(form.FoundRow(0), certificates::OwnerRow{});
     EXPECT_EQ(form.ChosenRow(7), certificates::OwnerRow{});
-    EXPECT_EQ(form.FoundDetails(0), (certificates::OwnerBox{L"Subject", L""}));
+    EXPECT_EQ(form.FoundDetails(0), (reporting::Information{.text = L"", .title = L"Subject"}));
     EXPECT_EQ(form.FoundSortMark(), certificates::SortMark::kNone);
 }
 
@@ -168,11 +177,11 @@ TEST_F(SelectionForm, DeleteAllAsksAndForgetsTheGroupFile) {
     form.AddFound({L"CN=A"});
     form.lastGroupPath = L"C:\\g.grx";
     Reports().presenter.AnswerNext(reporting::kAnswerNo);
-    EXPECT_FALSE(form.DeleteAllFound(Reporter(), owner_));
+    EXPECT_FALSE(DeleteAllFound(form));
     EXPECT_THAT(Found(form), ElementsAre(L"CN=A"));
     EXPECT_EQ(form.lastGroupPath, L"C:\\g.grx");
     Reports().presenter.AnswerNext(reporting::kAnswerYes);
-    EXPECT_TRUE(form.DeleteAllFound(Reporter(), owner_));
+    EXPECT_TRUE(DeleteAllFound(form));
     EXPECT_THAT(Found(form), IsEmpty());
     EXPECT_THAT(Chosen(form), ElementsAre(L"CN=Z"));
     EXPECT_EQ(form.lastGroupPath, L"");
@@ -185,10 +194,10 @@ TEST_F(SelectionForm, DeleteAllAsksAndForgetsTheGroupFile) {
 TEST_F(SelectionForm, DeleteAllOfAnEmptyListAsksNothing) {
     certificates::RecipientSelectionForm form = Form();
     form.lastGroupPath = L"C:\\g.grx";
-    EXPECT_FALSE(form.DeleteAllFound(Reporter(), owner_));
+    EXPECT_FALSE(DeleteAllFound(form));
     form.AddFound({L"CN=A"});
     form.SetFilter(L"nobody");
-    EXPECT_FALSE(form.DeleteAllFound(Reporter(), owner_)) << "nothing is shown";
+    EXPECT_FALSE(DeleteAllFound(form)) << "nothing is shown";
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_EQ(form.lastGroupPath, L"C:\\g.grx");
 }
@@ -361,9 +370,11 @@ TEST_F(SelectionForm, ARemovedOwnerCanBeAddedAgain) {
 TEST_F(SelectionForm, ADoubleClickShowsTheOwnerInLines) {
     certificates::RecipientSelectionForm form = Form({L"CN=A,O=X, Y"});
     form.AddFound({L"CN=B,C=RU"});
-    EXPECT_EQ(form.FoundDetails(0), (certificates::OwnerBox{L"Subject", L"CN=B,\r\nC=RU"}));
-    EXPECT_EQ(form.ChosenDetails(0), (certificates::OwnerBox{L"Recipient", L"CN=A,\r\nO=X, Y"}));
-    EXPECT_EQ(SignerForm({L"CN=A"}, {}, L"").ChosenDetails(0), (certificates::OwnerBox{L"Signer", L"CN=A"}));
+    EXPECT_EQ(form.FoundDetails(0), (reporting::Information{.text = L"CN=B,\r\nC=RU", .title = L"Subject"}));
+    EXPECT_EQ(form.ChosenDetails(0),
+              (reporting::Information{.text = L"CN=A,\r\nO=X, Y", .title = L"Recipient"}));
+    EXPECT_EQ(SignerForm({L"CN=A"}, {}, L"").ChosenDetails(0),
+              (reporting::Information{.text = L"CN=A", .title = L"Signer"}));
 }
 
 TEST_F(SelectionForm, OkAsksForEveryLowerOwnerCheckedOrNotInTheOrderShown) {
@@ -393,7 +404,7 @@ TEST_F(SelectionForm, NoKeepsEveryOwnerAndTheDialog) {
     withCertificate_ = {"CN=A", "CN=C"};
     Reports().presenter.AnswerNext(reporting::kAnswerNo);
     EXPECT_FALSE(Confirm(form));
-    EXPECT_EQ(outcome_, certificates::SelectionOutcome::kBadOwner);
+    EXPECT_EQ(toMend_, IDC_SELECTION_CHOSEN_LIST);
     EXPECT_THAT(Chosen(form), ElementsAre(L"CN=A", L"CN=B", L"CN=C"));
     EXPECT_THAT(form.Result(), IsEmpty());
     EXPECT_EQ(sessions_.Searches().size(), 2U);
@@ -403,7 +414,7 @@ TEST_F(SelectionForm, AFailedSearchStopsOk) {
     certificates::RecipientSelectionForm form = Form({L"CN=A", L"CN=B"});
     sessions_.findStatus = 0xE0700046;
     EXPECT_FALSE(Confirm(form));
-    EXPECT_EQ(outcome_, certificates::SelectionOutcome::kFailed);
+    EXPECT_EQ(toMend_, 0);
     EXPECT_EQ(sessions_.Searches().size(), 1U);
     EXPECT_EQ(Boxes().size(), 1U);
     EXPECT_EQ(Boxes()[0].style, reporting::kErrorStyle);
@@ -421,7 +432,7 @@ TEST_F(SelectionForm, ASignerListNeedsASigner) {
     certificates::RecipientSelectionForm form = SignerForm({L"CN=A"}, {}, L"one");
     Reports().presenter.AnswerNext(reporting::kAnswerYes);
     EXPECT_FALSE(Confirm(form));
-    EXPECT_EQ(outcome_, certificates::SelectionOutcome::kNobodyChosen);
+    EXPECT_EQ(toMend_, IDC_SELECTION_FOUND_LIST);
     EXPECT_THAT(Boxes(), ElementsAre(Question(L"CN=A"), Refusal(L"No users selected.")));
     certificates::RecipientSelectionForm empty = SignerForm({}, {}, L"one");
     EXPECT_FALSE(Confirm(empty));
@@ -433,10 +444,10 @@ TEST_F(SelectionForm, ASignerListNeedsANameOfItsOwnBeforeAnySearch) {
     withCertificate_ = {"CN=A"};
     form.listName = L"";
     EXPECT_FALSE(Confirm(form));
-    EXPECT_EQ(outcome_, certificates::SelectionOutcome::kBadListName);
+    EXPECT_EQ(toMend_, IDC_SELECTION_LIST_NAME_EDIT);
     form.listName = L"two";
     EXPECT_FALSE(Confirm(form));
-    EXPECT_EQ(outcome_, certificates::SelectionOutcome::kBadListName);
+    EXPECT_EQ(toMend_, IDC_SELECTION_LIST_NAME_EDIT);
     EXPECT_THAT(Boxes(),
                 ElementsAre(Refusal(L"No list name"), Refusal(L"List with this name already exists")));
     EXPECT_THAT(sessions_.Searches(), IsEmpty());

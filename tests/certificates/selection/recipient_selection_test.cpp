@@ -40,7 +40,7 @@ class Selection : public CertsFixture {
             form.AddFound({L"CN=New"});
             form.CheckAllFound(true);
             EXPECT_EQ(form.AddChecked(), L"");
-            return form.Confirm(context, Reporter(), owner_) == certificates::SelectionOutcome::kAccepted;
+            return Reports().IsAccepted(form.Confirm(context, Reporter(), owner_), owner_);
         };
     }
     certificates::SelectionRun Cancelling() {

@@ -21,7 +21,11 @@ class SignerLists : public ::testing::Test {
 
     bool Delete(const std::vector<std::size_t>& positions, int answer) {
         reports_.presenter.AnswerNext(answer);
-        return form_.Delete(positions, reports_.reporter, dialog_);
+        if (!reports_.IsAgreed(form_.DeletionQuestion(positions), dialog_)) {
+            return false;
+        }
+        form_.Delete(positions);
+        return true;
     }
     [[nodiscard]] ShownBox Question(const std::wstring& text) const {
         return {dialog_, text, reporting::AppTitle, 0x134};
@@ -70,8 +74,9 @@ TEST_F(SignerLists, NoDeletesNothing) {
 }
 
 TEST_F(SignerLists, WithNothingSelectedNothingIsAsked) {
-    EXPECT_FALSE(form_.Delete({}, reports_.reporter, dialog_));
-    EXPECT_FALSE(form_.Delete({3, 99}, reports_.reporter, dialog_));
+    EXPECT_EQ(form_.DeletionQuestion({}), std::nullopt);
+    EXPECT_EQ(form_.DeletionQuestion({3, 99}), std::nullopt);
+    form_.Delete({3, 99});
     EXPECT_THAT(reports_.presenter.Boxes(), IsEmpty());
     EXPECT_EQ(form_.Lists().size(), 3U);
 }

@@ -13,8 +13,10 @@ namespace {
 // The extension that is taken for a typed text; none where the dialog stays open.
 std::optional<std::wstring> Taken(const std::wstring& typed) {
     editors::ExtensionForm form{typed};
-    const bool isTaken = form.Confirm(TestSystemText(CodePage::kLatin));
-    if (!isTaken) {
+    const std::optional<reporting::Refusal> refusal = form.Confirm(TestSystemText(CodePage::kLatin));
+    const bool isTaken = !refusal.has_value();
+    if (refusal) {
+        EXPECT_EQ(*refusal, reporting::Refusal{.wording = reporting::SilentRefusal()});
         EXPECT_EQ(form.text, typed) << "changed by a refusal";
     }
     return isTaken ? std::optional(form.text) : std::nullopt;

@@ -19,7 +19,11 @@ class MaskList : public ::testing::Test {
     MaskList() { fixture_.presenter.MakeLive(dialog_); }
 
     bool Delete(const std::vector<std::size_t>& rows) {
-        return editors::DeleteMasks(masks_, rows, fixture_.reporter, dialog_);
+        if (!fixture_.IsAgreed(editors::MaskDeletionQuestion(masks_, rows), dialog_)) {
+            return false;
+        }
+        editors::DeleteMasks(masks_, rows);
+        return true;
     }
 
     toolkit::WindowHandle dialog_ = RecordingPresenter::Window(7);
@@ -85,17 +89,17 @@ TEST_F(MaskList, RowsThatDoNotExistOrAreOutOfOrderAreTheCallersFaultAndAskNothin
     EXPECT_THROW(Delete({2, 1}), std::invalid_argument);
     EXPECT_THROW(Delete({1, 1}), std::invalid_argument);
     EXPECT_THROW(editors::ReplaceMask(masks_, 4, L"x"), std::invalid_argument);
-    EXPECT_THROW(editors::ShowMask(masks_, 4, fixture_.presenter, dialog_), std::invalid_argument);
+    EXPECT_THROW(editors::DeleteMasks(masks_, {4}), std::invalid_argument);
+    EXPECT_THROW(editors::DeleteMasks(masks_, {2, 1}), std::invalid_argument);
+    EXPECT_THROW(static_cast<void>(editors::MaskDetails(masks_, 4)), std::invalid_argument);
     EXPECT_THAT(masks_, ElementsAre(L"1", L"2", L"3", L"4"));
     EXPECT_THAT(fixture_.presenter.Boxes(), IsEmpty());
 }
 
 TEST_F(MaskList, AMaskIsShownWholeInAnInformationBoxOfItsOwnTitle) {
     masks_[2] = std::wstring(300, L'x');
-    editors::ShowMask(masks_, 2, fixture_.presenter, dialog_);
-    EXPECT_THAT(fixture_.presenter.Boxes(),
-                ElementsAre(ShownBox{
-                    .owner = dialog_, .text = std::wstring(300, L'x'), .title = L"Mask", .style = 0x40}));
+    EXPECT_EQ(editors::MaskDetails(masks_, 2),
+              (reporting::Information{.text = std::wstring(300, L'x'), .title = L"Mask"}));
 }
 
 TEST_F(MaskList, TheColumnFirstLeavesRoomForAScrollBar) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "reporting/message_styles.h"
+#include "res/ids.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
 
 namespace corvane::test {
@@ -17,7 +18,7 @@ TEST(CsProfileChoice, GivesTheNameAtTheSelectedIndex) {
     editors::CsProfileChoiceForm form{.catalogue = {L"CS one", L"CS two"}};
     EXPECT_EQ(form.Name(), L"CS one") << "the first is selected";
     form.index = 1;
-    EXPECT_TRUE(form.Confirm(fixture.reporter, nullptr));
+    EXPECT_TRUE(fixture.IsAccepted(form.Check(), nullptr));
     EXPECT_EQ(form.Name(), L"CS two");
     EXPECT_THAT(fixture.presenter.Boxes(), IsEmpty());
 }
@@ -27,7 +28,8 @@ TEST(CsProfileChoice, WithNothingToChooseIsRefused) {
     const toolkit::WindowHandle dialog = RecordingPresenter::Window(7);
     fixture.presenter.MakeLive(dialog);
     const editors::CsProfileChoiceForm form{.catalogue = {}, .index = -1};
-    EXPECT_FALSE(form.Confirm(fixture.reporter, dialog));
+    EXPECT_FALSE(fixture.IsAccepted(form.Check(), dialog));
+    EXPECT_EQ(form.Check().value_or(reporting::Refusal()).controlId, IDC_CS_PROFILE_CHOICE_COMBO);
     EXPECT_THAT(fixture.presenter.Boxes(),
                 ElementsAre(ShownBox{dialog, L"No CS profiles found.", reporting::AppTitle,
                                      reporting::kRefusalStyle}));

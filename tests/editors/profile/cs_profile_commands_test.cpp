@@ -8,8 +8,9 @@
 
 #include "editors/profile/profile_form.h"
 #include "reporting/message_styles.h"
-#include "tests/kit/fixtures/reporter_fixture.h"
+#include "res/ids.h"
 #include "tests/kit/samples/sample_profiles.h"
+#include "tests/kit/fixtures/reporter_fixture.h"
 
 namespace corvane::test {
 namespace {
@@ -28,18 +29,23 @@ class CsProfileCommands : public ::testing::Test {
     // What the dialog does when the user selects an entry, or presses a button.
     void Select(int index) {
         form_.selectedCsProfile = index;
-        if (editors::MayLeaveCsProfile(form_, shown_)) {
+        if (!editors::LeaveCsProfile(form_, shown_)) {
             editors::ChangeShownCsProfile(form_, shown_);
         }
     }
     void Add(const std::wstring& name) {
-        if (editors::MayLeaveCsProfile(form_, shown_)) {
+        if (!editors::LeaveCsProfile(form_, shown_)) {
             editors::AddCsProfile(form_, name, shown_, fixture_.text);
         }
     }
     void Delete(int answer = reporting::kAnswerYes) {
         fixture_.presenter.AnswerNext(answer);
-        editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+        const std::optional<reporting::Refusal> refusal = editors::CheckCsProfileDeletion(form_);
+        toMend_ = refusal.value_or(reporting::Refusal()).controlId;
+        if (fixture_.IsAccepted(refusal, dialog_) &&
+            fixture_.IsAgreed(editors::CsProfileDeletionQuestion(form_), dialog_)) {
+            editors::DeleteCsProfile(form_, shown_);
+        }
     }
     void AddRule(const std::wstring& csProfile, const corvane::store::TextList& recipients,
                  const std::vector<store::SignerGroup>& lists) {
@@ -58,6 +64,7 @@ class CsProfileCommands : public ::testing::Test {
     ReporterFixture fixture_;
     editors::ShownCsProfile shown_;
     editors::ProfileForm form_;
+    int toMend_ = 0;  ///< The control that the last refusal sends the user to.
 };
 
 TEST_F(CsProfileCommands, ASelectionKeepsTheShownSettingsAndShowsTheOthers) {
@@ -91,7 +98,7 @@ TEST_F(CsProfileCommands, AMissingServerPutsTheSelectionBackAndKeepsWhatIsShown)
     form_.shown.timeStampServer.clear();
     const editors::ProfileForm before = form_;
     form_.selectedCsProfile = 0;
-    EXPECT_FALSE(editors::MayLeaveCsProfile(form_, shown_));
+    EXPECT_EQ(editors::LeaveCsProfile(form_, shown_), reporting::Refuse(L"Please, type TSP data."));
     EXPECT_EQ(form_.selectedCsProfile, 1);
     EXPECT_EQ(form_.shown, before.shown);
     EXPECT_EQ(form_.result, before.result);
@@ -152,7 +159,8 @@ TEST_F(CsProfileCommands, TheLastCsProfileCannotBeDeleted) {
     for (const int selected : {0, -1}) {
         fixture_.presenter.Clear();
         form_.selectedCsProfile = selected;
-        editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+        Delete();
+        EXPECT_EQ(toMend_, selected < 0 ? IDC_PROFILE_CS_PROFILE_LIST : 0);
         EXPECT_THAT(Boxes(), ElementsAre(Box(L"Last CS profile in list cannot be deleted.",
                                              reporting::kRefusalStyle)));
     }
@@ -163,9 +171,11 @@ TEST_F(CsProfileCommands, TheLastCsProfileCannotBeDeleted) {
 TEST_F(CsProfileCommands, DeletingWithoutASelectionIsRefused) {
     Open({L"A", L"B"});
     form_.selectedCsProfile = -1;
-    editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+    Delete();
+    EXPECT_EQ(toMend_, IDC_PROFILE_CS_PROFILE_LIST);
     Open({});
-    editors::DeleteCsProfile(form_, shown_, fixture_.reporter, dialog_);
+    Delete();
+    EXPECT_EQ(toMend_, IDC_PROFILE_CS_PROFILE_LIST);
     const ShownBox refusal = Box(L"Select list item to delete.", reporting::kRefusalStyle);
     EXPECT_THAT(Boxes(), ElementsAre(refusal, refusal));
 }

@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "res/ids.h"
 #include "tests/kit/samples/sample_profiles.h"
 
 namespace corvane::test {
 namespace {
 
-using RefusedProfile = std::optional<editors::ProfileRefusal>;
+using RefusedProfile = std::optional<reporting::Refusal>;
 
 class ProfileCheck : public ::testing::Test {
   protected:
@@ -22,7 +23,7 @@ class ProfileCheck : public ::testing::Test {
     }
 
     static RefusedProfile OfName(const wchar_t* text) {
-        return editors::ProfileRefusal{text, editors::ProfileField::kName};
+        return reporting::Refuse(text, IDC_PROFILE_NAME_EDIT);
     }
 
     editors::ProfileForm form_;
@@ -59,9 +60,8 @@ TEST_F(ProfileCheck, SixteenSpacesAreTooLongFirst) {
 
 TEST_F(ProfileCheck, ATimeoutOfZeroIsRefusedAndThereIsNoUpperBound) {
     form_.result.handlerTimeout = 0;
-    EXPECT_EQ(CheckName(L"beta"),
-              RefusedProfile(editors::ProfileRefusal{L"Please, choose handler timeout.",
-                                                     editors::ProfileField::kHandlerTimeout}));
+    EXPECT_EQ(CheckName(L"beta"), RefusedProfile(reporting::Refuse(L"Please, choose handler timeout.",
+                                                                   IDC_PROFILE_TIMEOUT_EDIT)));
     form_.result.handlerTimeout = 100000;
     EXPECT_EQ(CheckName(L"beta"), std::nullopt);
     form_.result.handlerTimeout = 2147483647;
@@ -88,8 +88,8 @@ TEST_F(ProfileCheck, NamesAreComparedWithTheirCaseAndBlanks) {
 
 TEST_F(ProfileCheck, AMissingTimeStampServerIsRefused) {
     form_.shown.timeStampServer.clear();
-    EXPECT_EQ(CheckName(L"beta"), RefusedProfile(editors::ProfileRefusal{
-                                      L"Please, type TSP data.", editors::ProfileField::kTimeStampServer}));
+    EXPECT_EQ(CheckName(L"beta"),
+              RefusedProfile(reporting::Refuse(L"Please, type TSP data.", IDC_PROFILE_TSP_EDIT)));
     form_.shown.timeStampServer = L"0";
     EXPECT_EQ(CheckName(L"beta"), std::nullopt);
 }
@@ -107,7 +107,8 @@ TEST_F(ProfileCheck, TheChecksStandInTheirOrder) {
     form_.result.handlerTimeout = 0;
     form_.shown.timeStampServer.clear();
     const auto text = [&] {
-        return editors::CheckProfile(form_, names).value_or(editors::ProfileRefusal{}).text;
+        const RefusedProfile refusal = editors::CheckProfile(form_, names);
+        return std::get<reporting::RefusalText>(refusal.value_or(reporting::Refusal()).wording).text;
     };
     EXPECT_EQ(text(), L"Please, type a name for profile.");
     form_.result.name = L"a\\b";

@@ -6,9 +6,10 @@
 #include <map>
 
 #include "reporting/message_styles.h"
+#include "res/ids.h"
+#include "tests/kit/samples/sample_rules.h"
 #include "tests/kit/fakes/memory_files.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
-#include "tests/kit/samples/sample_rules.h"
 
 namespace corvane::test {
 namespace {
@@ -16,41 +17,38 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using RefusedRule = std::optional<editors::RuleRefusal>;
+using RefusedRule = std::optional<reporting::Refusal>;
 
 /// Where what a refusal says can be mended.
-editors::RuleField FieldFor(const std::wstring& text) {
-    static const std::map<std::wstring, editors::RuleField> kFields = {
-        {L"No operation selected.", editors::RuleField::kOperation},
-        {L"No Input folder selected.", editors::RuleField::kInputFolder},
-        {L"No Output folder selected.", editors::RuleField::kOutputFolder},
-        {L"No Error folder selected.", editors::RuleField::kErrorFolder},
-        {L"Bad Input folder.", editors::RuleField::kInputFolder},
-        {L"Bad Output folder.", editors::RuleField::kOutputFolder},
-        {L"Bad Error folder.", editors::RuleField::kErrorFolder},
-        {L"No Mask selected.", editors::RuleField::kMasks},
-        {L"No certificate is selected for operation.", editors::RuleField::kCertificates},
-        {L"Bad Second Output folder.", editors::RuleField::kCertPath},
-        {L"Executable file is not set.", editors::RuleField::kCertPath},
+int ControlFor(const std::wstring& text) {
+    static const std::map<std::wstring, int> kControls = {
+        {L"No operation selected.", IDC_RULE_OPERATION_COMBO},
+        {L"No Input folder selected.", IDC_RULE_INPUT_EDIT},
+        {L"No Output folder selected.", IDC_RULE_OUTPUT_EDIT},
+        {L"No Error folder selected.", IDC_RULE_ERROR_EDIT},
+        {L"Bad Input folder.", IDC_RULE_INPUT_EDIT},
+        {L"Bad Output folder.", IDC_RULE_OUTPUT_EDIT},
+        {L"Bad Error folder.", IDC_RULE_ERROR_EDIT},
+        {L"No Mask selected.", IDC_RULE_ADD_MASK_BUTTON},
+        {L"No certificate is selected for operation.", IDC_RULE_CERT_BUTTON},
+        {L"Bad Second Output folder.", IDC_RULE_CERT_EDIT},
+        {L"Executable file is not set.", IDC_RULE_CERT_EDIT},
     };
-    return kFields.at(text);
+    return kControls.at(text);
 }
 
-editors::RuleRefusal Box(const wchar_t* text, editors::RuleIcon icon) {
-    return {editors::RefusalKind::kErrorBox, text, icon, L"", 0, FieldFor(text)};
+reporting::Refusal Box(const wchar_t* text, int iconId) {
+    return {.wording = reporting::RefusalPicture{.text = text, .iconId = iconId},
+            .controlId = ControlFor(text)};
 }
 
-editors::RuleRefusal Message(const wchar_t* text) {
-    return {editors::RefusalKind::kMessage, text, editors::RuleIcon::kInputFolder, L"", 0, FieldFor(text)};
+reporting::Refusal Message(const wchar_t* text) {
+    return reporting::Refuse(text, ControlFor(text));
 }
 
-editors::RuleRefusal Report(const wchar_t* detail, const std::wstring& folder, std::uint32_t code) {
-    return {editors::RefusalKind::kFileReport,
-            detail,
-            editors::RuleIcon::kInputFolder,
-            folder,
-            code,
-            FieldFor(detail)};
+reporting::Refusal Report(const wchar_t* detail, const std::wstring& folder, std::uint32_t code) {
+    return {.wording = reporting::RefusedPath{.path = folder, .code = code, .detail = detail},
+            .controlId = ControlFor(detail)};
 }
 
 class RuleCheck : public ::testing::Test {
@@ -64,12 +62,7 @@ class RuleCheck : public ::testing::Test {
 
     RefusedRule Check() { return editors::CheckRule(form_, files_); }
 
-    void Show(const editors::RuleRefusal& refusal) {
-        editors::ShowRefusal(refusal, fixture_.reporter, dialog_,
-                             [this](const std::wstring& text, editors::RuleIcon icon) {
-                                 errorBoxes_.emplace_back(text, icon);
-                             });
-    }
+    void Show(const reporting::Refusal& refusal) { fixture_.IsAccepted(refusal, dialog_); }
 
     [[nodiscard]] corvane::store::TextList AskedPaths() const {
         corvane::store::TextList paths;
@@ -83,7 +76,6 @@ class RuleCheck : public ::testing::Test {
     ReporterFixture fixture_;
     MemoryFiles files_;
     editors::RuleForm form_ = Opened(FullRule(L"HASH"));
-    std::vector<std::pair<std::wstring, editors::RuleIcon>> errorBoxes_;
 };
 
 TEST_F(RuleCheck, ARuleOfEveryOperationThatIsCompletePasses) {
@@ -103,13 +95,13 @@ TEST_F(RuleCheck, EachFolderThatIsNotSetIsRefusedWithItsPicture) {
     for (const wchar_t* const notSet : {L"", L"0"}) {
         form_ = Opened(FullRule(L"HASH"));
         form_.inputFolder.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", editors::RuleIcon::kInputFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", IDI_INPUT_FOLDER)));
         form_ = Opened(FullRule(L"HASH"));
         form_.outputFolder.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No Output folder selected.", editors::RuleIcon::kOutputFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Output folder selected.", IDI_OUTPUT_FOLDER)));
         form_ = Opened(FullRule(L"HASH"));
         form_.errorFolder.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", editors::RuleIcon::kErrorFolder)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", IDI_ERROR_FOLDER)));
     }
     EXPECT_THAT(AskedPaths(), IsEmpty());
 }
@@ -117,13 +109,13 @@ TEST_F(RuleCheck, EachFolderThatIsNotSetIsRefusedWithItsPicture) {
 TEST_F(RuleCheck, ARuleWithThreeMissingFoldersReportsOnlyTheInputFolder) {
     form_.inputFolder.text = form_.outputFolder.text = form_.errorFolder.text = L"";
     form_.result.masks.clear();
-    EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", editors::RuleIcon::kInputFolder)));
+    EXPECT_EQ(Check(), RefusedRule(Box(L"No Input folder selected.", IDI_INPUT_FOLDER)));
 }
 
 TEST_F(RuleCheck, AFolderThatIsNotSetComesBeforeABadOne) {
     form_.inputFolder.text = L"relative";
     form_.errorFolder.text = L"";
-    EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", editors::RuleIcon::kErrorFolder)));
+    EXPECT_EQ(Check(), RefusedRule(Box(L"No Error folder selected.", IDI_ERROR_FOLDER)));
 }
 
 TEST_F(RuleCheck, BlanksAreAFolderLikeAnyOther) {
@@ -183,12 +175,11 @@ TEST_F(RuleCheck, AFolderThatDoesNotExistWithCode80RefusesSilently) {
     files_.FailCall(0, 80);
     const RefusedRule refusal = Check();
     ASSERT_TRUE(refusal.has_value());
-    EXPECT_EQ(refusal->kind, editors::RefusalKind::kSilent);
-    EXPECT_EQ(refusal->field, editors::RuleField::kInputFolder)
+    EXPECT_EQ(refusal,
+              (reporting::Refusal{.wording = reporting::SilentRefusal(), .controlId = IDC_RULE_INPUT_EDIT}))
         << "It is told nowhere, but the caret goes there.";
     Show(*refusal);
     EXPECT_THAT(fixture_.presenter.Boxes(), IsEmpty());
-    EXPECT_THAT(errorBoxes_, IsEmpty());
 }
 
 TEST_F(RuleCheck, AFileInTheFoldersPlacePasses) {
@@ -203,7 +194,7 @@ TEST_F(RuleCheck, AFolderOf300CharactersIsAskedForAndReportedWhole) {
     const RefusedRule refusal = Check();
     EXPECT_EQ(refusal, RefusedRule(Report(L"Bad Input folder.", folder, 206)));
     EXPECT_THAT(AskedPaths(), ElementsAre(folder));
-    Show(refusal.value_or(editors::RuleRefusal()));
+    Show(refusal.value_or(reporting::Refusal()));
     EXPECT_EQ(fixture_.presenter.OnlyText(),
               L"Opening file " + folder + L".\r\nError 0xCE - System text 206.Bad Input folder.");
 }
@@ -219,8 +210,7 @@ TEST_F(RuleCheck, ARecipientOperationWithoutRecipientsIsRefusedOnlyAfterFoldersA
     for (const std::wstring code : {L"ENCR", L"LENC", L"SGEN"}) {
         form_ = Opened(FullRule(code));
         form_.recipients.clear();
-        EXPECT_EQ(Check(), RefusedRule(Box(L"No certificate is selected for operation.",
-                                           editors::RuleIcon::kCertificates)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"No certificate is selected for operation.", IDI_CERTIFICATES)));
         form_.result.masks.clear();
         EXPECT_EQ(Check(), RefusedRule(Message(L"No Mask selected.")));
         form_.errorFolder.text = L"relative";
@@ -260,7 +250,7 @@ TEST_F(RuleCheck, AnExecuteRuleWithoutAnExecutableIsRefused) {
     for (const wchar_t* const notSet : {L"", L"0"}) {
         form_ = Opened(FullRule(L"EXEC"));
         form_.cert.text = notSet;
-        EXPECT_EQ(Check(), RefusedRule(Box(L"Executable file is not set.", editors::RuleIcon::kExecutable)));
+        EXPECT_EQ(Check(), RefusedRule(Box(L"Executable file is not set.", IDI_EXECUTABLE)));
     }
 }
 
@@ -284,13 +274,10 @@ TEST_F(RuleCheck, AMessageIsShownOverTheEditor) {
         fixture_.presenter.Boxes(),
         ElementsAre(ShownBox{
             .owner = dialog_, .text = L"No Mask selected.", .title = reporting::AppTitle, .style = 0x30}));
-    EXPECT_THAT(errorBoxes_, IsEmpty());
 }
 
-TEST_F(RuleCheck, AnErrorBoxIsShownWithItsPicture) {
-    Show(Box(L"No Output folder selected.", editors::RuleIcon::kOutputFolder));
-    EXPECT_THAT(errorBoxes_, ElementsAre(std::pair(std::wstring(L"No Output folder selected."),
-                                                   editors::RuleIcon::kOutputFolder)));
+TEST_F(RuleCheck, WhatTheErrorBoxSaysIsSaidInNoOther) {
+    Show(Box(L"No Output folder selected.", IDI_OUTPUT_FOLDER));
     EXPECT_THAT(fixture_.presenter.Boxes(), IsEmpty());
 }
 

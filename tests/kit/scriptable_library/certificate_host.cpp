@@ -142,11 +142,11 @@ class CertificateHost {
     reporting::ErrorReporter reporter_{messages_, systemMessages_, provider_, text_};
     toolkit::WindowsFileCalls files_;
     store::WindowsRegistryCalls registry_;
-    certificates::WarningBoxPresenter warnings_;
+    certificates::WarningBoxPresenter warnings_{reporter_};
     certificates::SystemClock clock_;
     toolkit::WindowsInputGate input_;
     certificates::SessionOpening opening_;
-    certificates::AwaitWindow waitWindow_;
+    certificates::AwaitWindow waitWindow_{reporter_};
     certificates::CertServices services_{.provider = provider_,
                                          .reporter = reporter_,
                                          .warnings = warnings_,
