@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "app/extensions_page/extensions_page_form.h"
-#include "certificates/selection/recipient_selection.h"
+#include "certificates/selection/selection_form.h"
 #include "certificates/signer_lists/signer_lists_form.h"
 #include "editors/profile/cs_profile_commands.h"
 #include "editors/profile/profile_form.h"

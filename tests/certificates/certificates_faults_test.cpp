@@ -10,12 +10,12 @@
 #include <vector>
 
 #include "certificates/group_file/group_file.h"
-#include "certificates/selection/recipient_selection.h"
+#include "certificates/selection/selection_form.h"
 #include "tests/kit/fakes/memory_files.h"
 #include "tests/kit/fakes/memory_registry.h"
 #include "tests/kit/fakes/recording_input_gate.h"
-#include "tests/kit/fakes/scripted_sessions.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
+#include "tests/kit/fakes/scripted_sessions.h"
 
 // A choice of recipients and a group file with each call to the provider, the registry and the file system
 // failing in turn, with the codes of every family. Nothing that was handed out is kept, what the user had
@@ -53,7 +53,7 @@ class StandingClock : public certificates::Clock {
 
 // One whole session, from the opening of the context to its closing: the user searches the local store, adds
 // all that is found and confirms; every question is answered with `answer`.
-class Session {
+class Session final : public certificates::SelectionRun {
   public:
     Session() {
         profile_.csProfiles = {L"main"};
@@ -71,20 +71,23 @@ class Session {
         }
     }
 
-    std::optional<corvane::store::TextList> Run() {
+    // What the user does in the dialog.
+    bool Run(certificates::RecipientSelectionForm& form,
+             const certificates::Cryptocontext& context) override {
+        wasDialogShown = true;
+        if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
+            return false;
+        }
+        form.CheckAllFound(true);
+        static_cast<void>(form.AddChecked());
+        return reports.IsAccepted(form.Confirm(context, reports.reporter, nullptr), nullptr);
+    }
+
+    std::optional<corvane::store::TextList> Choose() {
         const certificates::CertServices services{sessions, reports.reporter, warnings, registry, clock,
                                                   input,    opening};
-        const std::optional<corvane::certificates::ChosenRecipients> chosen = certificates::ChooseRecipients(
-            {nullptr, profile_, 0, waitWindow, services}, {},
-            [this](certificates::RecipientSelectionForm& form, const certificates::Cryptocontext& context) {
-                wasDialogShown = true;
-                if (!form.SearchLocalStore(context, reports.reporter, nullptr)) {
-                    return false;
-                }
-                form.CheckAllFound(true);
-                static_cast<void>(form.AddChecked());
-                return reports.IsAccepted(form.Confirm(context, reports.reporter, nullptr), nullptr);
-            });
+        const std::optional<corvane::certificates::ChosenRecipients> chosen =
+            certificates::ChooseRecipients({nullptr, profile_, 0, waitWindow, services, *this}, {});
         return chosen ? std::optional(chosen->owners) : std::nullopt;
     }
 
@@ -120,7 +123,7 @@ enum Call : std::size_t { kInitialize, kProbe, kLoadCrl, kSearchLocal, kResolve,
 
 TEST(SessionFaults, AnUndisturbedSessionMakesTheseCalls) {
     Session session;
-    EXPECT_EQ(session.Run(), corvane::store::TextList{L"CN=A"});
+    EXPECT_EQ(session.Choose(), corvane::store::TextList{L"CN=A"});
     EXPECT_EQ(session.sessions.log,
               (std::vector<std::string>{"initialize", "find", "free result", "control", "find", "free result",
                                         "find", "free result", "uninitialize"}));
@@ -135,7 +138,7 @@ TEST(SessionFaults, EveryProviderCallThatFailsIsShownAndLeavesNothingBehind) {
             SCOPED_TRACE("call " + std::to_string(call) + " fails with " + std::to_string(status));
             Session session;
             session.sessions.FailCall(call, status);
-            const std::optional<corvane::store::TextList> result = session.Run();
+            const std::optional<corvane::store::TextList> result = session.Choose();
             session.ExpectNothingKept();
             const bool isNothingFoundByProbe = call == kProbe && status == provider::kStatusNothingFound;
             const std::size_t shown = session.warnings.count + session.reports.presenter.Boxes().size();
@@ -159,7 +162,7 @@ TEST(SessionFaults, TheUserMayStopAtTheNetworkStoreAndAtTheRevocationLists) {
             Session session;
             session.sessions.FailCall(call, status);
             session.reports.presenter.AnswerNext(2);
-            EXPECT_EQ(session.Run(), std::nullopt);
+            EXPECT_EQ(session.Choose(), std::nullopt);
             EXPECT_FALSE(session.wasDialogShown);
             EXPECT_EQ(session.sessions.OpenContexts(), 0U);
             session.ExpectNothingKept();
@@ -171,7 +174,7 @@ TEST(SessionFaults, EveryRegistryCallThatFailsIsReportedAndOnlyTheMissingKeyStop
     std::size_t calls = 0;
     {
         Session session;
-        EXPECT_TRUE(session.Run());
+        EXPECT_TRUE(session.Choose());
         calls = session.registry.Calls().size();
         ASSERT_GE(calls, 4U);
     }
@@ -180,7 +183,7 @@ TEST(SessionFaults, EveryRegistryCallThatFailsIsReportedAndOnlyTheMissingKeyStop
             SCOPED_TRACE("call " + std::to_string(call) + " fails with " + std::to_string(code));
             Session session;
             session.registry.FailCall(call, code);
-            const std::optional<corvane::store::TextList> result = session.Run();
+            const std::optional<corvane::store::TextList> result = session.Choose();
             session.ExpectNothingKept();
             const RegistryCall& failed = session.registry.Calls()[call];
             const bool isOpen = failed.operation == RegistryOperation::kOpen;
@@ -203,7 +206,7 @@ TEST(SessionFaults, ProviderCallsThatFailFromOneOnAreShownOneByOneUntilTheChoice
             SCOPED_TRACE("from call " + std::to_string(first) + " on with " + std::to_string(status));
             Session session;
             session.sessions.FailCallsFrom(first, status);
-            EXPECT_EQ(session.Run().has_value(), first == kClose);
+            EXPECT_EQ(session.Choose().has_value(), first == kClose);
             session.ExpectNothingKept();
             EXPECT_EQ(session.wasDialogShown, first != kInitialize);
             std::size_t warnings = 0;
@@ -228,7 +231,7 @@ TEST(SessionFaults, RegistryCallsThatFailFromOneOnAreReportedOneByOne) {
     std::vector<RegistryCall> clean;
     {
         Session session;
-        EXPECT_TRUE(session.Run());
+        EXPECT_TRUE(session.Choose());
         clean = session.registry.Calls();
     }
     for (const std::uint32_t code : kCodes) {
@@ -236,7 +239,7 @@ TEST(SessionFaults, RegistryCallsThatFailFromOneOnAreReportedOneByOne) {
             SCOPED_TRACE("from call " + std::to_string(first) + " on with " + std::to_string(code));
             Session session;
             session.registry.FailCallsFrom(first, code);
-            const std::optional<corvane::store::TextList> result = session.Run();
+            const std::optional<corvane::store::TextList> result = session.Choose();
             session.ExpectNothingKept();
             const bool isWithoutKey = clean[first].operation == RegistryOperation::kOpen;
             EXPECT_EQ(result.has_value(), !isWithoutKey);

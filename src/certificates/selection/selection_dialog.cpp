@@ -266,23 +266,22 @@ void CPreEncryptDlg::ExchangeFields(toolkit::DataExchange& exchange) {
     exchange.Text(IDC_SELECTION_LIST_NAME_EDIT, form_.listName);
 }
 
-SelectionRun ShowSelectionDialog(toolkit::WindowHandle owner, reporting::ErrorReporter& reporter,
-                                 toolkit::FileCalls& files) {
-    return [owner, &reporter, &files](RecipientSelectionForm& form, const Cryptocontext& context) {
-        return CPreEncryptDlg(owner, form, context, reporter, files).RunModal() == IDOK;
-    };
+bool SelectionDialogRun::Run(RecipientSelectionForm& form, const Cryptocontext& context) {
+    return CPreEncryptDlg(owner_, form, context, reporter_, files_).RunModal() == IDOK;
 }
 
 std::optional<ChosenRecipients> EditRecipients(toolkit::WindowHandle owner, const store::Profile& profile,
                                                std::size_t csProfileIndex, const store::TextList& recipients,
                                                const CertServices& services, toolkit::FileCalls& files) {
     AwaitWindow waitWindow(services.reporter);
+    SelectionDialogRun dialog(owner, services.reporter, files);
     return ChooseRecipients({.owner = owner,
                              .profile = profile,
                              .csProfileIndex = csProfileIndex,
                              .waitWindow = waitWindow,
-                             .services = services},
-                            recipients, ShowSelectionDialog(owner, services.reporter, files));
+                             .services = services,
+                             .dialog = dialog},
+                            recipients);
 }
 
 }  // namespace corvane::certificates

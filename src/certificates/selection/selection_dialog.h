@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "certificates/selection/owner_list_view.h"
-#include "certificates/selection/recipient_selection.h"
 #include "certificates/selection/selection_form.h"
 #include "certificates/session/cert_services.h"
 #include "certificates/session/cryptocontext.h"
@@ -59,10 +58,21 @@ class CPreEncryptDlg final : public reporting::ProductDialog {
     OwnerListView chosenList_{chosenOwners_};
 };
 
-/// The run that shows CPreEncryptDlg, owned by `owner`, on the form that it is given. `reporter` and `files`
-/// must outlive it.
-[[nodiscard]] SelectionRun ShowSelectionDialog(toolkit::WindowHandle owner,
-                                               reporting::ErrorReporter& reporter, toolkit::FileCalls& files);
+/// Shows CPreEncryptDlg, owned by `owner`, on the form that a run is given. `reporter` and `files` must
+/// outlive it.
+class SelectionDialogRun final : public SelectionRun {
+  public:
+    SelectionDialogRun(toolkit::WindowHandle owner, reporting::ErrorReporter& reporter,
+                       toolkit::FileCalls& files)
+        : owner_(owner), reporter_(reporter), files_(files) {}
+
+    bool Run(RecipientSelectionForm& form, const Cryptocontext& context) override;
+
+  private:
+    toolkit::WindowHandle owner_;
+    reporting::ErrorReporter& reporter_;
+    toolkit::FileCalls& files_;
+};
 
 /// Lets the user choose the recipients of a rule under CS profile `csProfileIndex` of `profile`, beginning
 /// with `recipients`. None when the user cancels or no cryptocontext can be opened, which has been shown. A

@@ -365,4 +365,28 @@ void RecipientSelectionForm::SortChosen(SortDirection direction) {
     chosenSort_ = {.direction = direction, .wasSorted = true, .isSorted = true};
 }
 
+std::optional<CertSession> OpenCertSession(const SelectionPlace& place, CertificateUse use) {
+    return OpenCertSession(place.owner, place.profile, place.csProfileIndex, use, place.waitWindow,
+                           place.services);
+}
+
+std::optional<ChosenRecipients> ChooseRecipients(const SelectionPlace& place,
+                                                 const store::TextList& recipients) {
+    std::optional<CertSession> session = OpenCertSession(place, CertificateUse::kRecipients);
+    if (!session) {
+        return std::nullopt;
+    }
+    SelectionStart start;
+    start.chosen = recipients;
+    start.isNetworkStoreAvailable = session->isNetworkStoreAvailable;
+    RecipientSelectionForm form(session->settings, std::move(start), place.services.reporter.Text());
+    if (!place.dialog.Run(form, session->context)) {
+        // Deliberate: a cancelled choice of recipients closes no cryptocontext, it only lets go of it. Users
+        // of the rule editor get back to their rule without another call to the provider.
+        session->context.Drop();
+        return std::nullopt;
+    }
+    return ChosenRecipients{form.Result(), std::move(*session)};
+}
+
 }  // namespace corvane::certificates

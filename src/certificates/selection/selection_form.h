@@ -7,7 +7,10 @@
 #include <vector>
 
 #include "certificates/search/owner_texts.h"
+#include "certificates/session/cert_services.h"
+#include "certificates/session/cert_session.h"
 #include "certificates/session/cryptocontext.h"
+#include "certificates/session/wait_window.h"
 #include "reporting/error_reporter.h"
 #include "reporting/refusal.h"
 #include "store/records.h"
@@ -161,5 +164,48 @@ class RecipientSelectionForm {
     std::wstring openedListName_;
     store::TextList result_;
 };
+
+/// The selection dialog for whoever opens it.
+class SelectionRun {
+  public:
+    virtual ~SelectionRun() = default;
+
+    /// Shows the dialog on a form, with the cryptocontext for its searches. Returns whether the user
+    /// confirmed.
+    virtual bool Run(RecipientSelectionForm& form, const Cryptocontext& context) = 0;
+
+  protected:
+    SelectionRun() = default;
+    SelectionRun(const SelectionRun&) = default;
+    SelectionRun& operator=(const SelectionRun&) = default;
+    SelectionRun(SelectionRun&&) = default;
+    SelectionRun& operator=(SelectionRun&&) = default;
+};
+
+/// What a selection works with. `owner` is the window that asks for it.
+struct SelectionPlace {
+    toolkit::WindowHandle owner = nullptr;
+    const store::Profile& profile;
+    std::size_t csProfileIndex = 0;
+    WaitWindow& waitWindow;
+    const CertServices& services;
+    SelectionRun& dialog;
+};
+
+/// Opens the cryptocontext for the time of one selection dialog. Where none can be opened, which has been
+/// shown, the dialog is not shown and nothing changes.
+[[nodiscard]] std::optional<CertSession> OpenCertSession(const SelectionPlace& place, CertificateUse use);
+
+/// The recipients that the user confirmed, and the cryptocontext, which is closed with this object: still
+/// open, so that the choice can be kept and shown before the closing, which may fail, is reported.
+struct ChosenRecipients {
+    store::TextList owners;
+    CertSession session;
+};
+
+/// Lets the user choose the recipients of a rule, beginning with `recipients`. None when the user cancels or
+/// no cryptocontext can be opened.
+[[nodiscard]] std::optional<ChosenRecipients> ChooseRecipients(const SelectionPlace& place,
+                                                               const store::TextList& recipients);
 
 }  // namespace corvane::certificates

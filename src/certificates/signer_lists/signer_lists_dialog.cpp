@@ -4,7 +4,6 @@
 
 #include <commctrl.h>
 
-#include "certificates/selection/recipient_selection.h"
 #include "certificates/selection/selection_dialog.h"
 #include "certificates/session/wait_dialog.h"
 #include "certificates/signer_lists/signer_lists_form.h"
@@ -52,7 +51,7 @@ class SignerList final : public reporting::ProductDialog, private toolkit::RowSo
     void ShowLists();
     void ShowWhatCanBeDone() const;
 
-    [[nodiscard]] SelectionPlace Place();
+    [[nodiscard]] SelectionPlace Place(SelectionRun& dialog);
     void Add();
     void EditSelected();
     void DeleteSelected();
@@ -183,17 +182,18 @@ bool SignerList::OnNotify(NMHDR& header, LRESULT& /*result*/) {
     }
 }
 
-SelectionPlace SignerList::Place() {
+SelectionPlace SignerList::Place(SelectionRun& dialog) {
     return {.owner = Window(),
             .profile = profile_,
             .csProfileIndex = csProfileIndex_,
             .waitWindow = waitWindow_,
-            .services = services_};
+            .services = services_,
+            .dialog = dialog};
 }
 
 void SignerList::Add() {
-    if (const auto session =
-            AddSignerList(form_, Place(), ShowSelectionDialog(Window(), services_.reporter, files_))) {
+    SelectionDialogRun dialog(Window(), services_.reporter, files_);
+    if (const auto session = AddSignerList(form_, Place(dialog))) {
         ShowLists();
         list_.ScrollIntoView(list_.RowCount() - 1);
     }
@@ -204,8 +204,8 @@ void SignerList::EditSelected() {
     if (row < 0) {
         return;
     }
-    if (const auto session = EditSignerList(form_, static_cast<std::size_t>(row), Place(),
-                                            ShowSelectionDialog(Window(), services_.reporter, files_))) {
+    SelectionDialogRun dialog(Window(), services_.reporter, files_);
+    if (const auto session = EditSignerList(form_, static_cast<std::size_t>(row), Place(dialog))) {
         ShowLists();
     }
 }

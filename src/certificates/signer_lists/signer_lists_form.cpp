@@ -91,4 +91,37 @@ std::wstring SignerListsForm::Describe(std::size_t position) const {
     return text;
 }
 
+std::optional<CertSession> AddSignerList(SignerListsForm& lists, const SelectionPlace& place) {
+    std::optional<CertSession> session = OpenCertSession(place, CertificateUse::kSigners);
+    if (!session) {
+        return std::nullopt;
+    }
+    RecipientSelectionForm form(session->settings, lists.StartOfNewList(session->isNetworkStoreAvailable),
+                                place.services.reporter.Text());
+    if (!place.dialog.Run(form, session->context)) {
+        return std::nullopt;
+    }
+    lists.Add(form);
+    return session;
+}
+
+std::optional<CertSession> EditSignerList(SignerListsForm& lists, std::size_t position,
+                                          const SelectionPlace& place) {
+    if (position >= lists.Lists().size()) {
+        return std::nullopt;
+    }
+    std::optional<CertSession> session = OpenCertSession(place, CertificateUse::kSigners);
+    if (!session) {
+        return std::nullopt;
+    }
+    RecipientSelectionForm form(session->settings,
+                                lists.StartOfEditing(position, session->isNetworkStoreAvailable),
+                                place.services.reporter.Text());
+    if (!place.dialog.Run(form, session->context)) {
+        return std::nullopt;
+    }
+    lists.Replace(position, form);
+    return session;
+}
+
 }  // namespace corvane::certificates

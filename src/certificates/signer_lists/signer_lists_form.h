@@ -50,4 +50,12 @@ class SignerListsForm {
     std::vector<store::SignerGroup> lists_;
 };
 
+/// Lets the user make a new signer list. Returns the cryptocontext when the lists changed, else none.
+[[nodiscard]] std::optional<CertSession> AddSignerList(SignerListsForm& lists, const SelectionPlace& place);
+
+/// Lets the user change the signer list at `position`. Returns the cryptocontext when the lists changed, else
+/// none.
+[[nodiscard]] std::optional<CertSession> EditSignerList(SignerListsForm& lists, std::size_t position,
+                                                        const SelectionPlace& place);
+
 }  // namespace corvane::certificates

@@ -1,7 +1,11 @@
-#include "certificates/selection/recipient_selection.h"
+#include "certificates/selection/selection_form.h"
 
 #include <gmock/gmock.h>
 
+#include <functional>
+#include <utility>
+
+#include "certificates/signer_lists/signer_lists_form.h"
 #include "reporting/message_styles.h"
 #include "tests/certificates/provider_fixture.h"
 
@@ -10,6 +14,20 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+
+using Choosing = std::function<bool(certificates::RecipientSelectionForm& form,
+                                    const certificates::Cryptocontext& context)>;
+
+// A selection dialog whose user is a function.
+class ScriptedRun final : public certificates::SelectionRun {
+  public:
+    bool Run(certificates::RecipientSelectionForm& form,
+             const certificates::Cryptocontext& context) override {
+        return user(form, context);
+    }
+
+    Choosing user;
+};
 
 class Selection : public CertsFixture {
   protected:
@@ -22,12 +40,13 @@ class Selection : public CertsFixture {
         };
     }
 
-    [[nodiscard]] certificates::SelectionPlace Place() {
-        return {owner_, profile_, 0, waitWindow_, services_};
+    [[nodiscard]] certificates::SelectionPlace Place(Choosing user) {
+        dialog_.user = std::move(user);
+        return {owner_, profile_, 0, waitWindow_, services_, dialog_};
     }
 
     // A user who confirms what the dialog starts with.
-    certificates::SelectionRun Confirming(const std::wstring& listName = {}) {
+    Choosing Confirming(const std::wstring& listName = {}) {
         return [this, listName](certificates::RecipientSelectionForm& form,
                                 const certificates::Cryptocontext& context) {
             sessions_.log.emplace_back("dialog");
@@ -43,7 +62,7 @@ class Selection : public CertsFixture {
             return Reports().IsAccepted(form.Confirm(context, Reporter(), owner_), owner_);
         };
     }
-    certificates::SelectionRun Cancelling() {
+    Choosing Cancelling() {
         return [this](certificates::RecipientSelectionForm& /*form*/,
                       const certificates::Cryptocontext& /*context*/) {
             sessions_.log.emplace_back("dialog");
@@ -51,6 +70,7 @@ class Selection : public CertsFixture {
         };
     }
 
+    ScriptedRun dialog_;
     store::Profile profile_;
     certificates::SignerListsForm lists_{{{L"one", {L"CN=A"}}, {L"two", {L"CN=B"}}}};
     bool wasForSigners_ = false;
@@ -61,7 +81,7 @@ class Selection : public CertsFixture {
 TEST_F(Selection, ChosenRecipientsComeBackAndTheContextIsClosed) {
     {
         const std::optional<certificates::ChosenRecipients> chosen =
-            certificates::ChooseRecipients(Place(), {L"CN=A"}, Confirming());
+            certificates::ChooseRecipients(Place(Confirming()), {L"CN=A"});
         ASSERT_TRUE(chosen);
         EXPECT_THAT(chosen->owners, ElementsAre(L"CN=A", L"CN=New"));
         EXPECT_THAT(sessions_.Closed(), IsEmpty()) << "closed before the choice could be kept";
@@ -74,16 +94,16 @@ TEST_F(Selection, ChosenRecipientsComeBackAndTheContextIsClosed) {
 }
 
 TEST_F(Selection, ACancelledChoiceOfRecipientsDropsTheContextUnclosed) {
-    EXPECT_FALSE(certificates::ChooseRecipients(Place(), {L"CN=A"}, Cancelling()));
+    EXPECT_FALSE(certificates::ChooseRecipients(Place(Cancelling()), {L"CN=A"}));
     EXPECT_THAT(sessions_.Closed(), IsEmpty());
     EXPECT_EQ(sessions_.OpenContexts(), 1U);
 }
 
 TEST_F(Selection, WithoutAContextNoDialogIsShown) {
     sessions_.initializeStatus = 0xE0700001;
-    EXPECT_FALSE(certificates::ChooseRecipients(Place(), {L"CN=A"}, Confirming()));
-    EXPECT_FALSE(certificates::AddSignerList(lists_, Place(), Confirming(L"three")));
-    EXPECT_FALSE(certificates::EditSignerList(lists_, 0, Place(), Confirming(L"three")));
+    EXPECT_FALSE(certificates::ChooseRecipients(Place(Confirming()), {L"CN=A"}));
+    EXPECT_FALSE(certificates::AddSignerList(lists_, Place(Confirming(L"three"))));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 0, Place(Confirming(L"three"))));
     EXPECT_THAT(sessions_.log, ::testing::Not(::testing::Contains("dialog")));
     EXPECT_EQ(lists_.Lists().size(), 2U);
     EXPECT_EQ(warnings_.warnings.size(), 3U);
@@ -93,7 +113,7 @@ TEST_F(Selection, AFailureToCloseIsReportedAndTheChoiceHolds) {
     sessions_.uninitializeStatus = 6;
     {
         const std::optional<certificates::ChosenRecipients> chosen =
-            certificates::ChooseRecipients(Place(), {}, Confirming());
+            certificates::ChooseRecipients(Place(Confirming()), {});
         ASSERT_TRUE(chosen);
         EXPECT_THAT(chosen->owners, ElementsAre(L"CN=New"));
         EXPECT_THAT(Boxes(), IsEmpty());
@@ -105,7 +125,7 @@ TEST_F(Selection, AFailureToCloseIsReportedAndTheChoiceHolds) {
 TEST_F(Selection, ANewSignerListIsAppended) {
     {
         const std::optional<certificates::CertSession> session =
-            certificates::AddSignerList(lists_, Place(), Confirming(L"three"));
+            certificates::AddSignerList(lists_, Place(Confirming(L"three")));
         EXPECT_TRUE(session);
         EXPECT_THAT(sessions_.Closed(), IsEmpty()) << "closed before the list could be shown";
     }
@@ -119,31 +139,31 @@ TEST_F(Selection, ANewSignerListIsAppended) {
 }
 
 TEST_F(Selection, AnEditedSignerListIsReplacedInPlace) {
-    EXPECT_TRUE(certificates::EditSignerList(lists_, 0, Place(), Confirming()));
+    EXPECT_TRUE(certificates::EditSignerList(lists_, 0, Place(Confirming())));
     EXPECT_EQ(title_, L"Edit list");
     EXPECT_THAT(lists_.Lists(), ElementsAre(store::SignerGroup{L"one", {L"CN=A", L"CN=New"}},
                                             store::SignerGroup{L"two", {L"CN=B"}}));
-    EXPECT_TRUE(certificates::EditSignerList(lists_, 0, Place(), Confirming(L"renamed")));
+    EXPECT_TRUE(certificates::EditSignerList(lists_, 0, Place(Confirming(L"renamed"))));
     EXPECT_EQ(lists_.Lists()[0].name, L"renamed");
 }
 
 TEST_F(Selection, ASignerListMayNotTakeTheNameOfAnotherOne) {
-    EXPECT_FALSE(certificates::EditSignerList(lists_, 0, Place(), Confirming(L"two")));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 0, Place(Confirming(L"two"))));
     EXPECT_EQ(lists_.Lists()[0].name, L"one");
     ASSERT_EQ(Boxes().size(), 1U);
     EXPECT_EQ(Boxes()[0].text, L"List with this name already exists");
 }
 
 TEST_F(Selection, ACancelledSignerListClosesTheContext) {
-    EXPECT_FALSE(certificates::AddSignerList(lists_, Place(), Cancelling()));
-    EXPECT_FALSE(certificates::EditSignerList(lists_, 1, Place(), Cancelling()));
+    EXPECT_FALSE(certificates::AddSignerList(lists_, Place(Cancelling())));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 1, Place(Cancelling())));
     EXPECT_THAT(sessions_.Closed(),
                 ElementsAre(ScriptedSessions::kFirstContext, ScriptedSessions::kFirstContext + 1));
     EXPECT_EQ(lists_.Lists().size(), 2U);
 }
 
 TEST_F(Selection, AListThatIsNotThereIsNotEdited) {
-    EXPECT_FALSE(certificates::EditSignerList(lists_, 2, Place(), Confirming()));
+    EXPECT_FALSE(certificates::EditSignerList(lists_, 2, Place(Confirming())));
     EXPECT_THAT(sessions_.log, IsEmpty());
 }
 
