@@ -6,7 +6,7 @@
 
 #include "reporting/message_styles.h"
 #include "res/ids.h"
-#include "tests/core/certs/certs_fixture.h"
+#include "tests/certificates/provider_fixture.h"
 
 namespace corvane::test {
 namespace {
