@@ -40,12 +40,14 @@ void SuppliedListView::Update() {
     if ((Send(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_CHECKBOXES) == 0) {
         return;
     }
-    for (int row = 0; row < count; ++row) {
-        const bool isTicked = rows_.IsTicked(static_cast<std::size_t>(row));
-        // New rows come without a tick.
-        const bool showsTick = row < kept && CheckState(row) == 1;
-        if (isTicked != showsTick) {
-            SetChecked(row, isTicked);
+    // New rows come without a tick.
+    shownTicks_.resize(static_cast<std::size_t>(kept));
+    shownTicks_.resize(static_cast<std::size_t>(count));
+    for (std::size_t row = 0; row < shownTicks_.size(); ++row) {
+        const bool isTicked = rows_.IsTicked(row);
+        if (isTicked != shownTicks_[row]) {
+            shownTicks_[row] = isTicked;
+            SetChecked(static_cast<int>(row), isTicked);
         }
     }
 }
@@ -63,8 +65,12 @@ bool SuppliedListView::Answer(NMHDR& header) {
     if (header.code == LVN_ITEMCHANGED && !isShowingTicks_) {
         const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
         if (IsTickOf(change)) {
-            rows_.Tick(static_cast<std::size_t>(change.iItem),
-                       (change.uNewState & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2U));
+            const auto row = static_cast<std::size_t>(change.iItem);
+            const bool isTicked = (change.uNewState & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(2U);
+            if (row < shownTicks_.size()) {
+                shownTicks_[row] = isTicked;
+            }
+            rows_.Tick(row, isTicked);
             // Not every version of the control tells screen readers. To be told twice does no harm: they
             // ask for the state then, and it is the same.
             NotifyWinEvent(EVENT_OBJECT_STATECHANGE, Window(), OBJID_CLIENT, change.iItem + 1);

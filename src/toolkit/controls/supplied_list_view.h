@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "toolkit/controls/list_view.h"
 
@@ -64,6 +65,8 @@ class SuppliedListView : public ListView {
     RowSource& rows_;
     /// The control notifies of ticks that are only shown, too.
     bool isShowingTicks_ = false;
+    /// The ticks as the control has them: to ask it for each row takes longer than all else.
+    std::vector<bool> shownTicks_;
     // An answered text must outlive the next two questions.
     std::array<std::wstring, 4> answers_;
     std::size_t nextAnswer_ = 0;
