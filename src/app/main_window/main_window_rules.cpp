@@ -150,8 +150,7 @@ void CCorvaneDlg::DescribeCell(const NMITEMACTIVATE& click) {
 
 void CCorvaneDlg::CopyCheckBoxes() {
     TakeData();
-    SyncCheckBoxes(state_,
-                   [this](std::size_t row) { return ruleList_.Control().CheckState(static_cast<int>(row)); });
+    SyncCheckBoxes(state_, ruleList_);
 }
 
 void CCorvaneDlg::TakeTicksOfShownRules() {
@@ -163,8 +162,7 @@ void CCorvaneDlg::TakeTicksOfShownRules() {
     // the list loses the focus. After a profile was deleted the list shows nothing at all.
     const auto position = static_cast<std::size_t>(current - state_.profiles.data());
     if (ruleList_.ShowsEveryRuleOf(position)) {
-        TakeTicks(state_, position,
-                  [this](std::size_t row) { return ruleList_.Control().CheckState(static_cast<int>(row)); });
+        TakeTicks(state_, position, ruleList_);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/rule_list/rule_ticks.h"
 #include "store/records.h"
 #include "toolkit/controls/supplied_list_view.h"
 #include "toolkit/text/system_text.h"
@@ -12,7 +13,7 @@
 namespace corvane::app {
 
 /// The list of the current profile's rules. What the user ticks stays in the control until it is asked for.
-class RuleListView final : private toolkit::RowSource {
+class RuleListView final : public CheckBoxes, private toolkit::RowSource {
   public:
     /// What a refill keeps: nothing, the scroll position, or the selected rules too, as far as they are
     /// still listed. The last is only for rules that stayed at their positions.
@@ -36,6 +37,10 @@ class RuleListView final : private toolkit::RowSource {
     [[nodiscard]] bool ShowsEveryRuleOf(std::size_t profilePosition) const;
 
     [[nodiscard]] std::wstring CellText(std::size_t row, std::size_t column) const override;
+
+    [[nodiscard]] int CheckState(std::size_t row) const override {
+        return list_.CheckState(static_cast<int>(row));
+    }
 
     [[nodiscard]] toolkit::SuppliedListView& Control() { return list_; }
     [[nodiscard]] const toolkit::ListView& Control() const { return list_; }

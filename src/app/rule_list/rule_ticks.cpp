@@ -18,7 +18,7 @@ void SyncRule(store::Rule& rule, int checkState, bool& isDirty) {
 
 }  // namespace
 
-void SyncCheckBoxes(store::ConfigurationState& state, const std::function<int(std::size_t row)>& checkState) {
+void SyncCheckBoxes(store::ConfigurationState& state, const CheckBoxes& boxes) {
     if (state.currentProfileName.empty()) {
         return;
     }
@@ -28,17 +28,16 @@ void SyncCheckBoxes(store::ConfigurationState& state, const std::function<int(st
         }
         for (std::size_t position = 0; position < profile.rules.size(); ++position) {
             if (!profile.rules[position].operation.empty()) {
-                SyncRule(profile.rules[position], checkState(position), state.isDirty);
+                SyncRule(profile.rules[position], boxes.CheckState(position), state.isDirty);
             }
         }
     }
 }
 
-void TakeTicks(store::ConfigurationState& state, std::size_t profilePosition,
-               const std::function<int(std::size_t row)>& checkState) {
+void TakeTicks(store::ConfigurationState& state, std::size_t profilePosition, const CheckBoxes& boxes) {
     std::vector<store::Rule>& rules = state.profiles.at(profilePosition).rules;
     for (std::size_t position = 0; position < rules.size(); ++position) {
-        const bool isChecked = checkState(position) != 0;
+        const bool isChecked = boxes.CheckState(position) != 0;
         if (isChecked != (rules[position].isOn != 0)) {
             rules[position].isOn = isChecked ? 1 : 0;
             state.isDirty = true;

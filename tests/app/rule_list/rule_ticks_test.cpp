@@ -31,10 +31,26 @@ store::NumberList Switches(const store::ConfigurationState& state, std::size_t p
 }
 
 // A list with these check boxes, which answers for rows that it does not have as a list does.
-std::function<int(std::size_t)> ListWith(std::vector<int> boxes) {
-    return
-        [boxes = std::move(boxes)](std::size_t row) { return row < boxes.size() ? boxes[row] : kNoSuchRow; };
-}
+class ListWith : public app::CheckBoxes {
+  public:
+    explicit ListWith(std::vector<int> boxes) : boxes_(std::move(boxes)) {}
+
+    [[nodiscard]] int CheckState(std::size_t row) const override {
+        return row < boxes_.size() ? boxes_[row] : kNoSuchRow;
+    }
+
+  private:
+    std::vector<int> boxes_;
+};
+
+// A list that must not be read.
+class UnreadList : public app::CheckBoxes {
+  public:
+    [[nodiscard]] int CheckState(std::size_t row) const override {
+        ADD_FAILURE() << "The box of row " << row << " was read.";
+        return kChecked;
+    }
+};
 
 TEST(SyncCheckBoxes, CopiesTheBoxesAndSetsTheDirtyFlag) {
     store::ConfigurationState state = StateWithSwitches({1, 0, 1});
@@ -110,10 +126,7 @@ TEST(SyncCheckBoxes, EveryProfileOfTheCurrentNameIsTakenAndNoOther) {
 
 TEST(SyncCheckBoxes, WithoutACurrentProfileNameNoBoxIsRead) {
     store::ConfigurationState state = StateWith({ProfileWithRules(L"", {L"a"})}, L"");
-    app::SyncCheckBoxes(state, [](std::size_t row) {
-        ADD_FAILURE() << "The box of row " << row << " was read.";
-        return kChecked;
-    });
+    app::SyncCheckBoxes(state, UnreadList());
     EXPECT_THAT(Switches(state), ElementsAre(0));
     EXPECT_FALSE(state.isDirty);
 }
