@@ -102,9 +102,9 @@ void InsertPlainly(const corvane::toolkit::ListView& list, const std::vector<cor
     const corvane::toolkit::ListView::RedrawLock locked(list);
     list.DeleteAllRows();
     for (std::size_t position = 0; position < rules.size(); ++position) {
-        list.AppendRow(corvane::app::RuleCellText(rules[position], position, 0));
-        for (std::size_t column = 1; column < corvane::app::kRuleColumnCount; ++column) {
-            std::wstring text = corvane::app::RuleCellText(rules[position], position, column);
+        list.AppendRow(corvane::app::RuleColumnAt(0).text(rules[position], position));
+        for (std::size_t column = 1; column < corvane::app::RuleColumns().size(); ++column) {
+            std::wstring text = corvane::app::RuleColumnAt(column).text(rules[position], position);
             LVITEMW cell = {};
             cell.iSubItem = static_cast<int>(column);
             cell.pszText = text.data();

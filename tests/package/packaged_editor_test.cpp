@@ -16,7 +16,7 @@
 // The editor as it was handed out, where CORVANE_EDITOR says, on the worked example in this user's registry.
 // The scripts that start this program have brought both there, so nothing is set aside or restored here.
 
-namespace corvane {
+namespace corvane::test {
 namespace {
 
 class PackagedEditor : public ::testing::Test {
@@ -84,4 +84,4 @@ TEST_F(PackagedEditor, IsLeftAloneWithWhatIsNotSavedWhileANewerVersionIsInstalle
 }
 
 }  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <initializer_list>
 #include <stdexcept>
 #include <type_traits>
 
@@ -233,7 +234,8 @@ TEST_F(ProductDialogTest, ControlsFollowTheSizeOfTheRestoredWindow) {
 TEST_F(ProductDialogTest, ControlsStayWhereTheWindowIsMinimisedOrHasNoMaximiseBox) {
     LetOkFollow();
     const RECT before = PlaceOf(IDOK);
-    for (const WPARAM kind : {SIZE_MINIMIZED, SIZE_MAXIMIZED, SIZE_MAXSHOW, SIZE_MAXHIDE}) {
+    for (const WPARAM kind :
+         std::initializer_list<WPARAM>{SIZE_MINIMIZED, SIZE_MAXIMIZED, SIZE_MAXSHOW, SIZE_MAXHIDE}) {
         SendMessageW(dialog_.Window(), WM_SIZE, kind, MAKELPARAM(3000, 2000));
         EXPECT_EQ(PlaceOf(IDOK).left, before.left) << kind;
         EXPECT_EQ(dialog_.arranged, 0) << kind;

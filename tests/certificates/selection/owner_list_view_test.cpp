@@ -24,7 +24,7 @@ class Owners final : public certificates::OwnerRows {
     }
     void ClickHeader() override { ++headerClicks; }
     [[nodiscard]] certificates::SortMark Mark() const override { return certificates::SortMark::kUp; }
-    [[nodiscard]] certificates::OwnerBox Details(std::size_t) const override { return {}; }
+    [[nodiscard]] reporting::Information Details(std::size_t) const override { return {}; }
 
     void Fill(std::size_t count) {
         names.clear();

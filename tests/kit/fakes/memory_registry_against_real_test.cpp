@@ -77,12 +77,12 @@ class Transcript {
     std::string lines_;
 };
 
-struct Case {
+struct ComparedCalls {
     const char* name;
     std::function<void(Transcript&)> run;
 };
 
-void PrintTo(const Case& row, std::ostream* out) {
+void PrintTo(const ComparedCalls& row, std::ostream* out) {
     *out << row.name;
 }
 
@@ -122,8 +122,8 @@ std::function<void(Transcript&)> SetAndRead(const std::wstring& name, const std:
     };
 }
 
-const std::vector<Case>& Cases() {
-    static const std::vector<Case> kCases = {
+const std::vector<ComparedCalls>& Cases() {
+    static const std::vector<ComparedCalls> kCases = {
         {"EmptyPath", ComeAndGo(L"")},
         {"PlainName", ComeAndGo(L"Two")},
         {"TwoNames", ComeAndGo(L"Two\\Three")},
@@ -230,7 +230,7 @@ const std::vector<Case>& Cases() {
     return kCases;
 }
 
-class MemoryRegistryIsLikeTheSystems : public ::testing::TestWithParam<Case> {};
+class MemoryRegistryIsLikeTheSystems : public ::testing::TestWithParam<ComparedCalls> {};
 
 TEST_P(MemoryRegistryIsLikeTheSystems, CallByCall) {
     const OwnRegistryRoot root;

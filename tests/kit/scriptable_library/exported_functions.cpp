@@ -92,7 +92,8 @@ std::uint32_t XSIG_GetErrorLineEx(corvane::provider::ProviderContext context,
 /// Being unloaded while the program goes on stands in the log as a call; ending with the program does not.
 BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD reason, void* isProgramEnding) {
     if (reason == DLL_PROCESS_DETACH && isProgramEnding == nullptr) {
-        corvane::test::CallLog(corvane::test::OwnFolder()).Write({.function = "Unload"});
+        corvane::test::CallLog(corvane::test::OwnFolder())
+            .Write({.function = "Unload", .arguments = {}, .out = {}});
     }
     return TRUE;
 }

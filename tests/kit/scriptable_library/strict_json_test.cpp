@@ -157,7 +157,7 @@ TEST_F(StrictJson, ALogIsReadAsItWasWritten) {
                .arguments = "name=\"A\"",
                .status = 5,
                .out = {.contexts = 1, .results = 2, .texts = 3, .wrong = 4}});
-    log.Write({.function = "Unload"});
+    log.Write({.function = "Unload", .arguments = {}, .out = {}});
     const std::vector<LoggedCall> calls = ReadCallLog(Folder());
     ASSERT_EQ(calls.size(), 2U);
     EXPECT_EQ(calls[0].arguments, "name=\"A\"");
