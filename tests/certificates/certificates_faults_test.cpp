@@ -14,8 +14,8 @@
 #include "tests/kit/fakes/memory_files.h"
 #include "tests/kit/fakes/memory_registry.h"
 #include "tests/kit/fakes/recording_input_gate.h"
-#include "tests/kit/fixtures/reporter_fixture.h"
 #include "tests/kit/fakes/scripted_sessions.h"
+#include "tests/kit/fixtures/reporter_fixture.h"
 
 // A choice of recipients and a group file with each call to the provider, the registry and the file system
 // failing in turn, with the codes of every family. Nothing that was handed out is kept, what the user had

@@ -40,7 +40,9 @@ class FoundOwners final : public OwnerRows {
     void Tick(std::size_t row, bool isTicked) override { form_.CheckFound(row, isTicked); }
     void ClickHeader() override { form_.ClickFoundHeader(); }
     [[nodiscard]] SortMark Mark() const override { return form_.FoundSortMark(); }
-    [[nodiscard]] reporting::Information Details(std::size_t row) const override { return form_.FoundDetails(row); }
+    [[nodiscard]] reporting::Information Details(std::size_t row) const override {
+        return form_.FoundDetails(row);
+    }
 
   private:
     RecipientSelectionForm& form_;
@@ -55,7 +57,9 @@ class ChosenOwners final : public OwnerRows {
     void Tick(std::size_t row, bool isTicked) override { form_.CheckChosen(row, isTicked); }
     void ClickHeader() override { form_.ClickChosenHeader(); }
     [[nodiscard]] SortMark Mark() const override { return form_.ChosenSortMark(); }
-    [[nodiscard]] reporting::Information Details(std::size_t row) const override { return form_.ChosenDetails(row); }
+    [[nodiscard]] reporting::Information Details(std::size_t row) const override {
+        return form_.ChosenDetails(row);
+    }
 
   private:
     RecipientSelectionForm& form_;

@@ -9,8 +9,8 @@
 #include "editors/profile/profile_form.h"
 #include "reporting/message_styles.h"
 #include "res/ids.h"
-#include "tests/kit/samples/sample_profiles.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
+#include "tests/kit/samples/sample_profiles.h"
 
 namespace corvane::test {
 namespace {

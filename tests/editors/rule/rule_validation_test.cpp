@@ -7,9 +7,9 @@
 
 #include "reporting/message_styles.h"
 #include "res/ids.h"
-#include "tests/kit/samples/sample_rules.h"
 #include "tests/kit/fakes/memory_files.h"
 #include "tests/kit/fixtures/reporter_fixture.h"
+#include "tests/kit/samples/sample_rules.h"
 
 namespace corvane::test {
 namespace {
