@@ -24,11 +24,14 @@ class StrictJson : public ::testing::Test {
         std::filesystem::create_directories(folder_);
     }
     ~StrictJson() override { std::filesystem::remove_all(folder_); }
+
+  public:
     StrictJson(const StrictJson&) = delete;
     StrictJson& operator=(const StrictJson&) = delete;
     StrictJson(StrictJson&&) = delete;
     StrictJson& operator=(StrictJson&&) = delete;
 
+  protected:
     [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
     [[nodiscard]] std::filesystem::path File() const { return folder_ / "file.json"; }
     [[nodiscard]] nlohmann::json WrittenScript() const {

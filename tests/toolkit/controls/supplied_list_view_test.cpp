@@ -110,12 +110,12 @@ class SuppliedListViewTest : public ::testing::Test {
 class ToldTicks {
   public:
     ToldTicks() {
-        told_.clear();
+        announced_.clear();
         hook_ = SetWinEventHook(
             EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, GetModuleHandleW(nullptr),
             [](HWINEVENTHOOK, DWORD, HWND, LONG object, LONG child, DWORD, DWORD) {
                 if (object == OBJID_CLIENT) {
-                    told_.push_back(child);
+                    announced_.push_back(child);
                 }
             },
             GetCurrentProcessId(), GetCurrentThreadId(), WINEVENT_INCONTEXT);
@@ -126,10 +126,10 @@ class ToldTicks {
     ToldTicks& operator=(ToldTicks&&) = delete;
     ~ToldTicks() { UnhookWinEvent(hook_); }
 
-    [[nodiscard]] const std::vector<LONG>& Rows() const { return told_; }
+    [[nodiscard]] const std::vector<LONG>& Rows() const { return announced_; }
 
   private:
-    inline static std::vector<LONG> told_;
+    inline static std::vector<LONG> announced_;
     HWINEVENTHOOK hook_;
 };
 
