@@ -23,9 +23,9 @@ class StrictJson : public ::testing::Test {
                   ("strict_json_" + std::to_string(GetCurrentProcessId()))) {
         std::filesystem::create_directories(folder_);
     }
-    ~StrictJson() override { std::filesystem::remove_all(folder_); }
 
   public:
+    ~StrictJson() override { std::filesystem::remove_all(folder_); }
     StrictJson(const StrictJson&) = delete;
     StrictJson& operator=(const StrictJson&) = delete;
     StrictJson(StrictJson&&) = delete;

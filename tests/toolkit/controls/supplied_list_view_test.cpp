@@ -110,12 +110,12 @@ class SuppliedListViewTest : public ::testing::Test {
 class ToldTicks {
   public:
     ToldTicks() {
-        announced_.clear();
+        announced.clear();
         hook_ = SetWinEventHook(
             EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, GetModuleHandleW(nullptr),
             [](HWINEVENTHOOK, DWORD, HWND, LONG object, LONG child, DWORD, DWORD) {
                 if (object == OBJID_CLIENT) {
-                    announced_.push_back(child);
+                    announced.push_back(child);
                 }
             },
             GetCurrentProcessId(), GetCurrentThreadId(), WINEVENT_INCONTEXT);
@@ -126,10 +126,10 @@ class ToldTicks {
     ToldTicks& operator=(ToldTicks&&) = delete;
     ~ToldTicks() { UnhookWinEvent(hook_); }
 
-    [[nodiscard]] const std::vector<LONG>& Rows() const { return announced_; }
+    [[nodiscard]] const std::vector<LONG>& Rows() const { return announced; }
 
   private:
-    inline static std::vector<LONG> announced_;
+    inline static std::vector<LONG> announced;
     HWINEVENTHOOK hook_;
 };
 
